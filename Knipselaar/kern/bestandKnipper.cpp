@@ -1,0 +1,77 @@
+#include "Knipselaar/kern/bestandKnipper.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <wx/log.h>
+#include <wx/wfstream.h>
+
+#include "Knipselaar/kern/tekstLezer.h"
+#include "Knipselaar/kern/tekstSchrijver.h"
+
+namespace kern {
+
+namespace {
+
+constexpr int geenBestand = -1;
+
+/// Geeft alleen een gewoon bestand door; al het andere gaat meteen weer dicht.
+int houdGewoonBestand(int bestand) {
+    struct stat gegevens {};
+    if (bestand != geenBestand && (fstat(bestand, &gegevens) != 0 || !S_ISREG(gegevens.st_mode))) {
+        close(bestand);
+        return geenBestand;
+    }
+    return bestand;
+}
+
+// O_NONBLOCK: op een pijp zonder tegenpartij zou open anders voor altijd wachten. Voor gewone bestanden
+// betekent de vlag niets.
+
+int openBron(const wxFileName& pad) {
+    return houdGewoonBestand(open(pad.GetFullPath().fn_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+}
+
+int openDoel(const wxFileName& pad) {
+    constexpr int vlaggen = O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+    constexpr mode_t rechten = 0666;
+    const wxString naam = pad.GetFullPath();
+    int bestand = open(naam.fn_str(), vlaggen);
+    if (bestand == geenBestand && errno == ENOENT) {
+        // O_EXCL: door een link die nergens heen wijst zou hier elders een bestand ontstaan.
+        bestand = open(naam.fn_str(), vlaggen | O_CREAT | O_EXCL, rechten);
+    }
+    bestand = houdGewoonBestand(bestand);
+    if (bestand != geenBestand && ftruncate(bestand, 0) != 0) {
+        close(bestand);
+        return geenBestand;
+    }
+    return bestand;
+}
+
+}  // namespace
+
+KnipUitslag knipBestand(const wxFileName& bron, const wxFileName& doel, const KnipTeksten& teksten) {
+    const wxLogNull geenMeldingen;
+    KnipUitslag uitslag;
+    wxFileInputStream origStroom(openBron(bron));
+    wxASSERT(origStroom.IsOk());
+    wxFileOutputStream uitStroom(openDoel(doel));
+    wxASSERT(uitStroom.IsOk());
+
+    if (origStroom.IsOk()) {
+        TekstLezer lezer(origStroom);
+        TekstSchrijver schrijver(uitStroom);
+        Knipper knipper(teksten, "\n");
+        const auto schrijf = [&schrijver](std::string_view stuk) { schrijver.schrijf(stuk); };
+        for (auto regels = lezer.leesRegels(); !regels.empty(); regels = lezer.leesRegels()) {
+            knipper.knip(regels, schrijf);
+        }
+        uitslag.bronHeelGelezen = lezer.isHeelGelezen();
+        uitslag.doelHeelGeschreven = schrijver.maakAf();
+    }
+    uitslag.doelHeelGeschreven = uitStroom.Close() && uitslag.doelHeelGeschreven;
+    return uitslag;
+}
+
+}  // namespace kern

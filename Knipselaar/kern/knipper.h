@@ -1,0 +1,49 @@
+#pragma once
+
+// Knipt hele regels: houdt de markers ertegen, laat het filter beslissen en geeft door wat blijft. Weet niet
+// waar de regels vandaan komen of heen gaan; het venster en de bestandsvariant staan er allebei op.
+
+#include <wx/string.h>
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "Knipselaar/kern/knipFilter.h"
+#include "Knipselaar/kern/markerMasker.h"
+
+namespace kern {
+
+/// De drie teksten die één knipbeurt bepalen.
+struct KnipTeksten {
+    wxString beginMarker;
+    wxString eindMarker;
+    wxString vervangtekst;
+};
+
+class Knipper {
+  public:
+    using Uitvoer = std::function<void(std::string_view)>;
+
+    /// @param achterVervanging  wat na elke vervangtekst geschreven wordt.
+    Knipper(const KnipTeksten& teksten, std::string_view achterVervanging);
+
+    /// Knipt de volgende regels; het blok waarin de vorige aanroep eindigde loopt door.
+    /// @param regels  hele regels in UTF-8, elk gesloten door "\n". De allerlaatste regel mag zonder; zij
+    ///                draagt dan nooit een marker.
+    /// @param uit     krijgt op volgorde de stukken die blijven; de bytes zijn alleen tijdens de aanroep
+    ///                geldig.
+    void knip(std::string_view regels, const Uitvoer& uit);
+
+  private:
+    MarkerMasker begin_;
+    MarkerMasker eind_;
+    std::string vervanging_;
+    KnipFilter filter_;
+};
+
+/// Knipt een tekst uit een editor: regels houden hun eigen regeleinde, de vervangtekst krijgt er geen bij.
+/// @param tekst  de hele tekst in UTF-8 met "\n" als regeleinde.
+std::string knipTekst(std::string_view tekst, const KnipTeksten& teksten);
+
+}  // namespace kern

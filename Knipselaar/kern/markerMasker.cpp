@@ -1,0 +1,85 @@
+#include "Knipselaar/kern/markerMasker.h"
+
+#include <cstring>
+
+namespace kern {
+
+namespace {
+
+/// Plaats van naald in hooi, of npos. memmem blijft ook bij bijna-treffers lineair; std::string_view::find
+/// doet dat niet.
+std::size_t zoek(std::string_view hooi, std::string_view naald) {
+    const void* plek = memmem(hooi.data(), hooi.size(), naald.data(), naald.size());
+    return plek == nullptr ? std::string_view::npos
+                           : static_cast<std::size_t>(static_cast<const char*>(plek) - hooi.data());
+}
+
+std::vector<std::string> splitsOpJokers(const wxString& marker) {
+    std::vector<std::string> stukken;
+    const std::string tekst = marker.utf8_string();
+    std::size_t begin = 0;
+    while ((begin = tekst.find_first_not_of("*?", begin)) != std::string::npos) {
+        const std::size_t eind = tekst.find_first_of("*?", begin);
+        stukken.push_back(tekst.substr(begin, eind - begin));
+        begin = eind == std::string::npos ? tekst.size() : eind;
+    }
+    return stukken;
+}
+
+}  // namespace
+
+MarkerMasker::MarkerMasker(const wxString& marker)
+    : masker_("*" + marker + "*"), stukken_(splitsOpJokers(marker)), heeftVraagteken_(marker.Contains("?")) {
+    for (const std::string& stuk : stukken_) {
+        if (stuk.size() > anker_.size()) {
+            anker_ = stuk;
+        }
+    }
+}
+
+// Een regel kan alleen passen als alle stukken er op volgorde in staan. Zonder "?" is dat ook genoeg; met
+// "?" beslist de toolkit, die er eigen regels voor heeft (een "?" direct na een "*" telt bijvoorbeeld niet).
+bool MarkerMasker::past(std::string_view regel) const {
+    std::string_view rest = regel;
+    for (const std::string& stuk : stukken_) {
+        const std::size_t plek = zoek(rest, stuk);
+        if (plek == std::string_view::npos) {
+            return false;
+        }
+        rest.remove_prefix(plek + stuk.size());
+    }
+    // De toolkit vergelijkt tot aan een NUL en komt dan nooit aan het einde van de regel.
+    if (regel.find('\0') != std::string_view::npos) {
+        return false;
+    }
+    return !heeftVraagteken_ || wxString::FromUTF8(regel.data(), regel.size()).Matches(masker_);
+}
+
+std::optional<Regel> MarkerMasker::zoekRegel(std::string_view regels, std::size_t vanaf) const {
+    std::size_t begin = vanaf;
+    while (begin < regels.size()) {
+        // Van anker naar anker springen in plaats van regel voor regel vergelijken: de meeste regels van
+        // een bestand dragen het anker niet en worden zo alleen door memmem gezien.
+        const std::size_t sprong = zoek(regels.substr(begin), anker_);
+        if (sprong == std::string_view::npos) {
+            return std::nullopt;
+        }
+        const std::size_t anker = begin + sprong;
+        const std::size_t vorigeEinde =
+            anker == begin ? std::string_view::npos : regels.rfind('\n', anker - 1);
+        if (vorigeEinde != std::string_view::npos && vorigeEinde >= begin) {
+            begin = vorigeEinde + 1;
+        }
+        const std::size_t einde = regels.find('\n', anker);
+        if (einde == std::string_view::npos) {
+            return std::nullopt;
+        }
+        if (past(regels.substr(begin, einde - begin))) {
+            return Regel{begin, einde + 1};
+        }
+        begin = einde + 1;
+    }
+    return std::nullopt;
+}
+
+}  // namespace kern

@@ -1,0 +1,44 @@
+#pragma once
+
+// Het masker van één marker: "*" + marker + "*", gehouden tegen een regel zonder haar regeleinde. Wat past
+// is precies wat wxString::Matches laat passen, dus "*" en "?" in de marker zijn jokers. Het masker bezit
+// zijn eigen kopie van de marker.
+
+#include <wx/string.h>
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kern {
+
+/// Plaats van een regel in een tekst, in bytes; eind ligt voorbij het regeleinde.
+struct Regel {
+    std::size_t begin;
+    std::size_t eind;
+};
+
+class MarkerMasker {
+  public:
+    explicit MarkerMasker(const wxString& marker);
+
+    /// Of een regel past.
+    /// @param regel  één regel in UTF-8 zonder regeleinde.
+    bool past(std::string_view regel) const;
+
+    /// De eerste passende regel vanaf een regelbegin.
+    /// @param regels  hele regels in UTF-8, elk gesloten door "\n". Een laatste regel zonder regeleinde
+    ///                past nooit.
+    /// @param vanaf   plaats in regels waar een regel begint, hoogstens regels.size().
+    std::optional<Regel> zoekRegel(std::string_view regels, std::size_t vanaf) const;
+
+  private:
+    wxString masker_;
+    std::vector<std::string> stukken_;  ///< de letterlijke stukken tussen de jokers, in UTF-8
+    std::string anker_;                 ///< het langste stuk: komt in andere regels het minst voor
+    bool heeftVraagteken_;
+};
+
+}  // namespace kern

@@ -1,0 +1,87 @@
+#include "Knipselaar/kern/regelOmzetter.h"
+
+#include "Knipselaar/kern/utf8.h"
+
+namespace kern {
+
+bool RegelOmzetter::isAlGoed(std::string_view blok) const {
+    return codering_ == Codering::utf8 && !naCR_ && halfTeken_.empty() && isSchoneUtf8(blok);
+}
+
+void RegelOmzetter::zetOm(std::string_view blok, std::string& uit) {
+    if (codering_ == Codering::latijn1) {
+        zetLatijn1Om(blok, uit);
+    } else if (halfTeken_.empty()) {
+        zetUtf8Om(blok, uit);
+    } else {
+        const std::string geheel = std::move(halfTeken_) + std::string(blok);
+        halfTeken_.clear();
+        zetUtf8Om(geheel, uit);
+    }
+}
+
+void RegelOmzetter::sluitAf(std::string& uit) {
+    const std::string rest = std::move(halfTeken_);
+    halfTeken_.clear();
+    zetLatijn1Om(rest, uit);
+    if (!naCR_) {
+        uit += '\n';
+    }
+}
+
+/// Verwerkt een teken dat een regel eindigt, of het tweede deel daarvan. False voor elk ander teken.
+bool RegelOmzetter::eindigRegel(char teken, std::string& uit) {
+    const bool hoortBijCR = naCR_ && teken == '\n';
+    naCR_ = teken == '\r';
+    if (teken != '\n' && teken != '\r' && teken != '\0') {
+        return false;
+    }
+    if (!hoortBijCR) {
+        uit += '\n';
+    }
+    return true;
+}
+
+void RegelOmzetter::zetUtf8Om(std::string_view blok, std::string& uit) {
+    while (!blok.empty()) {
+        const std::size_t gewoon = naCR_ ? 0 : telGewoneAscii(blok);
+        uit += blok.substr(0, gewoon);
+        blok.remove_prefix(gewoon);
+        if (blok.empty()) {
+            return;
+        }
+        const Utf8Teken teken = leesUtf8(blok);
+        if (teken.oordeel == Utf8Oordeel::half) {
+            halfTeken_ = blok;
+            return;
+        }
+        if (teken.oordeel == Utf8Oordeel::ongeldig) {
+            codering_ = Codering::latijn1;
+            zetLatijn1Om(blok, uit);
+            return;
+        }
+        // Een te lange vorm kan een regeleinde zijn; boven ASCII zegt alleen de waarde nog iets.
+        if (teken.waarde >= 0x80 || !eindigRegel(static_cast<char>(teken.waarde), uit)) {
+            naCR_ = false;
+            schrijfUtf8(teken.waarde, uit);
+        }
+        blok.remove_prefix(teken.lengte);
+    }
+}
+
+void RegelOmzetter::zetLatijn1Om(std::string_view blok, std::string& uit) {
+    while (!blok.empty()) {
+        const std::size_t gewoon = naCR_ ? 0 : telGewoneAscii(blok);
+        uit += blok.substr(0, gewoon);
+        blok.remove_prefix(gewoon);
+        if (blok.empty()) {
+            return;
+        }
+        if (!eindigRegel(blok[0], uit)) {
+            schrijfUtf8(static_cast<unsigned char>(blok[0]), uit);
+        }
+        blok.remove_prefix(1);
+    }
+}
+
+}  // namespace kern

@@ -1,0 +1,57 @@
+#pragma once
+
+// Leest een tekst in blokken en geeft hele regels in UTF-8, elk gesloten door "\n". Wat er uitkomt is regel
+// voor regel wat de tekststroom van de toolkit met wxConvAuto geeft, op de plaatsen na waar die bytes laat
+// verdwijnen of nooit ophoudt (zie RegelOmzetter en BreedHersteller). Houdt hoogstens één regel en een blok
+// vast. De invoer blijft van de aanroeper en moet langer leven.
+
+#include <wx/stream.h>
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Knipselaar/kern/regelOmzetter.h"
+
+class wxTextInputStream;
+
+namespace kern {
+
+class TekstLezer {
+  public:
+    explicit TekstLezer(wxInputStream& invoer);
+    TekstLezer(const TekstLezer&) = delete;
+    TekstLezer& operator=(const TekstLezer&) = delete;
+    ~TekstLezer();
+
+    /// De volgende hele regels; leeg aan het einde van de tekst. Geldig tot de volgende aanroep. Eindigt
+    /// altijd, ook na een leesfout: dan eindigt de tekst daar.
+    std::string_view leesRegels();
+
+    /// Of de tekst tot haar einde gelezen is, zonder leesfout. Alleen zinvol na de laatste regel.
+    bool isHeelGelezen() const { return heelGelezen_; }
+
+  private:
+    void vulAan();
+    void beginTekst(std::size_t gelezen);
+    void voegRuwToe(std::size_t gelezen);
+    void voegToe(std::string_view tekst);
+    void sluitAf();
+    void leesBreed();
+
+    wxInputStream& invoer_;
+    std::vector<char> buffer_;
+    std::size_t vulling_ = 0;  ///< bytes tekst vooraan in buffer_
+    std::size_t gegeven_ = 0;  ///< bytes daarvan die de aanroeper al heeft
+    RegelOmzetter omzetter_;
+    std::string omgezet_;
+    std::unique_ptr<wxInputStream> hersteller_;
+    std::unique_ptr<wxTextInputStream> breed_;  ///< leest uit hersteller_ als de tekst UTF-16 of UTF-32 is
+    bool begonnen_ = false;
+    bool klaar_ = false;
+    bool heelGelezen_ = false;
+};
+
+}  // namespace kern

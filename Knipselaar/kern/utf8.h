@@ -1,0 +1,39 @@
+#pragma once
+
+// UTF-8 zoals de strikte omzetter van de toolkit (wxMBConvStrictUTF8) het leest: te lange vormen
+// van drie en vier bytes en surrogaten gelden, C0, C1 en F5 en hoger niet.
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace kern {
+
+enum class Utf8Oordeel {
+    geldig,
+    half,  ///< de reeks klopt tot het einde van de bytes, maar is daar nog niet af
+    ongeldig
+};
+
+struct Utf8Teken {
+    Utf8Oordeel oordeel;
+    std::size_t lengte;    ///< bytes van een geldig teken, anders 0
+    std::uint32_t waarde;  ///< codepunt van een geldig teken, anders 0
+};
+
+/// Leest het eerste teken. Bytes voorbij U+10FFFF zijn ongeldig.
+/// @param bytes  minstens één byte.
+Utf8Teken leesUtf8(std::string_view bytes);
+
+/// Hangt een codepunt in zijn kortste vorm achter uit.
+/// @param waarde  hoogstens U+10FFFF.
+void schrijfUtf8(std::uint32_t waarde, std::string& uit);
+
+/// Of alle bytes hele, geldige tekens in hun kortste vorm zijn en er geen CR of NUL bij is.
+bool isSchoneUtf8(std::string_view bytes);
+
+/// Aantal bytes aan het begin dat gewone ASCII is: geen CR, geen NUL, geen hoge byte. Een LF telt mee.
+std::size_t telGewoneAscii(std::string_view bytes);
+
+}  // namespace kern

@@ -1,0 +1,17 @@
+#include "Knipselaar/knipselaar.h"
+
+#include "Knipselaar/venster/parserVenster.h"
+
+wxIMPLEMENT_APP_NO_MAIN(Knipselaar);
+
+Knipselaar::Knipselaar() : DesktopApp("Knipselaar") {}
+
+Knipselaar::~Knipselaar() = default;
+
+bool Knipselaar::OnInit() {
+    auto* venster = new ParserVenster(nullptr, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                                      wxDEFAULT_FRAME_STYLE);
+    SetTopWindow(venster);
+    venster->Show(true);
+    return true;
+}

@@ -1,0 +1,145 @@
+// Kleuring, marges en vouwen van de editors, en hun gezamenlijk verschuiven.
+
+#include <wx/colour.h>
+#include <wx/settings.h>
+#include <wx/stc/stc.h>
+
+#include <array>
+
+#include "Knipselaar/kern/keuzes.h"
+#include "Knipselaar/venster/parserVenster.h"
+#include "Knipselaar/venster/stijlTabellen.h"
+
+namespace {
+
+constexpr int regelnummerMarge = 0;
+constexpr int vouwMarge = 1;
+
+wxColour naarKleur(const stijl::Kleur& kleur) {
+    return {kleur.rood, kleur.groen, kleur.blauw};
+}
+
+void zetVouwen(wxStyledTextCtrl* editor) {
+    editor->SetProperty("fold", "1");
+    editor->SetProperty("fold.comment", "1");
+    editor->SetProperty("fold.compact", "1");
+}
+
+template <std::size_t aantal>
+void zetKleuren(wxStyledTextCtrl* editor, const std::array<stijl::Stijlkleur, aantal>& kleuren) {
+    for (const auto& kleur : kleuren) {
+        editor->StyleSetForeground(kleur.stijl, naarKleur(kleur.voorgrond));
+    }
+    for (const auto& kleur : kleuren) {
+        if (kleur.vet) {
+            editor->StyleSetBold(kleur.stijl, true);
+        }
+    }
+}
+
+}  // namespace
+
+// StyleClearAll staat met opzet achteraan: het zet de standaardstijl over alle andere heen, ook over de
+// kleuren van de regelnummers hierboven. De taalstijlen zetten daarna alleen nog kleuren en vet.
+void ParserVenster::zetAlgStijl(wxStyledTextCtrl* editor) {
+    editor->ClearDocumentStyle();
+    editor->SetMarginWidth(regelnummerMarge, 50);
+    editor->StyleSetForeground(wxSTC_STYLE_LINENUMBER, naarKleur(stijl::grijs(75)));
+    editor->StyleSetBackground(wxSTC_STYLE_LINENUMBER, naarKleur(stijl::grijs(220)));
+    editor->SetMarginType(regelnummerMarge, wxSTC_MARGIN_NUMBER);
+    editor->SetMarginType(vouwMarge, wxSTC_MARGIN_SYMBOL);
+    editor->SetMarginWidth(vouwMarge, 15);
+    editor->SetMarginMask(vouwMarge, wxSTC_MASK_FOLDERS);
+    editor->StyleSetBackground(1, naarKleur(stijl::grijs(200)));
+    editor->SetMarginSensitive(vouwMarge, true);
+    zetVouwen(editor);
+    for (const auto& teken : stijl::vouwtekens) {
+        editor->MarkerDefine(teken.nummer, teken.vorm, wxNullColour, wxNullColour);
+        editor->MarkerSetForeground(teken.nummer, naarKleur(stijl::vouwtekenVoorgrond));
+        editor->MarkerSetBackground(teken.nummer, naarKleur(teken.achtergrond));
+    }
+    editor->SetWrapMode(wxSTC_WRAP_WORD);
+    editor->StyleClearAll();
+}
+
+void ParserVenster::zetCStijl(wxStyledTextCtrl* editor) {
+    zetAlgStijl(editor);
+    editor->SetLexer(wxSTC_LEX_CPP);
+    zetKleuren(editor, stijl::cKleuren);
+    editor->SetKeyWords(0, stijl::cWoorden);
+}
+
+void ParserVenster::zetCPPStijl(wxStyledTextCtrl* editor) {
+    zetCStijl(editor);
+    editor->SetKeyWords(1, stijl::cppWoorden);
+}
+
+void ParserVenster::zetVHDLStijl(wxStyledTextCtrl* editor) {
+    zetAlgStijl(editor);
+    editor->SetLexer(wxSTC_LEX_VHDL);
+    zetKleuren(editor, stijl::vhdlKleuren);
+    editor->SetKeyWords(0, stijl::vhdlWoorden);
+}
+
+/// Kleurt beide editors naar de extensie van huidigBestand; een onbekende extensie laat de kleuring staan.
+void ParserVenster::kleurVoorHuidigBestand() {
+    const std::array editors{origineelEditor, aangepastEditor};
+    // Broncode hoort in kolommen te staan; de toolkit neemt anders het proportionele lettertype van GTK.
+    const wxFont lettertype = wxSystemSettings::GetFont(wxSYS_ANSI_FIXED_FONT);
+    for (auto* editor : editors) {
+        editor->StyleSetFont(wxSTC_STYLE_DEFAULT, lettertype);
+    }
+    const kern::Brontaal taal = kern::kiesBrontaal(huidigBestand.GetExt());
+    for (auto* editor : editors) {
+        switch (taal) {
+            case kern::Brontaal::cpp:
+                zetCPPStijl(editor);
+                break;
+            case kern::Brontaal::c:
+                zetCStijl(editor);
+                break;
+            case kern::Brontaal::vhdl:
+                zetVHDLStijl(editor);
+                break;
+            case kern::Brontaal::geen:
+                break;
+        }
+    }
+    // Eigenschappen bereiken alleen een lexer die er al is; SetLexer maakt hem pas hierboven.
+    for (auto* editor : editors) {
+        zetVouwen(editor);
+    }
+}
+
+void ParserVenster::onScrollLeft(wxStyledTextEvent& /*event*/) {
+    volgEditor(origineelEditor, aangepastEditor);
+}
+
+void ParserVenster::onScrollRight(wxStyledTextEvent& /*event*/) {
+    volgEditor(aangepastEditor, origineelEditor);
+}
+
+/// Zet de volger op dezelfde bovenste regel als de leider. Het verschuiven geeft zelf weer een
+/// tekengebeurtenis; die mag de leider niet terugduwen.
+void ParserVenster::volgEditor(wxStyledTextCtrl* leider, wxStyledTextCtrl* volger) {
+    if (bezigMetScrollen) {
+        return;
+    }
+    bezigMetScrollen = true;
+    const int regel = leider->GetFirstVisibleLine();
+    if (regel != volger->GetFirstVisibleLine()) {
+        volger->ScrollToLine(regel);
+    }
+    bezigMetScrollen = false;
+}
+
+void ParserVenster::onMarginClick(wxStyledTextEvent& event) {
+    auto* editor = dynamic_cast<wxStyledTextCtrl*>(FindWindowById(event.GetId(), this));
+    if (editor == nullptr || event.GetMargin() != vouwMarge) {
+        return;
+    }
+    const int regel = editor->LineFromPosition(event.GetPosition());
+    if ((editor->GetFoldLevel(regel) & wxSTC_FOLDLEVELHEADERFLAG) != 0) {
+        editor->ToggleFold(regel);
+    }
+}

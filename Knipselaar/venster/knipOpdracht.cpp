@@ -1,0 +1,52 @@
+// De knipopdracht: één opdracht voor de drie verwerkingen.
+
+#include <wx/busyinfo.h>
+#include <wx/intl.h>
+#include <wx/radiobox.h>
+#include <wx/stc/stc.h>
+#include <wx/textctrl.h>
+
+#include "Knipselaar/kern/bestandKnipper.h"
+#include "Knipselaar/kern/keuzes.h"
+#include "Knipselaar/venster/parserVenster.h"
+
+void ParserVenster::verwijderHandler(wxCommandEvent& /*event*/) {
+    const wxBusyInfo bezig(wxGetTranslation("Wacht een ogenblik, bezig met verwerken......."), this);
+    switch (parserModeKeuze->GetSelection()) {
+        case kern::enkelBestand:
+            bewerkBestand();
+            break;
+        case kern::alleBestanden:
+            verwerkDirectory();
+            break;
+        case kern::alleBestandenRecursief:
+            verwerkDirectoryRecursief();
+            break;
+        default:
+            wxFAIL_MSG("Fout Keuze gemaakt.");
+    }
+}
+
+/// De teksten zoals de gebruiker ze nu heeft staan.
+kern::KnipTeksten ParserVenster::geefKnipTeksten() const {
+    return {.beginMarker = beginMarkerTekst->GetValue(),
+            .eindMarker = eindMarkerTekst->GetValue(),
+            .vervangtekst = vervangTekst->GetValue()};
+}
+
+void ParserVenster::bewerkBestand() {
+    origineelEditor->ConvertEOLs(wxSTC_EOL_LF);
+    aangepastEditor->ClearAll();
+    const std::string_view origineel(origineelEditor->GetCharacterPointer(),
+                                     static_cast<std::size_t>(origineelEditor->GetTextLength()));
+    const std::string resultaat = kern::knipTekst(origineel, geefKnipTeksten());
+    aangepastEditor->AppendTextRaw(resultaat.data(), static_cast<int>(resultaat.size()));
+}
+
+void ParserVenster::bewerkBestand(const wxFileName& bron, const wxFileName& bestemming) {
+    kern::knipBestand(bron, bestemming, geefKnipTeksten());
+}
+
+void ParserVenster::verwerkDirectory() {}
+
+void ParserVenster::verwerkDirectoryRecursief() {}

@@ -1,0 +1,20 @@
+#pragma once
+
+// Het keuzerondje van de verwerking. Meldt alleen een echte verandering: GTK stuurt de gebeurtenis ook bij
+// een klik op de keuze die er al stond, en het venster zou dan het werk van de gebruiker wissen.
+
+#include <wx/radiobox.h>
+
+class ModeKeuze : public wxRadioBox {
+  public:
+    using wxRadioBox::wxRadioBox;
+
+    /// Selecteert zonder melding; een selectie die niet bestaat laat alles zoals het is.
+    void SetSelection(int selectie) override;
+
+  protected:
+    bool TryBefore(wxEvent& event) override;
+
+  private:
+    int laatste_ = 0;
+};

@@ -1,0 +1,64 @@
+// Wisselen van verwerking en wat daarbij aan en uit gaat.
+
+#include <wx/choice.h>
+#include <wx/filepicker.h>
+#include <wx/radiobox.h>
+#include <wx/stattext.h>
+#include <wx/stc/stc.h>
+
+#include "Knipselaar/kern/keuzes.h"
+#include "Knipselaar/venster/identificaties.h"
+#include "Knipselaar/venster/parserVenster.h"
+
+void ParserVenster::parserModeHandler(wxCommandEvent& /*event*/) {
+    origineelEditor->ClearAll();
+    aangepastEditor->ClearAll();
+    origineelGeladen = false;
+    bestemmingGekozen = false;
+    // Recursief knippen gebeurt ter plaatse en heeft geen bron nodig.
+    bronGekozen = parserModeKeuze->GetSelection() == kern::alleBestandenRecursief;
+}
+
+void ParserVenster::pasAanUpdateHandler(wxUpdateUIEvent& event) {
+    event.Enable(kern::magKnippen({.origineelGeladen = origineelGeladen,
+                                   .bronGekozen = bronGekozen,
+                                   .bestemmingGekozen = bestemmingGekozen}));
+}
+
+void ParserVenster::opslagUpdateHandler(wxUpdateUIEvent& event) {
+    event.Enable(aangepastEditor->IsModified());
+}
+
+void ParserVenster::voegToeUpdateHandler(wxUpdateUIEvent& event) {
+    event.Enable(origineelGeladen);
+}
+
+void ParserVenster::parserKeuzeUpdateHandler(wxUpdateUIEvent& event) {
+    const int keuze = parserModeKeuze->GetSelection();
+    if (keuze < kern::enkelBestand || keuze > kern::alleBestandenRecursief) {
+        wxFAIL_MSG("Fout Keuze gemaakt.");
+    }
+    const kern::Bediening bediening = kern::geefBediening(keuze);
+    event.Enable(bediening.openen);
+    bronDirKiezer->Enable(bediening.bron);
+    bestemmingDirKiezer->Enable(bediening.bestemming);
+    bronLabel->Enable(bediening.bron);
+    bestemmingLabel->Enable(bediening.bestemming);
+    bestandTypeKeuze->Enable(bediening.bestandType);
+}
+
+void ParserVenster::verwerkDirHandler(wxFileDirPickerEvent& event) {
+    const auto* kiezer = dynamic_cast<wxDirPickerCtrl*>(FindWindowById(event.GetId(), this));
+    if (kiezer == nullptr) {
+        return;
+    }
+    huidigBestand = wxFileName::DirName(kiezer->GetPath());
+    const wxString pad = huidigBestand.GetPath(wxPATH_GET_VOLUME, wxPATH_NATIVE);
+    if (event.GetId() == ID_BRONDIR) {
+        bronGekozen = true;
+        origineelPad = pad;
+    } else {
+        bestemmingGekozen = true;
+        aangepastPad = pad;
+    }
+}
