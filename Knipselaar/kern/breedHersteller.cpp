@@ -38,18 +38,20 @@ std::optional<BreedFormaat> herkenBreedFormaat(std::string_view begin) {
     return std::nullopt;
 }
 
-BreedHersteller::BreedHersteller(wxInputStream& bron, BreedFormaat formaat)
-    : bron_(bron), formaat_(formaat) {}
+BreedHersteller::BreedHersteller(std::string_view begin, wxInputStream& bron, BreedFormaat formaat)
+    : bron_(bron), formaat_(formaat), ruw_(begin) {}
 
 size_t BreedHersteller::OnSysRead(void* buffer, size_t lengte) {
-    if (afgehaald_ == goed_.size()) {
+    while (afgehaald_ == goed_.size() && !einde_) {
         vulAan();
     }
     const std::size_t aantal = std::min(lengte, goed_.size() - afgehaald_);
     if (aantal == 0) {
-        m_lasterror = bron_.GetLastError();
+        uitgeput_ = true;
+        m_lasterror = wxSTREAM_EOF;
         return 0;
     }
+    m_lasterror = wxSTREAM_NO_ERROR;
     std::memcpy(buffer, goed_.data() + afgehaald_, aantal);
     afgehaald_ += aantal;
     return aantal;
@@ -61,18 +63,19 @@ void BreedHersteller::vulAan() {
     std::array<char, blokGrootte> blok;  // NOLINT(cppcoreguidelines-pro-type-member-init): Read vult hem
     const std::size_t gelezen = bron_.Read(blok.data(), blok.size()).LastRead();
     ruw_.append(blok.data(), gelezen);
-    herstel(gelezen < blok.size());
+    einde_ = gelezen == 0;
+    herstel();
 }
 
-/// Beoordeelt wat er ruw ligt. Zonder einde blijft een teken liggen waarvan de rest nog kan komen.
-void BreedHersteller::herstel(bool einde) {
+/// Beoordeelt wat er ruw ligt. Vóór het einde blijft een teken liggen waarvan de rest nog kan komen.
+void BreedHersteller::herstel() {
     std::size_t plek = 0;
     while (plek + formaat_.eenheid <= ruw_.size()) {
         const std::uint32_t waarde = leesEenheid(plek);
         std::size_t volgende = plek + formaat_.eenheid;
         if (formaat_.eenheid == 2 && isHoogSurrogaat(waarde)) {
             const bool heeftPaar = volgende + 2 <= ruw_.size();
-            if (!heeftPaar && !einde) {
+            if (!heeftPaar && !einde_) {
                 break;
             }
             if (heeftPaar && isLaagSurrogaat(leesEenheid(volgende))) {
@@ -89,7 +92,7 @@ void BreedHersteller::herstel(bool einde) {
         plek = volgende;
     }
     ruw_.erase(0, plek);
-    if (einde && !ruw_.empty()) {
+    if (einde_ && !ruw_.empty()) {
         schrijfEenheid(vervangTeken);
         ruw_.clear();
     }

@@ -25,15 +25,19 @@ std::optional<BreedFormaat> herkenBreedFormaat(std::string_view begin);
 
 class BreedHersteller : public wxInputStream {
   public:
-    /// @param bron  staat aan het begin van de tekst; het merkteken gaat gewoon mee.
-    BreedHersteller(wxInputStream& bron, BreedFormaat formaat);
+    /// @param begin  wat al uit de bron gelezen is, vanaf het merkteken; dat gaat gewoon mee.
+    BreedHersteller(std::string_view begin, wxInputStream& bron, BreedFormaat formaat);
+
+    /// Of er om bytes gevraagd is toen er geen meer waren. Eof is daar niet goed voor: de tekststroom zet bij
+    /// een NUL zelf een leesfout in de stroom waaruit zij leest.
+    bool isUitgeput() const { return uitgeput_; }
 
   protected:
     size_t OnSysRead(void* buffer, size_t lengte) override;
 
   private:
     void vulAan();
-    void herstel(bool einde);
+    void herstel();
     std::uint32_t leesEenheid(std::size_t plek) const;
     void schrijfEenheid(std::uint32_t waarde);
 
@@ -42,6 +46,8 @@ class BreedHersteller : public wxInputStream {
     std::string ruw_;   ///< gelezen, nog niet beoordeeld: hoogstens een half teken tussen twee blokken
     std::string goed_;  ///< beoordeeld, nog niet afgehaald vanaf afgehaald_
     std::size_t afgehaald_ = 0;
+    bool einde_ = false;     ///< de bron geeft niets meer
+    bool uitgeput_ = false;  ///< en alles is afgehaald
 };
 
 }  // namespace kern

@@ -31,7 +31,7 @@ void RegelOmzetter::sluitAf(std::string& uit) {
 
 /// Verwerkt een teken dat een regel eindigt, of het tweede deel daarvan. False voor elk ander teken.
 bool RegelOmzetter::eindigRegel(char teken, std::string& uit) {
-    const bool hoortBijCR = naCR_ && teken == '\n';
+    const bool hoortBijCR = naCR_ && teken != '\r';
     naCR_ = teken == '\r';
     if (teken != '\n' && teken != '\r' && teken != '\0') {
         return false;

@@ -4,10 +4,11 @@
 // regels in UTF-8 die elk met "\n" eindigen. Neemt de tekst in blokken van elke grootte aan en onthoudt
 // ertussen niet meer dan een half teken.
 //
-// LF, CR, CR LF en NUL eindigen een regel. Bij de eerste byte die geen UTF-8 is gaat de rest van de tekst als
-// ISO 8859-1 verder; wat er al was blijft staan. Zo leest ook de tekststroom van de toolkit met wxConvAuto,
-// op drie plaatsen na waar zij bytes laat verdwijnen: een half teken aan het einde, een ongeldige byte na een
-// UTF-8-merkteken en een teken voorbij U+10FFFF. Die gaan hier ook als ISO 8859-1 verder.
+// LF, CR, CR LF en NUL eindigen een regel; een NUL direct na een CR hoort bij die CR. Bij de eerste byte die
+// geen UTF-8 is gaat de rest van de tekst als ISO 8859-1 verder; wat er al was blijft staan. Zo leest ook de
+// tekststroom van de toolkit met wxConvAuto, op drie plaatsen na waar zij bytes laat verdwijnen: een half
+// teken aan het einde, een ongeldige byte na een UTF-8-merkteken en een teken voorbij U+10FFFF. Die gaan hier
+// ook als ISO 8859-1 verder.
 
 #include <string>
 #include <string_view>
@@ -35,7 +36,7 @@ class RegelOmzetter {
     bool eindigRegel(char teken, std::string& uit);
 
     Codering codering_ = Codering::utf8;
-    bool naCR_ = false;      ///< de CR is al een regeleinde; een LF direct erna hoort erbij
+    bool naCR_ = false;      ///< de CR is al een regeleinde; een LF of NUL direct erna hoort erbij
     std::string halfTeken_;  ///< begin van een UTF-8-reeks die het vorige blok niet afmaakte
 };
 

@@ -60,7 +60,7 @@ void TekstLezer::vulAan() {
     } else {
         voegRuwToe(gelezen);
     }
-    if (!breed_ && gelezen < blokGrootte) {
+    if (gelezen == 0) {
         sluitAf();
     }
 }
@@ -69,8 +69,7 @@ void TekstLezer::vulAan() {
 void TekstLezer::beginTekst(std::size_t gelezen) {
     const std::string_view begin(buffer_.data(), gelezen);
     if (const auto formaat = herkenBreedFormaat(begin)) {
-        invoer_.Ungetch(begin.data(), begin.size());
-        hersteller_ = std::make_unique<BreedHersteller>(invoer_, *formaat);
+        hersteller_ = std::make_unique<BreedHersteller>(begin, invoer_, *formaat);
         breed_ = std::make_unique<wxTextInputStream>(*hersteller_, " \t", wxConvAuto());
     } else if (begin.starts_with(utf8Merkteken)) {
         const std::size_t rest = gelezen - utf8Merkteken.size();
@@ -114,9 +113,9 @@ void TekstLezer::sluitAf() {
 void TekstLezer::leesBreed() {
     const std::size_t genoeg = vulling_ + blokGrootte;
     while (vulling_ < genoeg) {
-        if (!hersteller_->IsOk()) {
+        if (hersteller_->isUitgeput()) {
             klaar_ = true;
-            heelGelezen_ = hersteller_->Eof();
+            heelGelezen_ = invoer_.GetLastError() == wxSTREAM_EOF;
             return;
         }
         voegToe(breed_->ReadLine().utf8_string() + '\n');

@@ -19,6 +19,8 @@ class wxTextInputStream;
 
 namespace kern {
 
+class BreedHersteller;
+
 class TekstLezer {
   public:
     explicit TekstLezer(wxInputStream& invoer);
@@ -47,7 +49,7 @@ class TekstLezer {
     std::size_t gegeven_ = 0;  ///< bytes daarvan die de aanroeper al heeft
     RegelOmzetter omzetter_;
     std::string omgezet_;
-    std::unique_ptr<wxInputStream> hersteller_;
+    std::unique_ptr<BreedHersteller> hersteller_;
     std::unique_ptr<wxTextInputStream> breed_;  ///< leest uit hersteller_ als de tekst UTF-16 of UTF-32 is
     bool begonnen_ = false;
     bool klaar_ = false;

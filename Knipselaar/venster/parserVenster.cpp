@@ -52,11 +52,11 @@ wxBEGIN_EVENT_TABLE(ParserVenster, wxFrame)
     EVT_UPDATE_UI(wxID_OPEN,               ParserVenster::parserKeuzeUpdateHandler)
     EVT_UPDATE_UI(wxID_SAVE,               ParserVenster::parserKeuzeUpdateHandler)
 wxEND_EVENT_TABLE()
-    // clang-format on
+// clang-format on
 
-    // De volgorde van maken bepaalt ook de volgorde waarin de tabtoets langs de bediening loopt.
-    ParserVenster::ParserVenster(wxWindow* parent, int id, const wxString& title, const wxPoint& pos,
-                                 const wxSize& size, long /*style*/)
+// De volgorde van maken bepaalt ook de volgorde waarin de tabtoets langs de bediening loopt.
+ParserVenster::ParserVenster(wxWindow* parent, int id, const wxString& title, const wxPoint& pos,
+                             const wxSize& size, long /*style*/)
     : wxFrame(parent, id, title, pos, size, wxDEFAULT_FRAME_STYLE), config(wxGetApp().configuratie) {
     const auto instellingen = kern::ParserInstellingen::lees(*config);
     origineelPad = instellingen.origineelPad;

@@ -1,0 +1,59 @@
+#include "tests/hulp/bestanden.h"
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+namespace hulp {
+
+namespace fs = std::filesystem;
+
+TijdelijkeMap::TijdelijkeMap() {
+    std::string sjabloon = (fs::temp_directory_path() / "knipseltest-XXXXXX").string();
+    if (mkdtemp(sjabloon.data()) == nullptr) {
+        throw std::runtime_error("geen tijdelijke map");
+    }
+    pad_ = sjabloon;
+}
+
+TijdelijkeMap::~TijdelijkeMap() {
+    std::error_code fout;
+    fs::remove_all(pad_, fout);
+}
+
+std::string leesBestand(const fs::path& pad) {
+    const std::ifstream invoer(pad, std::ios::binary);
+    if (!invoer) {
+        throw std::runtime_error("niet te lezen: " + pad.string());
+    }
+    std::ostringstream inhoud;
+    inhoud << invoer.rdbuf();
+    return inhoud.str();
+}
+
+void schrijfBestand(const fs::path& pad, std::string_view inhoud) {
+    std::ofstream uitvoer(pad, std::ios::binary | std::ios::trunc);
+    uitvoer.write(inhoud.data(), static_cast<std::streamsize>(inhoud.size()));
+    if (!uitvoer.flush()) {
+        throw std::runtime_error("niet te schrijven: " + pad.string());
+    }
+}
+
+std::string toonBytes(std::string_view bytes) {
+    std::string tekst;
+    for (const char teken : bytes) {
+        if (teken >= 0x20 && teken < 0x7F && teken != '\\') {
+            tekst += teken;
+            continue;
+        }
+        std::array<char, 5> hex{};
+        std::snprintf(hex.data(), hex.size(), "\\x%02X", static_cast<unsigned char>(teken));
+        tekst += hex.data();
+    }
+    return tekst;
+}
+
+}  // namespace hulp

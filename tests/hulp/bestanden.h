@@ -1,0 +1,35 @@
+#pragma once
+
+// Bestanden voor tests: een tijdelijke map die zichzelf opruimt, en lezen en schrijven in één keer.
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace hulp {
+
+/// Een nieuwe, lege map; verdwijnt met alles erin als het object verdwijnt.
+class TijdelijkeMap {
+  public:
+    TijdelijkeMap();
+    TijdelijkeMap(const TijdelijkeMap&) = delete;
+    TijdelijkeMap& operator=(const TijdelijkeMap&) = delete;
+    ~TijdelijkeMap();
+
+    const std::filesystem::path& pad() const { return pad_; }
+    std::filesystem::path operator/(std::string_view naam) const { return pad_ / naam; }
+
+  private:
+    std::filesystem::path pad_;
+};
+
+/// De bytes van een bestand. Gooit std::runtime_error als het niet te lezen is.
+std::string leesBestand(const std::filesystem::path& pad);
+
+/// Schrijft precies deze bytes; wat er stond verdwijnt.
+void schrijfBestand(const std::filesystem::path& pad, std::string_view inhoud);
+
+/// Bytes als leesbare tekst, voor in een foutmelding.
+std::string toonBytes(std::string_view bytes);
+
+}  // namespace hulp

@@ -1,0 +1,105 @@
+#include "tests/hulp/orakel.h"
+
+#include <wx/mstream.h>
+#include <wx/txtstrm.h>
+#include <wx/wfstream.h>
+
+#include <functional>
+
+namespace orakel {
+
+namespace {
+
+/// Het filter, letterlijk zoals het beschreven is, met de vergelijking van de toolkit.
+class Filter {
+  public:
+    Filter(const kern::KnipTeksten& teksten, const wxString& staart, std::function<void(const wxString&)> uit)
+        : begin_("*" + teksten.beginMarker + "*" + staart),
+          eind_("*" + teksten.eindMarker + "*" + staart),
+          vervangtekst_(teksten.vervangtekst),
+          uit_(std::move(uit)) {}
+
+    void regel(const wxString& regel) {
+        if (!inBlok_) {
+            if (regel.Matches(begin_)) {
+                inBlok_ = true;
+            } else {
+                uit_(regel);
+            }
+        } else {
+            if (regel.Matches(eind_)) {
+                inBlok_ = false;
+                vervangen_ = true;
+            } else if (vervangen_) {
+                uit_(vervangtekst_);
+                vervangen_ = false;
+            }
+        }
+    }
+
+  private:
+    wxString begin_;
+    wxString eind_;
+    wxString vervangtekst_;
+    std::function<void(const wxString&)> uit_;
+    bool inBlok_ = false;
+    bool vervangen_ = true;
+};
+
+}  // namespace
+
+std::string knipBestand(const std::filesystem::path& bron, const kern::KnipTeksten& teksten) {
+    wxFileInputStream origStroom(wxString::FromUTF8(bron.string()));
+    wxTextInputStream origTekst(origStroom, " \t", wxConvAuto());
+    wxMemoryOutputStream uitStroom;
+    wxTextOutputStream uitTekst(uitStroom, wxEOL_NATIVE, wxConvAuto());
+    Filter filter(teksten, "", [&uitTekst](const wxString& tekst) { uitTekst.WriteString(tekst + "\n"); });
+    while (!origStroom.Eof()) {
+        filter.regel(origTekst.ReadLine());
+    }
+    std::string resultaat(uitStroom.GetSize(), '\0');
+    uitStroom.CopyTo(resultaat.data(), resultaat.size());
+    return resultaat;
+}
+
+std::string knipTekst(std::string_view tekst, const kern::KnipTeksten& teksten) {
+    std::string resultaat;
+    Filter filter(teksten, "\n", [&resultaat](const wxString& stuk) { resultaat += stuk.utf8_string(); });
+    for (std::size_t begin = 0; begin < tekst.size();) {
+        const std::size_t einde = tekst.find('\n', begin);
+        const std::size_t volgende = einde == std::string_view::npos ? tekst.size() : einde + 1;
+        filter.regel(wxString::FromUTF8(tekst.data() + begin, volgende - begin));
+        begin = volgende;
+    }
+    return resultaat;
+}
+
+bool laatBytesVerdwijnen(std::string_view inhoud) {
+    const bool merkteken = inhoud.substr(0, 3) == "\xEF\xBB\xBF";
+    bool latijn1 = false;
+    std::size_t plek = merkteken ? 3 : 0;
+    while (plek < inhoud.size() && !latijn1) {
+        const auto eerste = static_cast<unsigned char>(inhoud[plek]);
+        const std::size_t lengte = eerste < 0x80                     ? 1
+                                   : eerste >= 0xC2 && eerste < 0xE0 ? 2
+                                   : eerste >= 0xE0 && eerste < 0xF0 ? 3
+                                   : eerste >= 0xF0 && eerste < 0xF5 ? 4
+                                                                     : 0;
+        bool geldig = lengte > 0 && plek + lengte <= inhoud.size();
+        for (std::size_t i = 1; geldig && i < lengte; ++i) {
+            geldig = (static_cast<unsigned char>(inhoud[plek + i]) & 0xC0U) == 0x80U;
+        }
+        if (geldig && eerste == 0xF4 && static_cast<unsigned char>(inhoud[plek + 1]) > 0x8F) {
+            return true;  // voorbij U+10FFFF raakt de uitvoerstroom de hele regel kwijt
+        }
+        if (!geldig) {
+            // De toolkit wacht op vier bytes voor zij op ISO 8859-1 overgaat; zijn die er niet meer, dan
+            // verdwijnt de rest. Na een UTF-8-merkteken gaat zij nooit over.
+            return merkteken || inhoud.size() - plek < 4;
+        }
+        plek += lengte;
+    }
+    return false;
+}
+
+}  // namespace orakel

@@ -1,0 +1,25 @@
+#pragma once
+
+// Wat het knippen moet opleveren, langs de rechte weg: de stromen en de vergelijking van de toolkit, regel
+// voor regel, zonder blokken en zonder haast. De kern wordt hiertegen gehouden.
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "Knipselaar/kern/knipper.h"
+
+namespace orakel {
+
+/// De bestandsvariant: tekststromen met wxConvAuto over bestandsstromen, maskers "*" + marker + "*".
+/// Alleen voor invoer waarop de stromen van de toolkit ophouden.
+std::string knipBestand(const std::filesystem::path& bron, const kern::KnipTeksten& teksten);
+
+/// De editorvariant op een tekst met "\n" als regeleinde: maskers "*" + marker + "*\n".
+std::string knipTekst(std::string_view tekst, const kern::KnipTeksten& teksten);
+
+/// Of een bestand bytes bevat die de stromen laten verdwijnen of waarop ze niet ophouden; daar wijkt de
+/// kern met opzet af en zegt het orakel niets.
+bool laatBytesVerdwijnen(std::string_view inhoud);
+
+}  // namespace orakel

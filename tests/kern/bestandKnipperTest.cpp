@@ -1,0 +1,173 @@
+#include "Knipselaar/kern/bestandKnipper.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <vector>
+
+#include "tests/hulp/bestanden.h"
+#include "tests/hulp/beweringen.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const kern::KnipTeksten teksten{"BEGIN", "EIND", "WERK"};
+const std::vector<hulp::Bewering> bronNietOpen{{"origStroom.IsOk()", ""}};
+const std::vector<hulp::Bewering> doelNietOpen{{"uitStroom.IsOk()", ""}};
+constexpr const char* origineel = "a\nBEGIN\nb\nEIND\nc\n";
+constexpr const char* geknipt = "a\nWERK\nc\n\n";
+
+wxFileName naarNaam(const fs::path& pad) {
+    return wxFileName(wxString(pad.c_str(), wxConvFile));
+}
+
+class BestandKnipper : public testing::Test {
+  protected:
+    kern::KnipUitslag knip(const fs::path& bron, const fs::path& doel) {
+        return kern::knipBestand(naarNaam(bron), naarNaam(doel), teksten);
+    }
+
+    void verwachtBronNietOpen(const fs::path& bron, const fs::path& doel) {
+        const auto uitslag = knip(bron, doel);
+        EXPECT_FALSE(uitslag.bronHeelGelezen);
+        EXPECT_FALSE(uitslag.isGelukt());
+        EXPECT_EQ(bronNietOpen, hulp::neemBeweringen());
+        EXPECT_EQ("", hulp::leesBestand(doel));
+    }
+
+    void verwachtDoelNietOpen(const fs::path& bron, const fs::path& doel) {
+        const auto uitslag = knip(bron, doel);
+        EXPECT_TRUE(uitslag.bronHeelGelezen);
+        EXPECT_FALSE(uitslag.doelHeelGeschreven);
+        EXPECT_EQ(doelNietOpen, hulp::neemBeweringen());
+    }
+
+    hulp::TijdelijkeMap map_;
+    fs::path in_ = map_ / "in.c";
+    fs::path uit_ = map_ / "uit.c";
+};
+
+}  // namespace
+
+TEST_F(BestandKnipper, KniptHetEneBestandNaarHetAndere) {
+    hulp::schrijfBestand(in_, origineel);
+    EXPECT_TRUE(knip(in_, uit_).isGelukt());
+    EXPECT_EQ(geknipt, hulp::leesBestand(uit_));
+    EXPECT_EQ(origineel, hulp::leesBestand(in_));
+}
+
+TEST_F(BestandKnipper, SchrijftOverEenLangerBestandHeen) {
+    hulp::schrijfBestand(in_, origineel);
+    hulp::schrijfBestand(uit_, std::string(5000, 'x'));
+    EXPECT_TRUE(knip(in_, uit_).isGelukt());
+    EXPECT_EQ(geknipt, hulp::leesBestand(uit_));
+}
+
+TEST_F(BestandKnipper, MaaktHetDoelLeegZonderBron) {
+    hulp::schrijfBestand(uit_, "was er al");
+    verwachtBronNietOpen(in_, uit_);
+    EXPECT_FALSE(fs::exists(in_));
+}
+
+TEST_F(BestandKnipper, LaatEenBestandDatNaarZichzelfGaatMetEenRegeleindeAchter) {
+    hulp::schrijfBestand(in_, origineel);
+    knip(in_, in_);
+    EXPECT_EQ("\n", hulp::leesBestand(in_));
+}
+
+TEST_F(BestandKnipper, LeestDeBronOokAlsHetDoelNietOpengaat) {
+    hulp::schrijfBestand(in_, origineel);
+    verwachtDoelNietOpen(in_, map_ / "bestaat-niet" / "uit.c");
+    EXPECT_FALSE(fs::exists(map_ / "bestaat-niet"));
+}
+
+TEST_F(BestandKnipper, NeemtGeenDirectoryAlsBronOfDoel) {
+    fs::create_directory(in_);
+    verwachtBronNietOpen(in_, uit_);
+    hulp::schrijfBestand(map_ / "bron", origineel);
+    verwachtDoelNietOpen(map_ / "bron", in_);
+    EXPECT_TRUE(fs::is_directory(in_));
+}
+
+TEST_F(BestandKnipper, WachtNietOpEenPijp) {
+    hulp::schrijfBestand(map_ / "bron", origineel);
+    ASSERT_EQ(0, mkfifo(in_.c_str(), 0600));
+    verwachtBronNietOpen(in_, uit_);
+    verwachtDoelNietOpen(map_ / "bron", in_);
+    EXPECT_TRUE(fs::is_fifo(in_));
+}
+
+TEST_F(BestandKnipper, LaatEenSocketMetRust) {
+    const int luisteraar = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_un adres{};
+    adres.sun_family = AF_UNIX;
+    in_.string().copy(adres.sun_path, sizeof adres.sun_path - 1);
+    ASSERT_EQ(0, bind(luisteraar, reinterpret_cast<const sockaddr*>(&adres), sizeof adres));
+    verwachtBronNietOpen(in_, uit_);
+    hulp::schrijfBestand(map_ / "bron", origineel);
+    verwachtDoelNietOpen(map_ / "bron", in_);
+    EXPECT_TRUE(fs::is_socket(in_));
+    close(luisteraar);
+}
+
+TEST_F(BestandKnipper, SchrijftNietNaarEenApparaat) {
+    hulp::schrijfBestand(in_, origineel);
+    verwachtDoelNietOpen(in_, "/dev/null");
+    verwachtBronNietOpen("/dev/zero", uit_);
+}
+
+TEST_F(BestandKnipper, MaaktNietsDoorEenLinkDieNergensHeenWijst) {
+    hulp::schrijfBestand(in_, origineel);
+    fs::create_symlink("elders.c", uit_);
+    verwachtDoelNietOpen(in_, uit_);
+    EXPECT_FALSE(fs::exists(map_ / "elders.c"));
+    EXPECT_TRUE(fs::is_symlink(uit_));
+    verwachtBronNietOpen(uit_, map_ / "nieuw.c");
+}
+
+TEST_F(BestandKnipper, KniptDoorEenLinkNaarEenBestand) {
+    hulp::schrijfBestand(map_ / "echt.c", origineel);
+    fs::create_symlink("echt.c", in_);
+    EXPECT_TRUE(knip(in_, uit_).isGelukt());
+    EXPECT_EQ(geknipt, hulp::leesBestand(uit_));
+}
+
+TEST_F(BestandKnipper, KentNamenMetVreemdeTekens) {
+    for (const char* deel : {"met spatie", "met \"aanhaling' $HOME", "één €"}) {
+        const std::string naam = deel;
+        const fs::path bron = map_.pad() / (naam + ".c");
+        const fs::path doel = map_.pad() / (naam + " uit.c");
+        hulp::schrijfBestand(bron, origineel);
+        EXPECT_TRUE(knip(bron, doel).isGelukt()) << hulp::toonBytes(naam);
+        EXPECT_EQ(geknipt, hulp::leesBestand(doel)) << naam;
+    }
+}
+
+TEST_F(BestandKnipper, MerktDatNietAllesGeschrevenIs) {
+    hulp::schrijfBestand(in_, std::string(300'000, 'x'));
+    rlimit oud{};
+    ASSERT_EQ(0, getrlimit(RLIMIT_FSIZE, &oud));
+    const rlimit krap{.rlim_cur = 100'000, .rlim_max = oud.rlim_max};
+    const auto oudSignaal = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &krap));
+    const auto uitslag = knip(in_, uit_);
+    ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &oud));
+    std::signal(SIGXFSZ, oudSignaal);
+    EXPECT_TRUE(uitslag.bronHeelGelezen);
+    EXPECT_FALSE(uitslag.doelHeelGeschreven);
+    EXPECT_EQ(std::string(300'000, 'x'), hulp::leesBestand(in_));
+}
+
+TEST_F(BestandKnipper, GeeftEenNieuwBestandDeGewoneRechten) {
+    hulp::schrijfBestand(in_, origineel);
+    const mode_t masker = umask(022);
+    knip(in_, uit_);
+    umask(masker);
+    EXPECT_EQ(0644, static_cast<int>(fs::status(uit_).permissions()));
+}
