@@ -1,7 +1,7 @@
 // Kleuring, marges en vouwen van de editors, en hun gezamenlijk verschuiven.
 
 #include <wx/colour.h>
-#include <wx/settings.h>
+#include <wx/font.h>
 #include <wx/stc/stc.h>
 
 #include <array>
@@ -84,10 +84,13 @@ void ParserVenster::zetVHDLStijl(wxStyledTextCtrl* editor) {
 /// Kleurt beide editors naar de extensie van huidigBestand; een onbekende extensie laat de kleuring staan.
 void ParserVenster::kleurVoorHuidigBestand() {
     const std::array editors{origineelEditor, aangepastEditor};
-    // Broncode hoort in kolommen te staan; de toolkit neemt anders het proportionele lettertype van GTK.
-    const wxFont lettertype = wxSystemSettings::GetFont(wxSYS_ANSI_FIXED_FONT);
+    // Broncode hoort in kolommen te staan; de toolkit neemt anders het proportionele lettertype van GTK, en
+    // geeft dat ook als haar vaste systeemlettertypen.
+    const wxFont lettertype(wxFontInfo().Family(wxFONTFAMILY_TELETYPE));
     for (auto* editor : editors) {
         editor->StyleSetFont(wxSTC_STYLE_DEFAULT, lettertype);
+        // C en C++ delen een lexer; die zou in een C-bestand de woorden van C++ nog kennen.
+        editor->SetKeyWords(1, wxEmptyString);
     }
     const kern::Brontaal taal = kern::kiesBrontaal(huidigBestand.GetExt());
     for (auto* editor : editors) {

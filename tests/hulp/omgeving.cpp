@@ -1,0 +1,114 @@
+#include "tests/hulp/omgeving.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <memory>
+#include <stdexcept>
+
+namespace hulp {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void leidOm(const fs::path& bestand, int kanaal) {
+    const int doel = open(bestand.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600);
+    dup2(doel, kanaal);
+    close(doel);
+}
+
+}  // namespace
+
+Kindproces::Kindproces(const std::vector<std::string>& opdracht, const fs::path& uitvoer,
+                       const fs::path& fouten)
+    : nummer_(fork()) {
+    if (nummer_ != 0) {
+        return;
+    }
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    leidOm(uitvoer, STDOUT_FILENO);
+    leidOm(fouten, STDERR_FILENO);
+    std::vector<char*> woorden;
+    for (const std::string& woord : opdracht) {
+        woorden.push_back(const_cast<char*>(woord.c_str()));
+    }
+    woorden.push_back(nullptr);
+    execvp(woorden[0], woorden.data());
+    _exit(127);
+}
+
+Kindproces::~Kindproces() {
+    if (!isAf()) {
+        stuur(SIGKILL);
+        waitpid(nummer_, &ruweStatus_, 0);
+    }
+}
+
+bool Kindproces::isAf() {
+    af_ = af_ || waitpid(nummer_, &ruweStatus_, WNOHANG) == nummer_;
+    return af_;
+}
+
+int Kindproces::status() const {
+    return WIFEXITED(ruweStatus_) ? WEXITSTATUS(ruweStatus_) : 128 + WTERMSIG(ruweStatus_);
+}
+
+void Kindproces::stuur(int signaal) const { kill(nummer_, signaal); }
+
+Omgeving::Omgeving(bool metVensterbeheer) {
+    for (const fs::path& map : {thuis(), werk(), map_ / "tmp", map_ / "xdg"}) {
+        fs::create_directory(map);
+    }
+    fs::permissions(map_ / "xdg", fs::perms::owner_all);
+    setenv("HOME", thuis().c_str(), 1);
+    setenv("TMPDIR", (map_ / "tmp").c_str(), 1);
+    setenv("XDG_RUNTIME_DIR", (map_ / "xdg").c_str(), 1);
+    for (const char* variabele : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "WAYLAND_DISPLAY",
+                                  "DBUS_SESSION_BUS_ADDRESS", "SESSION_MANAGER", "GTK_THEME", "LC_ALL"}) {
+        unsetenv(variabele);
+    }
+    setenv("LANG", "nl_NL.UTF-8", 1);
+    setenv("GDK_BACKEND", "x11", 1);
+    setenv("GSETTINGS_BACKEND", "memory", 1);  // geen instellingen van het bureaublad
+    setenv("NO_AT_BRIDGE", "1", 1);            // geen bus voor schermlezers: die is er hier niet
+
+    const fs::path nummer = map_ / "beeldscherm";
+    bedienden_.push_back(std::make_unique<Kindproces>(
+        std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten",
+                                 "tcp", "-noreset"},
+        nummer, map_ / "xvfb.log"));
+    const bool gestart = wachtTot([&nummer] { return fs::exists(nummer) && leesBestand(nummer).ends_with('\n'); });
+    if (!gestart) {
+        throw std::runtime_error("de X-server start niet: " + leesBestand(map_ / "xvfb.log"));
+    }
+    std::string beeldscherm = ":" + leesBestand(nummer);
+    beeldscherm.pop_back();
+    setenv("DISPLAY", beeldscherm.c_str(), 1);
+    if (metVensterbeheer) {
+        bedienden_.push_back(std::make_unique<Kindproces>(std::vector<std::string>{"openbox"},
+                                                          map_ / "openbox.log", map_ / "openbox.log"));
+    }
+}
+
+// Andersom dan ze gestart zijn: de X-server gaat als laatste weg.
+Omgeving::~Omgeving() {
+    while (!bedienden_.empty()) {
+        bedienden_.pop_back();
+    }
+}
+
+void wachtEven() { poll(nullptr, 0, 10); }
+
+long klokMs() {
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+}  // namespace hulp

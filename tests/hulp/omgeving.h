@@ -1,0 +1,87 @@
+#pragma once
+
+// De omgeving van één testrun: een eigen thuisdirectory, een eigen tijdelijke directory en een eigen X-server.
+// Tests lopen daardoor naast elkaar en komen nooit aan de instellingen van de gebruiker.
+
+#include <sys/types.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tests/hulp/bestanden.h"
+
+namespace hulp {
+
+/// Een proces dat met het object ophoudt te bestaan.
+class Kindproces {
+  public:
+    /// Start een programma uit PATH; het sterft ook als het testproces sterft. Uitvoer en fouten komen
+    /// achter wat er al in deze bestanden staat.
+    Kindproces(const std::vector<std::string>& opdracht, const std::filesystem::path& uitvoer,
+               const std::filesystem::path& fouten);
+    Kindproces(const Kindproces&) = delete;
+    Kindproces& operator=(const Kindproces&) = delete;
+    ~Kindproces();
+
+    pid_t nummer() const { return nummer_; }
+
+    /// Of het proces opgehouden is; de status is dan te vragen.
+    bool isAf();
+
+    /// De afloopstatus: de waarde van exit, of 128 + het signaal. Alleen geldig als isAf.
+    int status() const;
+
+    void stuur(int signaal) const;
+
+  private:
+    pid_t nummer_;
+    int ruweStatus_ = 0;
+    bool af_ = false;
+};
+
+/// Wacht op een voorwaarde. False als de grens voorbij is en het nog steeds niet zo is.
+template <typename Voorwaarde>
+bool wachtTot(Voorwaarde&& voorwaarde, int hoogstensMs = 20000);
+
+/// Maakt van een proces met beeldscherm een test: zet HOME, TMPDIR en DISPLAY om en zet ze aan het einde niet
+/// terug. Eén per proces.
+class Omgeving {
+  public:
+    /// @param metVensterbeheer  start ook een vensterbeheerder, voor tests die met toetsen en muis werken.
+    explicit Omgeving(bool metVensterbeheer);
+    Omgeving(const Omgeving&) = delete;
+    Omgeving& operator=(const Omgeving&) = delete;
+    ~Omgeving();
+
+    std::filesystem::path thuis() const { return map_ / "thuis"; }
+
+    /// De opslag van het programma in deze thuisdirectory.
+    std::filesystem::path opslag() const { return thuis() / ".Knipselaar"; }
+
+    /// Een directory die de test naar eigen inzicht vult.
+    std::filesystem::path werk() const { return map_ / "werk"; }
+
+  private:
+    TijdelijkeMap map_;
+    std::vector<std::unique_ptr<Kindproces>> bedienden_;
+};
+
+/// Eén keer kort wachten tussen twee blikken op een voorwaarde van buiten dit proces.
+void wachtEven();
+long klokMs();
+
+template <typename Voorwaarde>
+bool wachtTot(Voorwaarde&& voorwaarde, int hoogstensMs) {
+    const long einde = klokMs() + hoogstensMs;
+    while (!voorwaarde()) {
+        if (klokMs() > einde) {
+            return false;
+        }
+        wachtEven();
+    }
+    return true;
+}
+
+}  // namespace hulp

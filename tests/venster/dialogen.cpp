@@ -1,0 +1,84 @@
+#include "tests/venster/dialogen.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/venster/vensterTest.h"
+
+namespace {
+
+/// Meldt aan GoogleTest in plaats van met een bewering, die in een bouw zonder beweringen zou verdwijnen.
+class Haak : public wxTestingModalHook {
+  public:
+    Haak() : wxTestingModalHook(nullptr, 0, nullptr) {}
+
+  protected:
+    void ReportFailure(const wxString& melding) override { ADD_FAILURE() << melding; }
+};
+
+class VerwachtBestandsdialoog : public wxExpectModalBase<wxFileDialog> {
+  public:
+    VerwachtBestandsdialoog(wxString keuze, Bestandsdialoog& gezien)
+        : keuze_(std::move(keuze)), gezien_(gezien) {}
+
+  protected:
+    int OnInvoked(wxFileDialog* dialoog) const override {
+        gezien_ = {dialoog->GetMessage(), dialoog->GetDirectory(), dialoog->GetFilename(),
+                   dialoog->GetWildcard(), dialoog->GetWindowStyle()};
+        if (keuze_.empty()) {
+            return wxID_CANCEL;
+        }
+        // GTK kent de keuze pas als de dialoog getoond is en zijn directory gelezen heeft.
+        dialoog->SetPath(keuze_);
+        dialoog->Show();
+        EXPECT_TRUE(laatLopenTot([this, dialoog] { return dialoog->GetPath() == keuze_; }))
+            << dialoog->GetPath() << " in plaats van " << keuze_;
+        dialoog->Hide();
+        return wxID_OK;
+    }
+
+  private:
+    wxString keuze_;
+    Bestandsdialoog& gezien_;
+};
+
+class VerwachtMelding : public wxExpectModalBase<wxMessageDialog> {
+  public:
+    VerwachtMelding(int antwoord, Melding& gezien) : antwoord_(antwoord), gezien_(gezien) {}
+
+  protected:
+    int OnInvoked(wxMessageDialog* dialoog) const override {
+        gezien_ = {dialoog->GetMessage().utf8_string(), dialoog->GetCaption().utf8_string(),
+                   dialoog->GetMessageDialogStyle(), dialoog->GetParent()};
+        return antwoord_;
+    }
+
+  private:
+    int antwoord_;
+    Melding& gezien_;
+};
+
+void voerUit(const wxModalExpectation& verwachting, const std::function<void()>& handeling) {
+    Haak haak;
+    haak.AddExpectation(verwachting);
+    handeling();
+    haak.CheckUnmetExpectations();
+}
+
+}  // namespace
+
+Bestandsdialoog beantwoordBestandsdialoog(const wxString& keuze, const std::function<void()>& handeling) {
+    Bestandsdialoog gezien;
+    voerUit(VerwachtBestandsdialoog(keuze, gezien), handeling);
+    return gezien;
+}
+
+Melding beantwoordMelding(int antwoord, const std::function<void()>& handeling) {
+    Melding gezien;
+    voerUit(VerwachtMelding(antwoord, gezien), handeling);
+    return gezien;
+}
+
+void zonderDialoog(const std::function<void()>& handeling) {
+    Haak haak;
+    handeling();
+}

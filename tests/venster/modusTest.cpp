@@ -1,0 +1,168 @@
+#include <wx/uiaction.h>
+
+#include "tests/venster/dialogen.h"
+#include "tests/venster/vensterTest.h"
+
+namespace {
+
+class Modus : public VensterTest {
+  protected:
+    bool isAan(int id) {
+        wxUpdateUIEvent event(id);
+        event.SetEventObject(venster_);
+        venster_->ProcessWindowEvent(event);
+        return event.GetEnabled();
+    }
+
+    void zetVlaggen(bool origineelGeladen, bool bron, bool bestemming) {
+        lid(&Inzage::origineelGeladen) = origineelGeladen;
+        lid(&Inzage::bronGekozen) = bron;
+        lid(&Inzage::bestemmingGekozen) = bestemming;
+    }
+
+    std::string toonVlaggen() {
+        return std::string(lid(&Inzage::origineelGeladen) ? "O" : "-") + (lid(&Inzage::bronGekozen) ? "B" : "-") +
+               (lid(&Inzage::bestemmingGekozen) ? "D" : "-");
+    }
+
+    /// Klikt met de muis op een keuze van het keuzerondje.
+    void klikKeuze(int keuze) {
+        wxPoint plek(20, 0);
+        while (modus()->GetItemFromPoint(modus()->ClientToScreen(plek)) != keuze &&
+               plek.y < modus()->GetSize().y) {
+            ++plek.y;
+        }
+        wxUIActionSimulator muis;
+        muis.MouseMove(modus()->ClientToScreen(plek + wxPoint(0, 5)));
+        wxYield();
+        muis.MouseClick();
+        wxYield();
+    }
+};
+
+}  // namespace
+
+TEST_F(Modus, WistEditorsEnVlaggenBijEenWissel) {
+    for (const int keuze : {1, 2, 0}) {
+        origineel()->SetText("a");
+        aangepast()->SetText("b");
+        zetVlaggen(true, true, true);
+        kiesModus(keuze);
+        EXPECT_EQ("", tekstVan(origineel()));
+        EXPECT_EQ("", tekstVan(aangepast()));
+        EXPECT_EQ(keuze == 2 ? "-B-" : "---", toonVlaggen());
+    }
+}
+
+TEST_F(Modus, VerandertNietsBijEenKlikOpDeKeuzeDieErAlStond) {
+    for (const int keuze : {0, 1, 2}) {
+        kiesModus(keuze);
+        origineel()->SetText("a");
+        zetVlaggen(true, true, true);
+        kiesModus(keuze);
+        EXPECT_EQ("a", tekstVan(origineel())) << keuze;
+        EXPECT_EQ("OBD", toonVlaggen()) << keuze;
+    }
+}
+
+TEST_F(Modus, OnthoudtEenKeuzeDieHetProgrammaZette) {
+    modus()->SetSelection(2);
+    origineel()->SetText("a");
+    kiesModus(2);
+    EXPECT_EQ("a", tekstVan(origineel()));
+    kiesModus(0);
+    EXPECT_EQ("", tekstVan(origineel()));
+}
+
+TEST_F(Modus, SchakeltKnippenNaarDeVlaggen) {
+    for (int vlaggen = 0; vlaggen < 8; ++vlaggen) {
+        zetVlaggen((vlaggen & 1) != 0, (vlaggen & 2) != 0, (vlaggen & 4) != 0);
+        EXPECT_EQ((vlaggen & 1) != 0 || vlaggen == 6, isAan(wxID_REPLACE)) << vlaggen;
+    }
+}
+
+TEST_F(Modus, SchakeltOpslaanAlleenNaarHetResultaat) {
+    EXPECT_FALSE(isAan(wxID_SAVE));
+    aangepast()->AppendText("x");
+    for (const int keuze : {0, 1, 2}) {
+        modus()->SetSelection(keuze);
+        EXPECT_TRUE(isAan(wxID_SAVE)) << keuze;
+    }
+    aangepast()->SetSavePoint();
+    EXPECT_FALSE(isAan(wxID_SAVE));
+}
+
+TEST_F(Modus, SchakeltToevoegenAlleenNaarHetOrigineel) {
+    for (const int keuze : {0, 1, 2}) {
+        modus()->SetSelection(keuze);
+        zetVlaggen(false, true, true);
+        EXPECT_FALSE(isAan(wxID_ADD)) << keuze;
+        zetVlaggen(true, false, false);
+        EXPECT_TRUE(isAan(wxID_ADD)) << keuze;
+    }
+}
+
+TEST_F(Modus, SchakeltDeBatchbedieningNaarDeKeuze) {
+    struct Geval {
+        int keuze;
+        bool openen, bron, bestemming, type;
+    };
+    for (const Geval& geval : {Geval{0, true, false, false, false}, {1, false, true, true, true},
+                               {2, false, false, true, true}}) {
+        modus()->SetSelection(geval.keuze);
+        EXPECT_EQ(geval.openen, isAan(wxID_OPEN)) << geval.keuze;
+        EXPECT_EQ(geval.bron, lid(&Inzage::bronDirKiezer)->IsEnabled()) << geval.keuze;
+        EXPECT_EQ(geval.bestemming, lid(&Inzage::bestemmingDirKiezer)->IsEnabled()) << geval.keuze;
+        EXPECT_EQ(geval.bron, lid(&Inzage::bronLabel)->IsEnabled()) << geval.keuze;
+        EXPECT_EQ(geval.bestemming, lid(&Inzage::bestemmingLabel)->IsEnabled()) << geval.keuze;
+        EXPECT_EQ(geval.type, lid(&Inzage::bestandTypeKeuze)->IsEnabled()) << geval.keuze;
+    }
+}
+
+TEST_F(Modus, BeweertBijEenOnmogelijkeKeuzeEnGeldtDanAlsEenDirectory) {
+    metOnmogelijkeKeuze([this] { EXPECT_FALSE(isAan(wxID_OPEN)); });
+    const auto beweringen = hulp::neemBeweringen();
+    ASSERT_EQ(1U, beweringen.size());
+    EXPECT_EQ("Fout Keuze gemaakt.", beweringen[0].melding);
+    EXPECT_TRUE(lid(&Inzage::bronDirKiezer)->IsEnabled());
+    EXPECT_TRUE(lid(&Inzage::bestandTypeKeuze)->IsEnabled());
+}
+
+TEST_F(Modus, SchakeltKnopEnMenuSamen) {
+    const auto pad = maakBestand("een.c", "x\n");
+    beantwoordBestandsdialoog(naarWx(pad), [this] { geefOpdracht(wxID_OPEN); });
+    laatLopen();
+    EXPECT_TRUE(lid(&Inzage::pasAanKnop)->IsEnabled());
+    EXPECT_TRUE(lid(&Inzage::voegToeKnop)->IsEnabled());
+    EXPECT_FALSE(lid(&Inzage::opslaanKnop)->IsEnabled());
+    geefOpdracht(wxID_REPLACE);
+    laatLopen();
+    EXPECT_TRUE(lid(&Inzage::opslaanKnop)->IsEnabled());
+    venster_->UpdateWindowUI(wxUPDATE_UI_RECURSE);
+    venster_->GetMenuBar()->GetMenu(0)->UpdateUI();
+    for (const int id : {wxID_OPEN, wxID_ADD, wxID_SAVE, wxID_REPLACE}) {
+        EXPECT_TRUE(venster_->GetMenuBar()->IsEnabled(id)) << id;
+    }
+    kiesModus(1);
+    laatLopen();
+    venster_->GetMenuBar()->GetMenu(0)->UpdateUI();
+    EXPECT_FALSE(venster_->GetMenuBar()->IsEnabled(wxID_OPEN));
+    EXPECT_FALSE(lid(&Inzage::openKnop)->IsEnabled());
+    EXPECT_FALSE(lid(&Inzage::pasAanKnop)->IsEnabled());
+    EXPECT_FALSE(lid(&Inzage::voegToeKnop)->IsEnabled());
+}
+
+TEST_F(Modus, WisseltMetDeMuisEnLaatEenTweedeKlikVoorWatHijIs) {
+    klikKeuze(2);
+    ASSERT_TRUE(laatLopenTot([this] { return modus()->GetSelection() == 2; }));
+    EXPECT_EQ("-B-", toonVlaggen());
+    origineel()->SetText("a");
+    lid(&Inzage::bestemmingGekozen) = true;
+    klikKeuze(2);
+    laatLopen();
+    EXPECT_EQ("a", tekstVan(origineel()));
+    EXPECT_EQ("-BD", toonVlaggen());
+    klikKeuze(1);
+    ASSERT_TRUE(laatLopenTot([this] { return modus()->GetSelection() == 1; }));
+    EXPECT_EQ("", tekstVan(origineel()));
+}
