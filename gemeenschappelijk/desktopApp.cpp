@@ -11,6 +11,14 @@
 
 namespace {
 
+/// Een bewering met precies deze tekst als voorwaarde; wxASSERT_MSG zou NULL erin uitwerken. Zonder vanger
+/// gebeurt er niets: de toolkit kijkt zelf niet of er een is.
+void beweer(bool geldt, const char* functie, const char* voorwaarde, const char* melding) {
+    if (!geldt && wxTheAssertHandler != nullptr) {
+        wxOnAssert(__FILE__, __LINE__, functie, voorwaarde, wxString(melding));
+    }
+}
+
 constexpr const char* taalSleutel = "/Basisconfiguratie/Taal";
 
 wxString maakRechtenregel() {
@@ -68,19 +76,14 @@ int DesktopApp::OnExit() {
 }
 
 void DesktopApp::zetHoofdVenster(wxWindow* win) {
-    if (win == nullptr) {
-        wxOnAssert(__FILE__, __LINE__, __func__, "(win != (wxWindow *)Null)",
-                   wxString("(DesktopApp::zetHoofdVenster) win = NULL"));
-    }
+    beweer(win != nullptr, __func__, "(win != (wxWindow *)Null)", "(DesktopApp::zetHoofdVenster) win = NULL");
     hoofdVenster = win;
 }
 
 void DesktopApp::zetTaal(wxLanguage nieuweTaal) {
     taal = static_cast<std::int32_t>(nieuweTaal);
-    if (hoofdVenster == nullptr) {
-        wxOnAssert(__FILE__, __LINE__, __func__, "(hoofdVenster != (wxWindow *)Null)",
-                   wxString("(DesktopApp::zetTaal) win = NULL"));
-    }
+    beweer(hoofdVenster != nullptr, __func__, "(hoofdVenster != (wxWindow *)Null)",
+           "(DesktopApp::zetTaal) win = NULL");
     const wxString titel = wxGetTranslation("Start de applicatie opnieuw");
     const wxString melding =
         wxGetTranslation("De applicatie moet nu opnieuw opgestart worden om de nieuwe taal te aktiveren");

@@ -41,6 +41,8 @@ void ParserVenster::bewerkBestand() {
                                      static_cast<std::size_t>(origineelEditor->GetTextLength()));
     const std::string resultaat = kern::knipTekst(origineel, geefKnipTeksten());
     aangepastEditor->AppendTextRaw(resultaat.data(), static_cast<int>(resultaat.size()));
+    // Het wissen zette het resultaat op zijn eerste regel; het origineel, waar de gebruiker keek, gaat voor.
+    aangepastEditor->ScrollToLine(origineelEditor->GetFirstVisibleLine());
 }
 
 void ParserVenster::bewerkBestand(const wxFileName& bron, const wxFileName& bestemming) {

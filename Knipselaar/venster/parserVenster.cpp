@@ -18,6 +18,7 @@
 #include "Knipselaar/knipselaar.h"
 #include "Knipselaar/venster/identificaties.h"
 #include "Knipselaar/venster/modeKeuze.h"
+#include "Knipselaar/venster/volgEditor.h"
 
 // De toolkit neemt de eerste regel die past. De twee laatste regels voor wxID_ADD en wxID_SAVE doen daarom
 // niets; de regels erboven gaan voor.
@@ -108,10 +109,13 @@ void ParserVenster::maakMenu() {
 }
 
 void ParserVenster::maakTeksten() {
-    origineelEditor = new wxStyledTextCtrl(paneel, ID_ORIGINEEL, wxDefaultPosition, wxDefaultSize, 0);
+    auto* links = new VolgEditor(paneel, ID_ORIGINEEL, wxDefaultPosition, wxDefaultSize, 0);
+    origineelEditor = links;
     beginMarkerTekst = new wxTextCtrl(paneel, ID_BEGINMARKER, kern::standaardBeginMarker());
     eindMarkerTekst = new wxTextCtrl(paneel, ID_EINDMARKER, kern::standaardEindMarker());
-    aangepastEditor = new wxStyledTextCtrl(paneel, ID_AANGEPAST, wxDefaultPosition, wxDefaultSize, 0);
+    auto* rechts = new VolgEditor(paneel, ID_AANGEPAST, wxDefaultPosition, wxDefaultSize, 0);
+    aangepastEditor = rechts;
+    VolgEditor::koppel(*links, *rechts);
     vervangTekst = new wxTextCtrl(paneel, ID_VERVANGTEKST, kern::standaardVervangtekst(), wxDefaultPosition,
                                   wxDefaultSize, wxTE_MULTILINE | wxTE_RICH2 | wxHSCROLL);
 }

@@ -60,7 +60,9 @@ int Kindproces::status() const {
     return WIFEXITED(ruweStatus_) ? WEXITSTATUS(ruweStatus_) : 128 + WTERMSIG(ruweStatus_);
 }
 
-void Kindproces::stuur(int signaal) const { kill(nummer_, signaal); }
+void Kindproces::stuur(int signaal) const {
+    kill(nummer_, signaal);
+}
 
 Omgeving::Omgeving(bool metVensterbeheer) {
     for (const fs::path& map : {thuis(), werk(), map_ / "tmp", map_ / "xdg"}) {
@@ -80,11 +82,12 @@ Omgeving::Omgeving(bool metVensterbeheer) {
     setenv("NO_AT_BRIDGE", "1", 1);            // geen bus voor schermlezers: die is er hier niet
 
     const fs::path nummer = map_ / "beeldscherm";
-    bedienden_.push_back(std::make_unique<Kindproces>(
-        std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten",
-                                 "tcp", "-noreset"},
-        nummer, map_ / "xvfb.log"));
-    const bool gestart = wachtTot([&nummer] { return fs::exists(nummer) && leesBestand(nummer).ends_with('\n'); });
+    bedienden_.push_back(
+        std::make_unique<Kindproces>(std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen", "0",
+                                                              "1280x1024x24", "-nolisten", "tcp", "-noreset"},
+                                     nummer, map_ / "xvfb.log"));
+    const bool gestart =
+        wachtTot([&nummer] { return fs::exists(nummer) && leesBestand(nummer).ends_with('\n'); });
     if (!gestart) {
         throw std::runtime_error("de X-server start niet: " + leesBestand(map_ / "xvfb.log"));
     }
@@ -104,7 +107,9 @@ Omgeving::~Omgeving() {
     }
 }
 
-void wachtEven() { poll(nullptr, 0, 10); }
+void wachtEven() {
+    poll(nullptr, 0, 10);
+}
 
 long klokMs() {
     using namespace std::chrono;

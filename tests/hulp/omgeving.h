@@ -1,7 +1,7 @@
 #pragma once
 
-// De omgeving van één testrun: een eigen thuisdirectory, een eigen tijdelijke directory en een eigen X-server.
-// Tests lopen daardoor naast elkaar en komen nooit aan de instellingen van de gebruiker.
+// De omgeving van één testrun: een eigen thuisdirectory, een eigen tijdelijke directory en een eigen
+// X-server. Tests lopen daardoor naast elkaar en komen nooit aan de instellingen van de gebruiker.
 
 #include <sys/types.h>
 

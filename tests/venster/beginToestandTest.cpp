@@ -89,7 +89,8 @@ TEST_F(Herstel, BrengtAlleWaardenTerug) {
     EXPECT_EQ("/usr/include", (ander->*&Inzage::bronDirKiezer)->GetPath());
     EXPECT_EQ("/usr/share", (ander->*&Inzage::bestemmingDirKiezer)->GetPath());
     EXPECT_EQ(1, (ander->*&Inzage::parserModeKeuze)->GetSelection());
-    EXPECT_FALSE(ander->*&Inzage::bronGekozen) << "in een directory telt een pad uit de opslag niet als keuze";
+    EXPECT_FALSE(ander->*&Inzage::bronGekozen)
+        << "in een directory telt een pad uit de opslag niet als keuze";
     EXPECT_FALSE(ander->*&Inzage::bestemmingGekozen);
     EXPECT_EQ("$HOME ${PATH} begin", (ander->*&Inzage::beginMarkerTekst)->GetValue());
     EXPECT_EQ("", (ander->*&Inzage::eindMarkerTekst)->GetValue());
@@ -120,8 +121,8 @@ TEST_F(Herstel, NegeertEenModusDieNietBestaat) {
 
 TEST_F(Herstel, SchrijftDeWaardenBijHetSluiten) {
     ParserVenster* ander = maakVenster();
-    ander->*&Inzage::origineelPad = "/een/bron";
-    ander->*&Inzage::aangepastPad = "/een/bestemming";
+    ander->*& Inzage::origineelPad = "/een/bron";
+    ander->*& Inzage::aangepastPad = "/een/bestemming";
     (ander->*&Inzage::parserModeKeuze)->SetSelection(2);
     (ander->*&Inzage::bestandTypeKeuze)->SetSelection(2);
     (ander->*&Inzage::beginMarkerTekst)->SetValue("$HOME");

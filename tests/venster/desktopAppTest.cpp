@@ -21,7 +21,15 @@ class DesktopAppTest : public VensterTest {
     DesktopApp& app_ = wxGetApp();
 };
 
+// Het slot is er één per gebruiker, voor alle lopende tests samen; deze test loopt daarom alleen.
+using Slot = DesktopAppTest;
+
 }  // namespace
+
+TEST_F(Slot, StaatOpNaamVanDezeGebruiker) {
+    EXPECT_NE(nullptr, app_.*&AppInzage::instantieControle);
+    EXPECT_TRUE(std::filesystem::exists("/tmp/Knipselaar-" + wxGetUserId().utf8_string()));
+}
 
 TEST_F(DesktopAppTest, HeeftZijnNamen) {
     EXPECT_EQ("Knipselaar", app_.GetAppName());
@@ -32,11 +40,6 @@ TEST_F(DesktopAppTest, IsDeGlobaleOpslag) {
     EXPECT_EQ(app_.configuratie, wxConfigBase::Get(false));
     EXPECT_NE(nullptr, dynamic_cast<wxFileConfig*>(app_.configuratie));
     EXPECT_FALSE(app_.configuratie->IsExpandingEnvVars());
-}
-
-TEST_F(DesktopAppTest, HeeftEenSlotVoorDezeGebruiker) {
-    EXPECT_NE(nullptr, app_.*&AppInzage::instantieControle);
-    EXPECT_TRUE(std::filesystem::exists("/tmp/Knipselaar-" + wxGetUserId().utf8_string()));
 }
 
 TEST_F(DesktopAppTest, SpreektNederlands) {
@@ -63,6 +66,13 @@ TEST_F(DesktopAppTest, OnthoudtHetHoofdvenster) {
     EXPECT_EQ((std::vector<hulp::Bewering>{
                   {"(win != (wxWindow *)Null)", "(DesktopApp::zetHoofdVenster) win = NULL"}}),
               hulp::neemBeweringen());
+}
+
+TEST_F(DesktopAppTest, GaatZonderVangerGewoonVerder) {
+    const auto vanger = wxSetAssertHandler(nullptr);
+    app_.zetHoofdVenster(nullptr);
+    wxSetAssertHandler(vanger);
+    EXPECT_EQ(nullptr, app_.*&AppInzage::hoofdVenster);
 }
 
 TEST_F(DesktopAppTest, VraagtOmEenNieuweStartNaEenAndereTaal) {

@@ -1,6 +1,6 @@
-// De venstertests draaien in de hoofdlus van de echte toepassing: dezelfde klasse, dezelfde start en hetzelfde
-// einde als het programma. Alleen de beweringen staan hier aan, en voor de tests opsommen is geen beeldscherm
-// nodig.
+// De venstertests draaien in de hoofdlus van de echte toepassing: dezelfde klasse, dezelfde start en
+// hetzelfde einde als het programma. Alleen de beweringen staan hier aan, en voor de tests opsommen is geen
+// beeldscherm nodig.
 
 #include <gtest/gtest.h>
 #include <wx/app.h>

@@ -25,7 +25,8 @@ class Kleuring : public VensterTest {
         beantwoordBestandsdialoog(naarWx(pad), [this] { geefOpdracht(wxID_OPEN); });
     }
 
-    /// Houdt alle stijlen van een editor tegen een tabel; wat er niet in staat hoort zwart en niet vet te zijn.
+    /// Houdt alle stijlen van een editor tegen een tabel; wat er niet in staat hoort zwart en niet vet te
+    /// zijn.
     static void verwachtStijlen(wxStyledTextCtrl* editor, const std::vector<Stijl>& tabel) {
         EXPECT_NE(grijs(220), editor->StyleGetBackground(wxSTC_STYLE_LINENUMBER));
         for (int nummer = 0; nummer < wxSTC_STYLE_CALLTIP; ++nummer) {
@@ -78,14 +79,16 @@ class Kleuring : public VensterTest {
     }
 
     const std::vector<Stijl> cStijlen{
-        {6, {150, 0, 0}, false}, {9, {165, 105, 0}, false}, {11, {40, 0, 60}, false}, {4, {0, 150, 0}, false},
-        {7, {150, 0, 0}, false}, {5, {0, 0, 150}, true},    {16, {0, 150, 0}, true},  {1, grijs(150), false},
-        {2, grijs(150), false},  {3, grijs(150), false},    {17, {0, 0, 200}, true},  {18, {0, 0, 200}, false}};
+        {6, {150, 0, 0}, false}, {9, {165, 105, 0}, false}, {11, {40, 0, 60}, false},
+        {4, {0, 150, 0}, false}, {7, {150, 0, 0}, false},   {5, {0, 0, 150}, true},
+        {16, {0, 150, 0}, true}, {1, grijs(150), false},    {2, grijs(150), false},
+        {3, grijs(150), false},  {17, {0, 0, 200}, true},   {18, {0, 0, 200}, false}};
     const std::vector<Stijl> vhdlStijlen{
-        {0, grijs(150), false},      {4, {150, 0, 0}, false}, {8, {165, 105, 0}, false}, {7, {40, 0, 60}, false},
-        {3, {0, 150, 0}, false},     {6, {150, 0, 0}, false}, {5, {0, 0, 150}, false},   {1, {0, 150, 150}, false},
-        {2, grijs(150), false},      {9, grijs(150), false},  {10, {0, 0, 200}, false},  {11, {0, 0, 200}, false},
-        {12, {0, 0, 200}, false},    {13, {0, 0, 200}, false}, {14, {0, 0, 200}, false}};
+        {0, grijs(150), false},   {4, {150, 0, 0}, false},   {8, {165, 105, 0}, false},
+        {7, {40, 0, 60}, false},  {3, {0, 150, 0}, false},   {6, {150, 0, 0}, false},
+        {5, {0, 0, 150}, false},  {1, {0, 150, 150}, false}, {2, grijs(150), false},
+        {9, grijs(150), false},   {10, {0, 0, 200}, false},  {11, {0, 0, 200}, false},
+        {12, {0, 0, 200}, false}, {13, {0, 0, 200}, false},  {14, {0, 0, 200}, false}};
     const std::array<wxStyledTextCtrl*, 2> editors_{origineel(), aangepast()};
 };
 
@@ -162,8 +165,10 @@ TEST_F(Kleuring, KentElkSleutelwoord) {
     const std::string vhdl =
         "abs access after alias all and architecture array assert attribute begin block body buffer bus case "
         "component configuration constant disconnect downto else elsif end entity exit file for function "
-        "generate generic group guarded if impure in inertial inout is label library linkage literal loop map "
-        "mod nand new next nor not null of on open or others out package port postponed procedure process pure "
+        "generate generic group guarded if impure in inertial inout is label library linkage literal loop "
+        "map "
+        "mod nand new next nor not null of on open or others out package port postponed procedure process "
+        "pure "
         "range record register reject return rol ror select severity signal shared sla sli sra srl subtype "
         "thent to transport type unaffected units until use variable wait when while with xnor xor";
     const auto controleer = [this](const std::string& naam, const std::string& woorden, int stijl,
@@ -213,7 +218,8 @@ TEST_F(Kleuring, GeeftBeideEditorsEenLettertypeMetVasteBreedte) {
             EXPECT_EQ(verwacht.GetFaceName(), editor->StyleGetFaceName(stijl)) << stijl;
             EXPECT_EQ(verwacht.GetPointSize(), editor->StyleGetSize(stijl)) << stijl;
         }
-        EXPECT_EQ(editor->TextWidth(wxSTC_C_DEFAULT, "iiiiiiii"), editor->TextWidth(wxSTC_C_DEFAULT, "MMMMMMMM"));
+        EXPECT_EQ(editor->TextWidth(wxSTC_C_DEFAULT, "iiiiiiii"),
+                  editor->TextWidth(wxSTC_C_DEFAULT, "MMMMMMMM"));
     }
 }
 
@@ -288,6 +294,36 @@ TEST_F(Verschuiven, HoudtDeEditorsGelijk) {
     laatLopen();
     aangepast()->ScrollToLine(30);
     EXPECT_TRUE(laatLopenTot([this] { return origineel()->GetFirstVisibleLine() == 30; }));
+}
+
+// Zo tekent GTK zolang een schuifbalk fadet: allebei, de linker eerst.
+TEST_F(Verschuiven, LaatDeLinkerDeRechterNietTerugduwen) {
+    venster_->Hide();
+    const auto tekenAllebei = [this] {
+        for (auto* editor : {origineel(), aangepast()}) {
+            wxStyledTextEvent event(wxEVT_STC_PAINTED, editor->GetId());
+            event.SetEventObject(editor);
+            editor->ProcessWindowEvent(event);
+        }
+    };
+    aangepast()->ScrollToLine(30);
+    tekenAllebei();
+    EXPECT_EQ(30, origineel()->GetFirstVisibleLine());
+    EXPECT_EQ(30, aangepast()->GetFirstVisibleLine());
+    tekenAllebei();
+    origineel()->ScrollToLine(70);
+    tekenAllebei();
+    EXPECT_EQ(70, origineel()->GetFirstVisibleLine());
+    EXPECT_EQ(70, aangepast()->GetFirstVisibleLine());
+}
+
+TEST_F(Verschuiven, BlijftOpDePlekVanHetOrigineelBijEenKnipbeurt) {
+    origineel()->ScrollToLine(100);
+    laatLopenTot([this] { return aangepast()->GetFirstVisibleLine() == 100; });
+    geefOpdracht(wxID_REPLACE);
+    EXPECT_TRUE(laatLopenTot([this] { return aangepast()->GetFirstVisibleLine() == 100; }));
+    laatLopen();
+    EXPECT_EQ(100, origineel()->GetFirstVisibleLine());
 }
 
 TEST_F(Verschuiven, VolgtDeEditorDieGetekendWerd) {

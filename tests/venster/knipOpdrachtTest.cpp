@@ -76,8 +76,10 @@ TEST_F(KnipOpdracht, ToontEenBezigVensterZolangHetDuurt) {
     // binnen en is de plaats om te kijken.
     static int vensters = 0;
     const auto vooraf = wxTopLevelWindows.size();
-    const auto oud = wxSetAssertHandler([](const wxString&, int, const wxString&, const wxString&,
-                                           const wxString&) { vensters = static_cast<int>(wxTopLevelWindows.size()); });
+    const auto oud =
+        wxSetAssertHandler([](const wxString&, int, const wxString&, const wxString&, const wxString&) {
+            vensters = static_cast<int>(wxTopLevelWindows.size());
+        });
     metOnmogelijkeKeuze([this] { geefOpdracht(wxID_REPLACE); });
     wxSetAssertHandler(oud);
     EXPECT_EQ(static_cast<int>(vooraf) + 1, vensters);

@@ -21,8 +21,8 @@ class Modus : public VensterTest {
     }
 
     std::string toonVlaggen() {
-        return std::string(lid(&Inzage::origineelGeladen) ? "O" : "-") + (lid(&Inzage::bronGekozen) ? "B" : "-") +
-               (lid(&Inzage::bestemmingGekozen) ? "D" : "-");
+        return std::string(lid(&Inzage::origineelGeladen) ? "O" : "-") +
+               (lid(&Inzage::bronGekozen) ? "B" : "-") + (lid(&Inzage::bestemmingGekozen) ? "D" : "-");
     }
 
     /// Klikt met de muis op een keuze van het keuzerondje.
@@ -107,8 +107,8 @@ TEST_F(Modus, SchakeltDeBatchbedieningNaarDeKeuze) {
         int keuze;
         bool openen, bron, bestemming, type;
     };
-    for (const Geval& geval : {Geval{0, true, false, false, false}, {1, false, true, true, true},
-                               {2, false, false, true, true}}) {
+    for (const Geval& geval :
+         {Geval{0, true, false, false, false}, {1, false, true, true, true}, {2, false, false, true, true}}) {
         modus()->SetSelection(geval.keuze);
         EXPECT_EQ(geval.openen, isAan(wxID_OPEN)) << geval.keuze;
         EXPECT_EQ(geval.bron, lid(&Inzage::bronDirKiezer)->IsEnabled()) << geval.keuze;

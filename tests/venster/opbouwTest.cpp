@@ -30,12 +30,13 @@ class SizerTekst {
   private:
     std::string soort(wxSizer* sizer) {
         if (auto* kader = dynamic_cast<wxStaticBoxSizer*>(sizer)) {
-            return (kader->GetOrientation() == wxVERTICAL ? "kader V " : "kader H ") + noem_(kader->GetStaticBox());
+            return (kader->GetOrientation() == wxVERTICAL ? "kader V " : "kader H ") +
+                   noem_(kader->GetStaticBox());
         }
         if (auto* raster = dynamic_cast<wxFlexGridSizer*>(sizer)) {
             std::ostringstream tekst;
-            tekst << "raster " << raster->GetRows() << "x" << raster->GetCols() << " " << raster->GetVGap() << ","
-                  << raster->GetHGap();
+            tekst << "raster " << raster->GetRows() << "x" << raster->GetCols() << " " << raster->GetVGap()
+                  << "," << raster->GetHGap();
             for (int i = 0; i < 2; ++i) {
                 tekst << (raster->IsRowGrowable(static_cast<size_t>(i)) ? " rij groeit" : "")
                       << (raster->IsColGrowable(static_cast<size_t>(i)) ? " kolom groeit" : "");
@@ -184,12 +185,9 @@ TEST_F(Opbouw, HeeftHetMenu) {
         int id;
         const char* label;
     };
-    const Verwacht tabel[] = {{wxID_ABOUT, "&About\tCtrl+K"},
-                              {wxID_OPEN, "&Open File\tCtrl+O"},
-                              {wxID_ADD, "A&dd File"},
-                              {wxID_SAVE, "&Save\tCtrl+S"},
-                              {wxID_SEPARATOR, ""},
-                              {wxID_REPLACE, "&Find and Replace\tCtrl+F"},
+    const Verwacht tabel[] = {{wxID_ABOUT, "&About\tCtrl+K"}, {wxID_OPEN, "&Open File\tCtrl+O"},
+                              {wxID_ADD, "A&dd File"},        {wxID_SAVE, "&Save\tCtrl+S"},
+                              {wxID_SEPARATOR, ""},           {wxID_REPLACE, "&Find and Replace\tCtrl+F"},
                               {wxID_EXIT, "&Exit\tCtrl+Q"}};
     ASSERT_EQ(lid(&Inzage::menuBalk), venster_->GetMenuBar());
     ASSERT_EQ(1U, venster_->GetMenuBar()->GetMenuCount());
@@ -215,14 +213,17 @@ TEST_F(Opbouw, HeeftDeGebeurtenistabel) {
         {wxEVT_COMMAND_MENU_SELECTED, wxID_SAVE, wxCommandEventHandler(ParserVenster::opslagHandler)},
         {wxEVT_COMMAND_MENU_SELECTED, wxID_REPLACE, wxCommandEventHandler(ParserVenster::verwijderHandler)},
         {wxEVT_COMMAND_MENU_SELECTED, wxID_EXIT, wxCommandEventHandler(ParserVenster::eindeHandler)},
-        {wxEVT_COMMAND_RADIOBOX_SELECTED, ID_PARSERMODE, wxCommandEventHandler(ParserVenster::parserModeHandler)},
+        {wxEVT_COMMAND_RADIOBOX_SELECTED, ID_PARSERMODE,
+         wxCommandEventHandler(ParserVenster::parserModeHandler)},
         {wxEVT_COMMAND_BUTTON_CLICKED, wxID_OPEN, wxCommandEventHandler(ParserVenster::openHandler)},
         {wxEVT_COMMAND_BUTTON_CLICKED, wxID_ADD, wxCommandEventHandler(ParserVenster::openAddHandler)},
         {wxEVT_COMMAND_BUTTON_CLICKED, wxID_SAVE, wxCommandEventHandler(ParserVenster::opslagHandler)},
         {wxEVT_COMMAND_BUTTON_CLICKED, wxID_REPLACE, wxCommandEventHandler(ParserVenster::verwijderHandler)},
         {wxEVT_COMMAND_BUTTON_CLICKED, wxID_EXIT, wxCommandEventHandler(ParserVenster::eindeHandler)},
-        {wxEVT_COMMAND_DIRPICKER_CHANGED, ID_BRONDIR, wxFileDirPickerEventHandler(ParserVenster::verwerkDirHandler)},
-        {wxEVT_COMMAND_DIRPICKER_CHANGED, ID_BESTEMMINGDIR, wxFileDirPickerEventHandler(ParserVenster::verwerkDirHandler)},
+        {wxEVT_COMMAND_DIRPICKER_CHANGED, ID_BRONDIR,
+         wxFileDirPickerEventHandler(ParserVenster::verwerkDirHandler)},
+        {wxEVT_COMMAND_DIRPICKER_CHANGED, ID_BESTEMMINGDIR,
+         wxFileDirPickerEventHandler(ParserVenster::verwerkDirHandler)},
         {wxEVT_STC_MARGINCLICK, ID_ORIGINEEL, wxStyledTextEventHandler(ParserVenster::onMarginClick)},
         {wxEVT_STC_MARGINCLICK, ID_AANGEPAST, wxStyledTextEventHandler(ParserVenster::onMarginClick)},
         {wxEVT_STC_PAINTED, ID_ORIGINEEL, wxStyledTextEventHandler(ParserVenster::onScrollLeft)},

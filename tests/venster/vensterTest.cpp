@@ -8,9 +8,13 @@ namespace {
 const hulp::Omgeving* deOmgeving = nullptr;
 }
 
-void zetOmgeving(const hulp::Omgeving& omgeving) { deOmgeving = &omgeving; }
+void zetOmgeving(const hulp::Omgeving& omgeving) {
+    deOmgeving = &omgeving;
+}
 
-const hulp::Omgeving& geefOmgeving() { return *deOmgeving; }
+const hulp::Omgeving& geefOmgeving() {
+    return *deOmgeving;
+}
 
 bool laatLopenTot(const std::function<bool()>& voorwaarde, int hoogstensMs) {
     const long einde = hulp::klokMs() + hoogstensMs;
@@ -32,7 +36,9 @@ void laatLopen() {
     wxYield();
 }
 
-wxString naarWx(const std::filesystem::path& pad) { return {pad.c_str(), wxConvFile}; }
+wxString naarWx(const std::filesystem::path& pad) {
+    return {pad.c_str(), wxConvFile};
+}
 
 VensterTest::VensterTest() : venster_(dynamic_cast<ParserVenster*>(wxTheApp->GetTopWindow())) {
     EXPECT_TRUE(laatLopenTot([this] { return venster_->IsShownOnScreen(); }));
@@ -59,7 +65,9 @@ void VensterTest::metOnmogelijkeKeuze(const std::function<void()>& handeling) {
     lid(&Inzage::parserModeKeuze) = echt;
 }
 
-std::string VensterTest::tekstVan(wxStyledTextCtrl* editor) { return editor->GetText().utf8_string(); }
+std::string VensterTest::tekstVan(wxStyledTextCtrl* editor) {
+    return editor->GetText().utf8_string();
+}
 
 std::filesystem::path VensterTest::maakBestand(const std::string& naam, std::string_view inhoud) {
     const auto pad = geefOmgeving().werk() / naam;

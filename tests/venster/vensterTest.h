@@ -1,6 +1,7 @@
 #pragma once
 
-// De basis van alle venstertests: het venster van de lopende toepassing, zijn leden, en wachten zonder slapen.
+// De basis van alle venstertests: het venster van de lopende toepassing, zijn leden, en wachten zonder
+// slapen.
 
 #include <gtest/gtest.h>
 #include <wx/button.h>

@@ -1,0 +1,120 @@
+#include "tests/eind/bediening.h"
+
+#include <array>
+#include <csignal>
+#include <cstdio>
+#include <sstream>
+
+namespace fs = std::filesystem;
+
+std::string voerUit(const std::vector<std::string>& opdracht) {
+    std::string regel;
+    for (const std::string& woord : opdracht) {
+        regel += "'";
+        for (const char teken : woord) {
+            regel += teken == '\'' ? std::string("'\\''") : std::string(1, teken);
+        }
+        regel += "' ";
+    }
+    FILE* pijp = popen((regel + "2>/dev/null").c_str(), "r");
+    std::string uitvoer;
+    std::array<char, 4096> blok{};
+    std::size_t gelezen = 0;
+    while ((gelezen = fread(blok.data(), 1, blok.size(), pijp)) > 0) {
+        uitvoer.append(blok.data(), gelezen);
+    }
+    return pclose(pijp) == 0 ? uitvoer : std::string();
+}
+
+Bediening::Bediening() = default;
+
+// Eerst het programma, dan pas het beeldscherm: anders sterft het aan een verbroken verbinding.
+Bediening::~Bediening() {
+    if (programma_ && !programma_->isAf()) {
+        programma_->stuur(SIGTERM);
+        hulp::wachtTot([this] { return programma_->isAf(); }, 5000);
+    }
+}
+
+void Bediening::start(const std::vector<std::string>& argumenten) {
+    std::vector<std::string> opdracht{PROGRAMMA};
+    opdracht.insert(opdracht.end(), argumenten.begin(), argumenten.end());
+    programma_ = std::make_unique<hulp::Kindproces>(opdracht, omgeving_.werk() / "uitvoer",
+                                                    omgeving_.werk() / "fouten");
+    wachtOpVenster(hoofdvenster);
+}
+
+void Bediening::druk(const std::string& toetsen) {
+    voerUit({"xdotool", "key", "--clearmodifiers", toetsen});
+}
+
+bool Bediening::isZichtbaar(const std::string& titel) {
+    return !voerUit({"xdotool", "search", "--onlyvisible", "--name", titel}).empty();
+}
+
+std::string Bediening::wachtOpVenster(const std::string& titel) {
+    std::string nummer;
+    const bool actief = hulp::wachtTot([&nummer, &titel] {
+        std::istringstream gevonden(voerUit({"xdotool", "search", "--onlyvisible", "--name", titel}));
+        std::string kandidaat;
+        while (gevonden >> kandidaat) {
+            nummer = kandidaat;
+        }
+        return !nummer.empty() && voerUit({"xdotool", "getactivewindow"}) == nummer + "\n";
+    });
+    EXPECT_TRUE(actief) << "geen actief venster " << titel;
+    return nummer;
+}
+
+void Bediening::wachtTotWeg(const std::string& titel) {
+    EXPECT_TRUE(hulp::wachtTot([&titel] { return !isZichtbaar(titel); })) << titel << " blijft staan";
+}
+
+void Bediening::typPad(const std::string& titel, const fs::path& pad) {
+    wachtOpVenster(titel);
+    druk("ctrl+a");
+    voerUit({"xdotool", "type", "--delay", "20", pad.string()});
+    druk("Return");
+    // De eerste Return kan nog de lijst met aanvullingen sluiten.
+    if (!hulp::wachtTot([&titel] { return !isZichtbaar(titel); }, 1500)) {
+        druk("Return");
+    }
+    wachtTotWeg(titel);
+}
+
+void Bediening::kiesPad(const std::string& titel, const fs::path& pad) {
+    typPad(titel, pad);
+    wachtOpVenster(hoofdvenster);
+}
+
+void Bediening::klik(int x, int y, int knop) {
+    const std::string nummer = wachtOpVenster(hoofdvenster);
+    voerUit({"xdotool", "mousemove", "--window", nummer, std::to_string(x), std::to_string(y), "click",
+             std::to_string(knop)});
+}
+
+std::string Bediening::kiekje(const std::string& venster) {
+    return voerUit({"import", "-window", venster, "rgb:-"});
+}
+
+int Bediening::wachtOpEinde() {
+    return hulp::wachtTot([this] { return programma_->isAf(); }) ? programma_->status() : -1;
+}
+
+std::string Bediening::fouten() const {
+    return hulp::leesBestand(omgeving_.werk() / "fouten");
+}
+
+std::string Bediening::leesSleutel(const std::string& groep, const std::string& sleutel) const {
+    std::istringstream opslag(hulp::leesBestand(omgeving_.opslag()));
+    std::string regel;
+    std::string huidigeGroep;
+    while (std::getline(opslag, regel)) {
+        if (regel.starts_with('[')) {
+            huidigeGroep = regel.substr(1, regel.size() - 2);
+        } else if (huidigeGroep == groep && regel.starts_with(sleutel + "=")) {
+            return regel.substr(sleutel.size() + 1);
+        }
+    }
+    return "(ontbreekt)";
+}
