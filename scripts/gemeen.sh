@@ -1,0 +1,79 @@
+# Wat start.sh en test.sh delen. Wordt ingelezen, niet uitgevoerd; de aanroeper zet eerst "hoofdmap".
+
+# Stopt met één duidelijke regel.
+stop() {
+    echo "$(basename "$0"): $*" >&2
+    exit 1
+}
+
+# Voert een opdracht als root uit, zo nodig met sudo.
+als_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        stop "hiervoor is root of sudo nodig: $*"
+    fi
+}
+
+# Voert een opdracht uit als de gebruiker die het script met sudo aanriep, zodat wat gebouwd wordt van hem is.
+als_gebruiker() {
+    if [ "$(id -u)" -eq 0 ] && [ -n "${SUDO_USER:-}" ] && [ "$SUDO_USER" != root ]; then
+        sudo -H -u "$SUDO_USER" --preserve-env=DISPLAY,WAYLAND_DISPLAY,XAUTHORITY,XDG_RUNTIME_DIR "$@"
+    else
+        "$@"
+    fi
+}
+
+# Voert een stap uit; alleen als hij mislukt is te zien wat hij te zeggen had.
+# $1 is wat er bij een mislukking gemeld wordt, de rest is de opdracht.
+stil() {
+    local melding=$1 uitvoer
+    shift
+    if ! uitvoer=$("$@" 2>&1); then
+        printf '%s\n' "$uitvoer" | tail -n 40 >&2
+        stop "$melding"
+    fi
+}
+
+# Installeert welke van deze pakketten ontbreken.
+installeer() {
+    local pakket ontbrekend=()
+    for pakket in "$@"; do
+        if ! dpkg-query -W -f '${Status}' "$pakket" 2>/dev/null | grep -q 'ok installed$'; then
+            ontbrekend+=("$pakket")
+        fi
+    done
+    [ ${#ontbrekend[@]} -eq 0 ] && return
+    echo "Pakketten installeren: ${ontbrekend[*]}"
+    stil "apt-get update lukt niet" als_root apt-get update
+    stil "apt-get install lukt niet" als_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y --no-install-recommends "${ontbrekend[@]}"
+}
+
+# Maakt de Nederlandse locale, waarmee de toolkit haar knoppen en menu's vertaalt.
+zorg_voor_locale() {
+    # Zonder -q: grep zou locale anders midden in zijn uitvoer afbreken.
+    if locale -a | grep -ix 'nl_NL\.utf-\?8' >/dev/null; then
+        return
+    fi
+    echo "Nederlandse locale maken"
+    als_root sed -i 's/^# *nl_NL\.UTF-8 UTF-8/nl_NL.UTF-8 UTF-8/' /etc/locale.gen
+    stil "locale-gen lukt niet" als_root locale-gen
+}
+
+# Configureert en bouwt een preset. $1 is de preset.
+bouw() {
+    local map="$hoofdmap/bouw/$1"
+    if [ -e "$map" ] && ! als_gebruiker test -w "$map"; then
+        stop "$map is van een andere gebruiker; verwijder die map of voer dit uit als die gebruiker"
+    fi
+    [ -e "$map/build.ninja" ] || echo "Bouwen ($1), dat duurt een paar minuten"
+    cd "$hoofdmap" || stop "kan niet naar $hoofdmap"
+    stil "configureren lukt niet" als_gebruiker cmake --preset "$1"
+    stil "bouwen lukt niet" als_gebruiker cmake --build --preset "$1"
+}
+
+pakketten_bouw=(g++ cmake ninja-build libwxgtk3.2-dev wx3.2-i18n locales fonts-dejavu-core)
+pakketten_bediening=(xvfb xdotool openbox imagemagick)

@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# Bouwt Knipselaar met alle controles aan en voert alle tests uit. Argumenten gaan naar ctest, zoals -L kern.
+set -euo pipefail
+hoofdmap=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+. "$hoofdmap/scripts/gemeen.sh"
+
+installeer "${pakketten_bouw[@]}" "${pakketten_bediening[@]}" libgtest-dev libgtk-3-dev librsvg2-bin gcc ghdl
+zorg_voor_locale
+bouw debug
+# Een test wacht vooral op vensters; met één meer dan er kernen zijn staat er geen stil.
+als_gebruiker ctest --preset debug --parallel "$(($(nproc) + 1))" "$@"
