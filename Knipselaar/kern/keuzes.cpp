@@ -15,6 +15,12 @@ Brontaal kiesBrontaal(const wxString& extensie) {
     return Brontaal::geen;
 }
 
+bool isBestandGekozen(const wxString& extensie, int bestandType) {
+    constexpr int bekendeTalen = 0;
+    constexpr int alles = 2;
+    return bestandType == alles || (bestandType == bekendeTalen && kiesBrontaal(extensie) != Brontaal::geen);
+}
+
 bool magKnippen(const Voortgang& voortgang) {
     return voortgang.origineelGeladen || (voortgang.bronGekozen && voortgang.bestemmingGekozen);
 }

@@ -16,6 +16,11 @@ enum class Brontaal { geen, c, cpp, vhdl };
 /// De kleuring bij een extensie zonder punt. Alleen kleine letters tellen; een header is C++.
 Brontaal kiesBrontaal(const wxString& extensie);
 
+/// Of een batch een bestand neemt, naar zijn extensie zonder punt en de selectie van "bestandstype". Beide
+/// talen horen bij keuze 0; keuze 1, "VHDL bestanden", neemt niets en keuze 2 alles. Alleen kleine letters
+/// tellen.
+bool isBestandGekozen(const wxString& extensie, int bestandType);
+
 /// De vlaggen die vertellen hoe ver de gebruiker is.
 struct Voortgang {
     bool origineelGeladen;

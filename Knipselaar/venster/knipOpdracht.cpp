@@ -46,9 +46,9 @@ void ParserVenster::bewerkBestand() {
 }
 
 void ParserVenster::bewerkBestand(const wxFileName& bron, const wxFileName& bestemming) {
-    kern::knipBestand(bron, bestemming, geefKnipTeksten());
+    knipBestand(bron, bestemming);
 }
 
-void ParserVenster::verwerkDirectory() {}
-
-void ParserVenster::verwerkDirectoryRecursief() {}
+kern::KnipUitslag ParserVenster::knipBestand(const wxFileName& bron, const wxFileName& bestemming) {
+    return kern::knipBestand(bron, bestemming, geefKnipTeksten());
+}

@@ -7,7 +7,6 @@
 #include <wx/stc/stc.h>
 
 #include "Knipselaar/kern/keuzes.h"
-#include "Knipselaar/venster/identificaties.h"
 #include "Knipselaar/venster/parserVenster.h"
 
 void ParserVenster::parserModeHandler(wxCommandEvent& /*event*/) {
@@ -45,20 +44,4 @@ void ParserVenster::parserKeuzeUpdateHandler(wxUpdateUIEvent& event) {
     bronLabel->Enable(bediening.bron);
     bestemmingLabel->Enable(bediening.bestemming);
     bestandTypeKeuze->Enable(bediening.bestandType);
-}
-
-void ParserVenster::verwerkDirHandler(wxFileDirPickerEvent& event) {
-    const auto* kiezer = dynamic_cast<wxDirPickerCtrl*>(FindWindowById(event.GetId(), this));
-    if (kiezer == nullptr) {
-        return;
-    }
-    huidigBestand = wxFileName::DirName(kiezer->GetPath());
-    const wxString pad = huidigBestand.GetPath(wxPATH_GET_VOLUME, wxPATH_NATIVE);
-    if (event.GetId() == ID_BRONDIR) {
-        bronGekozen = true;
-        origineelPad = pad;
-    } else {
-        bestemmingGekozen = true;
-        aangepastPad = pad;
-    }
 }

@@ -5,11 +5,12 @@
 // komen in de constructor uit de opslag van de toepassing en gaan er in de destructor weer in.
 //
 // De bronnen zijn verdeeld naar taak: parserVenster.cpp (opbouw, levensloop), indeling.cpp (sizers),
-// bestandsOpdrachten.cpp, knipOpdracht.cpp, modus.cpp en kleuring.cpp.
+// bestandsOpdrachten.cpp, knipOpdracht.cpp, batchOpdracht.cpp, modus.cpp en kleuring.cpp.
 
 #include <wx/filename.h>
 #include <wx/frame.h>
 
+#include "Knipselaar/kern/bestandKnipper.h"
 #include "Knipselaar/kern/knipper.h"
 #include "Knipselaar/kern/parserInstellingen.h"
 
@@ -114,6 +115,7 @@ class ParserVenster : public wxFrame {
     bool kiesOrigineel();
     void kleurVoorHuidigBestand();
     kern::KnipTeksten geefKnipTeksten() const;
+    kern::KnipUitslag knipBestand(const wxFileName& bron, const wxFileName& bestemming);
     void verwerkDirectory();
     void verwerkDirectoryRecursief();
     void volgEditor(wxStyledTextCtrl* leider, wxStyledTextCtrl* volger);

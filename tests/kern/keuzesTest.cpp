@@ -15,6 +15,20 @@ TEST(Keuzes, KiestDeKleuringNaarDeExtensie) {
     }
 }
 
+TEST(Keuzes, NeemtBestandenNaarHetBestandstype) {
+    for (const char* extensie : {"c", "cpp", "h", "vhdl", "vhd"}) {
+        EXPECT_TRUE(kern::isBestandGekozen(extensie, 0)) << extensie;
+        EXPECT_FALSE(kern::isBestandGekozen(extensie, 1)) << extensie;
+        EXPECT_TRUE(kern::isBestandGekozen(extensie, 2)) << extensie;
+    }
+    for (const char* extensie : {"", "C", "CPP", "H", "VHD", "VHDL", "cc", "hpp", "txt", "c "}) {
+        EXPECT_FALSE(kern::isBestandGekozen(extensie, 0)) << extensie;
+        EXPECT_FALSE(kern::isBestandGekozen(extensie, 1)) << extensie;
+        EXPECT_TRUE(kern::isBestandGekozen(extensie, 2)) << extensie;
+    }
+    EXPECT_FALSE(kern::isBestandGekozen("c", -1));
+}
+
 TEST(Keuzes, MagKnippenMetEenOrigineelOfBeideDirectories) {
     for (int vlaggen = 0; vlaggen < 8; ++vlaggen) {
         const kern::Voortgang voortgang{.origineelGeladen = (vlaggen & 1) != 0,

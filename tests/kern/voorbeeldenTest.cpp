@@ -49,7 +49,8 @@ class Voorbeelden : public testing::Test {
     void verwachtStop(const std::string& opdracht) const {
         const Afloop afloop = voerUit("LC_ALL=C " + opdracht);
         EXPECT_NE(0, afloop.status);
-        EXPECT_NE(std::string::npos, afloop.uitvoer.find("#error \"Dit stuk software ontbreekt.\"")) << afloop.uitvoer;
+        EXPECT_NE(std::string::npos, afloop.uitvoer.find("#error \"Dit stuk software ontbreekt.\""))
+            << afloop.uitvoer;
     }
 
     void knip(const std::string& naam) const {
@@ -72,7 +73,8 @@ TEST_F(Voorbeelden, CProgrammaWerkt) {
 }
 
 TEST_F(Voorbeelden, CppKlasseWerkt) {
-    verwachtGoed("g++ -std=c++17 -Wall -Wextra -Wpedantic -Werror matrix.cpp matrixdemo.cpp -o matrix && ./matrix");
+    verwachtGoed(
+        "g++ -std=c++17 -Wall -Wextra -Wpedantic -Werror matrix.cpp matrixdemo.cpp -o matrix && ./matrix");
 }
 
 TEST_F(Voorbeelden, VhdlEntiteitWerkt) {

@@ -1,0 +1,57 @@
+#pragma once
+
+// De twee batches: alle bestanden van een directory naar een andere knippen, of alle bestanden van een boom
+// ter plaatse. Hier wordt de lijst gemaakt, afgelopen, geteld en vervangen; wat er gekozen, geknipt en gemeld
+// wordt zegt de opdrachtgever. Kent geen venster en meldt zelf niets.
+
+#include <wx/filename.h>
+
+#include <vector>
+
+#include "Knipselaar/kern/bestandKnipper.h"
+
+namespace kern {
+
+/// Wat een batch van zijn opdrachtgever nodig heeft.
+class BatchOpdracht {
+  public:
+    BatchOpdracht() = default;
+    BatchOpdracht(const BatchOpdracht&) = delete;
+    BatchOpdracht& operator=(const BatchOpdracht&) = delete;
+    virtual ~BatchOpdracht() = default;
+
+    /// Of dit bestand aan de beurt komt.
+    virtual bool isGekozen(const wxFileName& bestand) = 0;
+
+    /// Knipt het ene bestand naar het andere.
+    virtual KnipUitslag knip(const wxFileName& bron, const wxFileName& bestemming) = 0;
+
+    /// Een bestand blijft zoals het is.
+    virtual void meldOvergeslagen(long nummer, const wxFileName& bestand) = 0;
+
+    /// Een bestand is aan de beurt; ter plaatse zijn bron en bestemming hetzelfde. Zegt niet of het lukte.
+    virtual void meldVerwerkt(long nummer, const wxFileName& bron, const wxFileName& bestemming) = 0;
+};
+
+/// De namen van de gewone en bijzondere bestanden in een directory, zonder verborgen bestanden, in de
+/// volgorde van de directory. Leeg als zij niet te openen is.
+std::vector<wxString> lijstDirectory(const wxString& directory);
+
+/// De volledige paden van alle bestanden in een boom, zonder verborgen bestanden en directories. De bestanden
+/// van een subdirectory komen voor die van de directory zelf. Een link naar een directory wordt niet
+/// gevolgd: die kan buiten de boom of in een kring uitkomen. Leeg als de boom niet te openen is.
+std::vector<wxString> lijstBoom(const wxString& boom);
+
+/// Knipt de genoemde bestanden van de ene directory naar de andere, onder dezelfde naam. Een verwerkt bestand
+/// telt mee, een overgeslagen bestand krijgt het nummer van het volgende. Een bestemming die via een link of
+/// een tweede naam het bronbestand zelf is, wordt overgeslagen: schrijven zou het origineel legen. In
+/// eenzelfde directory gebeurt dat wel; daar heeft de opdrachtgever om gevraagd.
+void knipDirectory(const wxString& bron, const wxString& bestemming, const std::vector<wxString>& namen,
+                   BatchOpdracht& opdracht);
+
+/// Knipt de genoemde bestanden van een boom ter plaatse. Het nummer is de plaats in de lijst. Elk echt
+/// bestand komt hoogstens eenmaal aan de beurt; wat via een link al geknipt is, of buiten de boom ligt, wordt
+/// overgeslagen. Een bestand dat niet heel gelezen, geknipt en geschreven kan worden blijft zoals het is.
+void knipBoom(const wxString& boom, const std::vector<wxString>& paden, BatchOpdracht& opdracht);
+
+}  // namespace kern

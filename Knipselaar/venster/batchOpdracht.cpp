@@ -1,0 +1,117 @@
+// De twee batches van het venster: vragen, de editors als logboek, en het kiezen van de directories. Het
+// lopen, tellen en vervangen doet de kern.
+
+#include <wx/choice.h>
+#include <wx/filepicker.h>
+#include <wx/intl.h>
+#include <wx/log.h>
+#include <wx/msgdlg.h>
+#include <wx/stc/stc.h>
+
+#include "Knipselaar/kern/batch.h"
+#include "Knipselaar/kern/keuzes.h"
+#include "Knipselaar/kern/logregels.h"
+#include "Knipselaar/kern/paden.h"
+#include "Knipselaar/venster/identificaties.h"
+#include "Knipselaar/venster/parserVenster.h"
+
+namespace {
+
+/// Knipt voor een venster: leest zijn bediening bij elk bestand opnieuw en schrijft in zijn editors.
+class VensterBatch : public kern::BatchOpdracht {
+  public:
+    VensterBatch(const wxChoice& bestandType, wxStyledTextCtrl& bronLog, wxStyledTextCtrl& doelLog,
+                 std::function<kern::KnipUitslag(const wxFileName&, const wxFileName&)> knip)
+        : bestandType_(bestandType), bronLog_(bronLog), doelLog_(doelLog), knip_(std::move(knip)) {}
+
+    bool isGekozen(const wxFileName& bestand) override {
+        return kern::isBestandGekozen(bestand.GetExt(), bestandType_.GetSelection());
+    }
+
+    kern::KnipUitslag knip(const wxFileName& bron, const wxFileName& bestemming) override {
+        return knip_(bron, bestemming);
+    }
+
+    void meldOvergeslagen(long nummer, const wxFileName& bestand) override {
+        bronLog_.AppendText(kern::regelOvergeslagen(nummer, bestand.GetFullPath()));
+    }
+
+    void meldVerwerkt(long nummer, const wxFileName& bron, const wxFileName& bestemming) override {
+        bronLog_.AppendText(kern::regelOrigineel(nummer, bron.GetFullName()));
+        doelLog_.AppendText(kern::regelStudent(nummer, bestemming.GetFullName()));
+    }
+
+  protected:
+    const wxChoice& bestandType_;
+    wxStyledTextCtrl& bronLog_;
+    wxStyledTextCtrl& doelLog_;
+
+  private:
+    std::function<kern::KnipUitslag(const wxFileName&, const wxFileName&)> knip_;
+};
+
+/// Ter plaatse noemt het logboek hele paden en laat het met kleur zien wat er voorkwam.
+class TerPlaatseBatch : public VensterBatch {
+  public:
+    using VensterBatch::VensterBatch;
+
+    void meldOvergeslagen(long nummer, const wxFileName& bestand) override {
+        bronLog_.SetBackgroundColour(wxColour("RED"));
+        VensterBatch::meldOvergeslagen(nummer, bestand);
+    }
+
+    void meldVerwerkt(long nummer, const wxFileName& bron, const wxFileName& bestemming) override {
+        bronLog_.SetForegroundColour(wxColour("BLUE"));
+        bronLog_.AppendText(kern::regelOrigineel(nummer, bron.GetFullPath()));
+        doelLog_.AppendText(kern::regelStudent(nummer, bestemming.GetFullPath()));
+    }
+};
+
+}  // namespace
+
+void ParserVenster::verwerkDirectory() {
+    // Naar zichzelf geknipt raakt elk bestand leeg; dat mag alleen als de gebruiker het wil.
+    if (kern::isZelfdePlaats(origineelPad, aangepastPad) &&
+        wxMessageBox(wxGetTranslation("Bron en bestemming directories zijn gelijk.\nToch doorgaan?"),
+                     "Bevestig", wxYES_NO, this) == wxNO) {
+        return;
+    }
+    origineelEditor->ClearAll();
+    aangepastEditor->ClearAll();
+    const auto namen = kern::lijstDirectory(origineelPad);
+    origineelEditor->AppendText(kern::regelOrigineleDirectory(origineelPad));
+    aangepastEditor->AppendText(kern::regelStudentDirectory(aangepastPad));
+    if (namen.empty()) {
+        wxLogError("De aangegeven bron directory is leeg!");
+        return;
+    }
+    VensterBatch batch(*bestandTypeKeuze, *origineelEditor, *aangepastEditor,
+                       [this](const auto& bron, const auto& doel) { return knipBestand(bron, doel); });
+    kern::knipDirectory(origineelPad, aangepastPad, namen, batch);
+}
+
+void ParserVenster::verwerkDirectoryRecursief() {
+    origineelEditor->ClearAll();
+    aangepastEditor->ClearAll();
+    const auto paden = kern::lijstBoom(aangepastPad);
+    origineelEditor->AppendText(kern::regelTotaal(static_cast<long>(paden.size()), aangepastPad));
+    TerPlaatseBatch batch(*bestandTypeKeuze, *origineelEditor, *aangepastEditor,
+                          [this](const auto& bron, const auto& doel) { return knipBestand(bron, doel); });
+    kern::knipBoom(aangepastPad, paden, batch);
+}
+
+void ParserVenster::verwerkDirHandler(wxFileDirPickerEvent& event) {
+    const auto* kiezer = dynamic_cast<wxDirPickerCtrl*>(FindWindowById(event.GetId(), this));
+    if (kiezer == nullptr) {
+        return;
+    }
+    bool& gekozen = event.GetId() == ID_BRONDIR ? bronGekozen : bestemmingGekozen;
+    // De kiezer meldt elke toets in zijn tekstveld. Wie ".../les2" typt komt langs ".../les": alleen een
+    // directory die er is telt, en zolang de tekst er geen noemt is er niets gekozen.
+    gekozen = wxFileName::DirExists(kiezer->GetPath());
+    if (gekozen) {
+        huidigBestand = wxFileName::DirName(kiezer->GetPath());
+        wxString& pad = event.GetId() == ID_BRONDIR ? origineelPad : aangepastPad;
+        pad = huidigBestand.GetPath(wxPATH_GET_VOLUME, wxPATH_NATIVE);
+    }
+}
