@@ -10,8 +10,26 @@
 #include "Knipselaar/kern/keuzes.h"
 #include "Knipselaar/venster/parserVenster.h"
 
+namespace {
+
+/// Legt het bezigvenster, het nieuwste venster van zijn ouder, bij de bovenrand. In het midden, waar de toolkit
+/// het zet, bedekt het de vraag die een batch kan stellen.
+void legBezigVensterBoven(const wxWindow& ouder) {
+    constexpr int onderMenu = 60;
+    for (auto kind = ouder.GetChildren().rbegin(); kind != ouder.GetChildren().rend(); ++kind) {
+        if ((*kind)->IsTopLevel()) {
+            const wxRect plek = ouder.GetScreenRect();
+            (*kind)->Move(plek.x + (plek.width - (*kind)->GetSize().x) / 2, plek.y + onderMenu);
+            return;
+        }
+    }
+}
+
+}  // namespace
+
 void ParserVenster::verwijderHandler(wxCommandEvent& /*event*/) {
     const wxBusyInfo bezig(wxGetTranslation("Wacht een ogenblik, bezig met verwerken......."), this);
+    legBezigVensterBoven(*this);
     switch (parserModeKeuze->GetSelection()) {
         case kern::enkelBestand:
             bewerkBestand();

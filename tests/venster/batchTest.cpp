@@ -177,6 +177,9 @@ TEST_F(VlakkeBatch, VraagtBijGelijkeDirectoriesEnDoetBijNeeNiets) {
     EXPECT_EQ("Bevestig", melding.titel);
     EXPECT_EQ(wxYES_NO, melding.stijl & (wxYES_NO | wxOK | wxCANCEL));
     EXPECT_EQ(venster_, melding.ouder);
+    EXPECT_FALSE(melding.bezigVenster.IsEmpty()) << "het bezigvenster staat er ook tijdens de vraag";
+    const wxRect midden = venster_->GetScreenRect().Deflate(0, venster_->GetSize().y / 3);
+    EXPECT_FALSE(midden.Intersects(melding.bezigVenster)) << "en bedekt haar niet";
     EXPECT_EQ("blijft", tekstVan(origineel()));
     EXPECT_EQ(origineelTekst, hulp::leesBestand(bron_ / "a.c"));
 }

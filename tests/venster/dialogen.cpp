@@ -48,11 +48,24 @@ class VerwachtMelding : public wxExpectModalBase<wxMessageDialog> {
   protected:
     int OnInvoked(wxMessageDialog* dialoog) const override {
         gezien_ = {dialoog->GetMessage().utf8_string(), dialoog->GetCaption().utf8_string(),
-                   dialoog->GetMessageDialogStyle(), dialoog->GetParent()};
+                   dialoog->GetMessageDialogStyle(), dialoog->GetParent(),
+                   vindBezigVenster(dialoog->GetParent())};
         return antwoord_;
     }
 
   private:
+    static wxRect vindBezigVenster(const wxWindow* ouder) {
+        if (ouder != nullptr) {
+            for (const wxWindow* kind : ouder->GetChildren()) {
+                if (kind->IsTopLevel() && kind->IsShown() &&
+                    dynamic_cast<const wxMessageDialog*>(kind) == nullptr) {
+                    return kind->GetScreenRect();
+                }
+            }
+        }
+        return {};
+    }
+
     int antwoord_;
     Melding& gezien_;
 };

@@ -30,6 +30,7 @@ struct Melding {
     std::string titel;
     long stijl = 0;
     wxWindow* ouder = nullptr;
+    wxRect bezigVenster;  ///< waar het bezigvenster toen lag; leeg als er geen was
 };
 
 /// Voert een handeling uit waarbij precies één melding verschijnt.
