@@ -75,5 +75,6 @@ bouw() {
     stil "bouwen lukt niet" als_gebruiker cmake --build --preset "$1"
 }
 
-pakketten_bouw=(g++ cmake ninja-build libwxgtk3.2-dev wx3.2-i18n locales fonts-dejavu-core)
+# librsvg2-common: zonder kan GTK zijn eigen pictogrammen niet tekenen.
+pakketten_bouw=(g++ cmake ninja-build libwxgtk3.2-dev wx3.2-i18n locales fonts-dejavu-core librsvg2-common)
 pakketten_bediening=(xvfb xdotool openbox imagemagick)

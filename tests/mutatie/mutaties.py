@@ -1,0 +1,68 @@
+#!/usr/bin/env python3
+"""Breekt de code op veel plaatsen, één tegelijk, en laat zien dat de tests elke breuk opmerken.
+
+Werkt in een eigen kopie van de boom: mutaties.py WERKMAP [NUMMER ...]. Zonder nummers komen alle breuken aan de
+beurt. Een breuk die geen test opmerkt heet een overlever; de afloopstatus is dan 1.
+"""
+import pathlib
+import subprocess
+import sys
+
+BRON = pathlib.Path(__file__).resolve().parents[2]
+
+
+def lees_breuken():
+    """Elke breuk staat in breuken.txt als een regel met het bestand, een oude en een nieuwe tekst."""
+    breuken = []
+    for regel in (BRON / "tests/mutatie/breuken.txt").read_text(encoding="utf-8").splitlines():
+        if regel and not regel.startswith("#"):
+            bestand, oud, nieuw = regel.split(" ¦ ")
+            breuken.append((bestand.strip(), oud.replace("⏎", "\n"), nieuw.replace("⏎", "\n").strip("·")))
+    return breuken
+
+
+def voer_uit(werk, *opdracht):
+    return subprocess.run(opdracht, cwd=werk, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                          errors="replace", check=False)
+
+
+def is_opgemerkt(werk):
+    """Of de breuk niet bouwt of een test laat falen, en zo ja waarmee."""
+    if voer_uit(werk, "cmake", "--build", "--preset", "debug").returncode != 0:
+        return "bouwt niet"
+    for soort in ("kern", "venster", "eind"):
+        uitvoer = voer_uit(werk, "ctest", "--preset", "debug", "-L", soort, "-j3", "--stop-on-failure",
+                           "--timeout", "60")
+        if uitvoer.returncode != 0:
+            gefaald = [regel for regel in uitvoer.stdout.splitlines() if "***" in regel]
+            return gefaald[0].split(": ", 1)[1].split(" ")[0] if gefaald else soort
+    return None
+
+
+def main():
+    werk = pathlib.Path(sys.argv[1])
+    breuken = lees_breuken()
+    keuze = [int(n) for n in sys.argv[2:]] or range(1, len(breuken) + 1)
+    if not (werk / ".git").exists():
+        subprocess.run(["git", "clone", "-q", str(BRON), str(werk)], check=True)
+    voer_uit(werk, "cmake", "--preset", "debug")
+    overlevers = 0
+    for nummer in keuze:
+        bestand, oud, nieuw = breuken[nummer - 1]
+        pad = werk / bestand
+        tekst = pad.read_text(encoding="utf-8")
+        if tekst.count(oud) != 1:
+            print(f"{nummer:3} {bestand}: de tekst staat er {tekst.count(oud)} keer: {oud!r}", flush=True)
+            overlevers += 1
+            continue
+        pad.write_text(tekst.replace(oud, nieuw), encoding="utf-8")
+        oordeel = is_opgemerkt(werk)
+        pad.write_text(tekst, encoding="utf-8")
+        overlevers += oordeel is None
+        print(f"{nummer:3} {bestand}: {oud!r} -> {nieuw!r}: {oordeel or 'OVERLEEFT'}", flush=True)
+    print(f"{len(keuze)} breuken, {overlevers} overlevers")
+    return 1 if overlevers else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
