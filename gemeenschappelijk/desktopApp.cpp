@@ -37,7 +37,6 @@ DesktopApp::DesktopApp(const wxString& naam)
     : configuratie(new wxFileConfig(naam, leverancierNaam, wxEmptyString, wxEmptyString,
                                     wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE)),
       locale(new wxLocale),
-      taal(wxLANGUAGE_DUTCH),
       instantieControle(new wxSingleInstanceChecker) {
     // Een "$" in een marker of vervangtekst is gewone tekst; de opslag zou hem anders bij het lezen als
     // omgevingsvariabele uitwerken.
@@ -50,7 +49,7 @@ DesktopApp::DesktopApp(const wxString& naam)
     wxConfigBase::Set(configuratie);
     schrijfMoment(*configuratie, "Start", start);
 
-    configuratie->Read(taalSleutel, &taal, static_cast<std::int32_t>(wxLANGUAGE_DUTCH));
+    configuratie->Read(taalSleutel, &taal, taal);
     if (!locale->Init(taal, wxLOCALE_LOAD_DEFAULT)) {
         wxLogError("Could not initialise the Locale for %s", wxLocale::GetLanguageName(taal));
     }

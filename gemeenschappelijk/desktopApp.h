@@ -74,7 +74,8 @@ class DesktopApp : public wxApp {
 
   protected:
     wxLocale* locale;
-    std::int32_t taal;  ///< een wxLanguage; met teken, zodat ook een onbekend getal onveranderd terugkomt
+    std::int32_t taal =
+        wxLANGUAGE_DUTCH;  ///< een wxLanguage; met teken, zodat ook een onbekend getal onveranderd terugkomt
     wxWindow* hoofdVenster = nullptr;
     wxSingleInstanceChecker* instantieControle;
 };
