@@ -74,8 +74,8 @@ class DesktopApp : public wxApp {
 
   protected:
     wxLocale* locale;
-    std::int32_t taal =
-        wxLANGUAGE_DUTCH;  ///< een wxLanguage; met teken, zodat ook een onbekend getal onveranderd terugkomt
+    /// Een wxLanguage, met teken: ook een onbekend getal komt onveranderd terug.
+    std::int32_t taal = wxLANGUAGE_DUTCH;
     wxWindow* hoofdVenster = nullptr;
     wxSingleInstanceChecker* instantieControle;
 };
