@@ -12,8 +12,8 @@
 
 namespace {
 
-/// Legt het bezigvenster, het nieuwste venster van zijn ouder, bij de bovenrand. In het midden, waar de toolkit
-/// het zet, bedekt het de vraag die een batch kan stellen.
+/// Legt het bezigvenster, het nieuwste venster van zijn ouder, bij de bovenrand. In het midden, waar de
+/// toolkit het zet, bedekt het de vraag die een batch kan stellen.
 void legBezigVensterBoven(const wxWindow& ouder) {
     constexpr int onderMenu = 60;
     for (auto kind = ouder.GetChildren().rbegin(); kind != ouder.GetChildren().rend(); ++kind) {
