@@ -91,8 +91,9 @@ Omgeving::Omgeving(bool metVensterbeheer) {
     if (!gestart) {
         throw std::runtime_error("de X-server start niet: " + leesBestand(map_ / "xvfb.log"));
     }
-    std::string beeldscherm = ":" + leesBestand(nummer);
+    std::string beeldscherm = leesBestand(nummer);
     beeldscherm.pop_back();
+    beeldscherm.insert(0, 1, ':');
     setenv("DISPLAY", beeldscherm.c_str(), 1);
     if (metVensterbeheer) {
         bedienden_.push_back(std::make_unique<Kindproces>(std::vector<std::string>{"openbox"},

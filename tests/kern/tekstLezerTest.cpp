@@ -256,6 +256,18 @@ TEST(TekstLezer, GeeftEenRegelVanTienMegabyteHeel) {
     EXPECT_EQ("kort\n" + regel + "\nkort\n", lees("kort\n" + regel + "\r\nkort"));
 }
 
+// Na het merkteken van twee bytes begint elk paar op een even plaats die geen viervoud is; elke blokgrens
+// valt daardoor midden in een paar.
+TEST(TekstLezer, HoudtEenSurrogaatpaarOpEenBlokgrensHeel) {
+    std::string inhoud("\xFF\xFE", 2);
+    std::string verwacht;
+    for (int i = 0; i < 200000; ++i) {
+        inhoud += "\x3D\xD8\x00\xDE"sv;
+        verwacht += "\U0001F600";
+    }
+    EXPECT_EQ(verwacht + "\n", lees(inhoud));
+}
+
 TEST(TekstLezer, GeeftEenGroteBredeTekstHeel) {
     std::string inhoud("\xFF\xFE", 2);
     std::string verwacht;

@@ -1,0 +1,67 @@
+// De kern als proces op zichzelf, voor de metingen: wat het venster ermee doet, zonder venster.
+//
+//   knipmeter bestand BRON DOEL      knipt één bestand
+//   knipmeter directory BRON DOEL    knipt alle bestanden van een directory naar een andere
+//   knipmeter boom BOOM              knipt een boom ter plaatse
+//   knipmeter niets                  start alleen de toolkit, als nullijn
+//
+// BEGIN, EIND en VERVANG in de omgeving vervangen de standaardteksten.
+
+#include <wx/init.h>
+
+#include <cstdlib>
+#include <string_view>
+
+#include "Knipselaar/kern/batch.h"
+#include "Knipselaar/kern/keuzes.h"
+#include "Knipselaar/kern/parserInstellingen.h"
+
+namespace {
+
+wxString leesOf(const char* variabele, const wxString& anders) {
+    const char* waarde = std::getenv(variabele);
+    return waarde == nullptr ? anders : wxString::FromUTF8(waarde);
+}
+
+class StilleOpdracht : public kern::BatchOpdracht {
+  public:
+    explicit StilleOpdracht(kern::KnipTeksten teksten) : teksten_(std::move(teksten)) {}
+
+    bool isGekozen(const wxFileName& bestand) override { return kern::isBestandGekozen(bestand.GetExt(), 0); }
+    kern::KnipUitslag knip(const wxFileName& bron, const wxFileName& bestemming) override {
+        return kern::knipBestand(bron, bestemming, teksten_);
+    }
+    void meldOvergeslagen(long /*nummer*/, const wxFileName& /*bestand*/) override {}
+    void meldVerwerkt(long /*nummer*/, const wxFileName& /*bron*/,
+                      const wxFileName& /*bestemming*/) override {}
+
+  private:
+    kern::KnipTeksten teksten_;
+};
+
+bool voerUit(std::string_view wat, int aantal, char** paden) {
+    const kern::KnipTeksten teksten{leesOf("BEGIN", kern::standaardBeginMarker()),
+                                    leesOf("EIND", kern::standaardEindMarker()),
+                                    leesOf("VERVANG", kern::standaardVervangtekst())};
+    const auto pad = [paden](int i) { return wxString::FromUTF8(paden[i]); };
+    StilleOpdracht opdracht(teksten);
+    if (wat == "bestand" && aantal == 2) {
+        return kern::knipBestand(wxFileName(pad(0)), wxFileName(pad(1)), teksten).isGelukt();
+    }
+    if (wat == "directory" && aantal == 2) {
+        kern::knipDirectory(pad(0), pad(1), kern::lijstDirectory(pad(0)), opdracht);
+        return true;
+    }
+    if (wat == "boom" && aantal == 1) {
+        kern::knipBoom(pad(0), kern::lijstBoom(pad(0)), opdracht);
+        return true;
+    }
+    return wat == "niets";
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const wxInitializer toolkit;
+    return toolkit.IsOk() && argc >= 2 && voerUit(argv[1], argc - 2, argv + 2) ? 0 : 1;
+}

@@ -1,0 +1,261 @@
+#!/usr/bin/env python3
+"""Meet Knipselaar tegen wat een docent anders zou gebruiken, afgewisseld in één keer, en drukt een tabel af.
+
+meet.py BOUWMAP [RONDEN]. Alle getallen zijn verhoudingen van medianen; de machine zelf doet er dus minder toe.
+"""
+import os
+import pathlib
+import random
+import shutil
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+
+BOUW = pathlib.Path(sys.argv[1])
+RONDEN = int(sys.argv[2]) if len(sys.argv) > 2 else 9
+KNIP = str(BOUW / "tests/bench/knipmeter")
+VENSTER = str(BOUW / "tests/bench/venstermeter")
+BEGIN, EIND = "//**** Student Begin ****//", "//**** Student Eind ****//"
+VERVANG = '#error "Dit stuk software ontbreekt."\\\n/* Beste student,\\\n    Werk dit uit.  */'
+OMGEVING = dict(os.environ, LC_ALL="C.UTF-8")
+
+SED = ["sed", f"/Student Begin/,/Student Eind/c\\\n{VERVANG}"]
+AWK = '/Student Begin/{b=1;print r;next} /Student Eind/{if(b){b=0;next}} !b'
+PERL = 'if(/Student Begin/){$b=1;print $r;next} if($b){$b=0 if /Student Eind/;next} print'
+PYTHON = """import sys
+b = False
+r = "#error\\n"
+with open(sys.argv[1], encoding="utf-8", errors="surrogateescape") as i, \
+     open(sys.argv[2], "w", encoding="utf-8", errors="surrogateescape") as u:
+    for regel in i:
+        if "Student Begin" in regel:
+            b = True
+            u.write(r)
+        elif b:
+            b = "Student Eind" not in regel
+        else:
+            u.write(regel)
+"""
+PYTHON3 = "/usr/bin/python3" if os.path.exists("/usr/bin/python3") else sys.executable
+
+
+def naar(opdracht):
+    """Een opdracht die één bestand leest en op de standaarduitvoer schrijft."""
+    def voer_uit(bron, doel):
+        with open(doel, "wb") as uit:
+            return subprocess.run([*opdracht, bron], stdout=uit, check=True, env=OMGEVING)
+    return voer_uit
+
+
+def los(*opdracht):
+    """Een opdracht die bron en doel als laatste argumenten krijgt."""
+    return lambda bron, doel: subprocess.run([*opdracht, bron, doel], check=True, env=OMGEVING)
+
+
+PER_BESTAND = {
+    "knipselaar": los(KNIP, "bestand"),
+    "sed": naar(SED),
+    "cp": los("cp"),
+    "mawk": naar(["mawk", "-v", "r=#error", AWK]),
+    "gawk": naar(["gawk", "-v", "r=#error", AWK]),
+    "perl": naar(["perl", "-ne", f"BEGIN{{$r=qq(#error\\n)}} {PERL}"]),
+    "python3": los(PYTHON3, "-c", PYTHON),
+}
+
+
+def meet(kandidaten, voorbereiden=lambda: None):
+    """De mediaan per kandidaat, om beurten gemeten zodat een drukke tel iedereen treft."""
+    tijden = {naam: [] for naam in kandidaten}
+    for ronde in range(RONDEN + 1):
+        for naam, handeling in kandidaten.items():
+            voorbereiden()
+            begin = time.perf_counter()
+            eigen = handeling()
+            duur = time.perf_counter() - begin
+            if ronde > 0:  # de eerste ronde warmt de schijf op
+                tijden[naam].append(eigen if isinstance(eigen, float) else duur)
+    return {naam: statistics.median(lijst) for naam, lijst in tijden.items()}
+
+
+def rij(werk, medianen, doel, basis="sed"):
+    verhouding = medianen["knipselaar"] / medianen[basis]
+    anderen = ", ".join(f"{naam} {tijd / medianen[basis]:.2f}" for naam, tijd in medianen.items()
+                        if naam not in ("knipselaar", basis))
+    print(f"| {werk} | **{verhouding:.2f}** | {medianen['knipselaar'] * 1000:.1f} ms | "
+          f"{medianen[basis] * 1000:.1f} ms ({basis}) | {anderen} | {doel} |", flush=True)
+
+
+def maak_tekst(regels, blokken, regeleinde="\n", accenten=0.0, zaad=1):
+    toeval = random.Random(zaad)
+    om_de = regels // blokken
+    uit = []
+    for i in range(regels):
+        plaats = i % om_de
+        if plaats == 5:
+            uit.append(f"    {BEGIN}")
+        elif plaats == 9:
+            uit.append(f"    {EIND}")
+        else:
+            staart = " // één, café, naïef" if toeval.random() < accenten else " // tel de waarde op"
+            uit.append(f"    som_{toeval.randrange(1000)} += f(x[{i % 97}]);{staart}")
+    return regeleinde.join(uit) + regeleinde
+
+
+def meet_bestanden(werk):
+    gevallen = [
+        ("een C-bestand van 11,5 MB, 230.000 regels, 10.000 blokken", "utf-8", "\n", 0.0, "0,4 x sed"),
+        ("hetzelfde met CR LF", "utf-8", "\r\n", 0.0, "0,6 x sed"),
+        ("hetzelfde in UTF-8 met 5 % andere tekens", "utf-8", "\n", 0.5, "0,6 x sed"),
+        ("hetzelfde in ISO 8859-1", "latin-1", "\n", 0.5, "0,6 x sed"),
+    ]
+    for naam, codering, regeleinde, accenten, doel in gevallen:
+        bron, uit = werk / "bron.c", werk / "uit.c"
+        bron.write_bytes(maak_tekst(230_000, 10_000, regeleinde, accenten).encode(codering))
+        kandidaten = {k: (lambda f=f: f(str(bron), str(uit))) for k, f in PER_BESTAND.items()}
+        if codering == "utf-8" and regeleinde == "\n" and not accenten:
+            ifdef = werk / "ifdef.c"
+            ifdef.write_text(bron.read_text().replace(f"    {BEGIN}", "#ifdef OPLOSSING")
+                             .replace(f"    {EIND}", "#endif"))
+            kandidaten["unifdef"] = lambda: subprocess.run(["unifdef", "-UOPLOSSING", "-o", str(uit), str(ifdef)],
+                                                           check=False)
+            medianen = meet(kandidaten)
+            rij(naam, medianen, doel)
+            rij("hetzelfde tegen cp", {k: medianen[k] for k in ("knipselaar", "cp")}, "2,5 x cp", "cp")
+        else:
+            rij(naam, meet(kandidaten), doel)
+
+
+def meet_lastige_markers(werk):
+    bron, uit = werk / "bron.c", werk / "uit.c"
+    bron.write_text(maak_tekst(230_000, 10_000))
+    marker = "s*o*m*+*f*x*tel*waarde*Z"
+    eigen = dict(OMGEVING, BEGIN=marker, EIND=marker)
+    patroon = "/" + marker.replace("*", ".*").replace("+", "[+]") + "/"
+    rij("jokers die op elke regel bijna passen", meet({
+        "knipselaar": lambda: subprocess.run([KNIP, "bestand", bron, uit], env=eigen, check=True),
+        "sed": lambda: naar(["sed", f"{patroon},{patroon}c\\\nx"])(str(bron), str(uit))}), "2 x sed")
+    bron.write_text("code en nog eens code // Student x" * 3_000_000)
+    rij("één regel van 100 MB", meet({
+        "knipselaar": lambda: los(KNIP, "bestand")(str(bron), str(uit)),
+        "sed": lambda: naar(SED)(str(bron), str(uit))}), "2 x sed")
+    bron.unlink()
+
+
+def meet_directories(werk):
+    bron, doel, boom = werk / "map", werk / "doel", werk / "boom"
+    bron.mkdir()
+    for i in range(1000):
+        (bron / f"f{i:04}.c").write_text(maak_tekst(220, 10, zaad=i))
+    namen = [str(p) for p in sorted(bron.iterdir())]
+
+    def leeg_doel():
+        shutil.rmtree(doel, ignore_errors=True)
+        doel.mkdir()
+
+    def verse_boom():
+        shutil.rmtree(boom, ignore_errors=True)
+        shutil.copytree(bron, boom / "sub")
+
+    script = werk / "vlak.sed"
+    script.write_text(f"/Student Begin/,/Student Eind/c\\\n{VERVANG}\n")
+    sed_vlak = f'for f in {bron}/*.c; do sed -f {script} "$f" > {doel}/"${{f##*/}}"; done'
+
+    def venster(*woorden):
+        uitvoer = subprocess.run([VENSTER, *map(str, woorden)], capture_output=True, text=True, check=True).stdout
+        return int(uitvoer.split()[1]) / 1e6
+
+    def sed_in_een_proces():
+        """sed leest dezelfde bestanden in één proces en schrijft ze, bij gebrek aan beter, achter elkaar."""
+        with open(doel / "alles", "wb") as uit:
+            subprocess.run(["sed", "-s", "-f", str(script), *namen], stdout=uit, check=True, env=OMGEVING)
+
+    rij("1.000 bestanden van 11 KB naar een directory", meet({
+        "knipselaar": lambda: los(KNIP, "directory")(str(bron), str(doel)),
+        "sed": sed_in_een_proces,
+        "sed per bestand": lambda: subprocess.run(["sh", "-c", sed_vlak], check=True, env=OMGEVING),
+        "door het venster": lambda: venster("directory", bron, doel)}, leeg_doel), "1,0 x sed; venster 1,5")
+    sed_i = lambda: subprocess.run(f"find {boom} -name '*.c' -exec sed -i -f {script} {{}} +", shell=True, check=True,
+                                   env=OMGEVING)
+    perl_i = lambda: subprocess.run(["sh", "-c", f"find {boom} -name '*.c' -exec perl -i -ne "
+                                     f"'BEGIN{{$r=qq(#error\\n)}} {PERL}' {{}} +"], check=True, env=OMGEVING)
+    rij("1.000 bestanden van 11 KB ter plaatse", meet({
+        "knipselaar": lambda: subprocess.run([KNIP, "boom", boom], check=True),
+        "sed": sed_i, "perl -i": perl_i,
+        "door het venster": lambda: venster("boom", boom)}, verse_boom), "1,0 x sed -i; venster 1,5")
+
+
+def meet_editor(werk):
+    bron = werk / "bron.c"
+    bron.write_text(maak_tekst(230_000, 10_000))
+    uitvoer = subprocess.run([VENSTER, "editor", bron], capture_output=True, text=True, check=True).stdout
+    tijden = {}
+    for regel in uitvoer.splitlines():
+        naam, duur = regel.split()
+        tijden.setdefault(naam, []).append(int(duur) / 1e6)
+    rij("230.000 regels van editor naar editor", {"knipselaar": statistics.median(tijden["knip"]),
+                                                 "in één keer gezet": statistics.median(tijden["zet"])},
+        "1,5 x in één keer gezet", "in één keer gezet")
+
+
+def meet_geheugen(werk):
+    bron, uit = werk / "groot.c", werk / "groot_uit.c"
+    deel = maak_tekst(230_000, 10_000).encode()
+    with open(bron, "wb") as bestand:
+        while bestand.tell() < 1_000_000_000:
+            bestand.write(deel)
+
+    def piek(*opdracht):
+        kind = subprocess.Popen(opdracht)
+        _, status, gebruik = os.wait4(kind.pid, 0)
+        assert status == 0
+        return gebruik.ru_maxrss / 1024
+
+    extra = piek(KNIP, "bestand", str(bron), str(uit)) - piek(KNIP, "niets")
+    print(f"| geheugen bij een bestand van 1 GB | **{extra:.1f} MB** | boven de kern in rust | | | 32 MB |", flush=True)
+    bron.unlink()
+    uit.unlink()
+
+
+def meet_start(werk):
+    nummer = werk / "nummer"
+    with open(nummer, "wb") as uit:
+        xvfb = subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
+                                stdout=uit, stderr=subprocess.DEVNULL)
+    while not nummer.read_bytes().endswith(b"\n"):
+        time.sleep(0.05)
+    omgeving = dict(os.environ, DISPLAY=":" + nummer.read_text().strip(), HOME=str(werk), GDK_BACKEND="x11",
+                    NO_AT_BRIDGE="1", GSETTINGS_BACKEND="memory", LANG="nl_NL.UTF-8")
+
+    def start(programma, titel):
+        def handeling():
+            begin = time.perf_counter()
+            kind = subprocess.Popen([programma], env=omgeving, stderr=subprocess.DEVNULL)
+            while subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{titel}$"], env=omgeving,
+                                 capture_output=True, check=False).returncode != 0:
+                pass
+            duur = time.perf_counter() - begin
+            kind.kill()
+            kind.wait()
+            return duur
+        return handeling
+
+    rij("start tot een zichtbaar venster", meet({
+        "knipselaar": start(str(BOUW / "Knipselaar/knipselaar"), "Knipselaar"),
+        "kaal venster": start(str(BOUW / "tests/bench/startmeter"), "Kaal")}), "1,2 x kaal venster", "kaal venster")
+    xvfb.terminate()
+    xvfb.wait()
+
+
+def main():
+    print("| werk | verhouding | Knipselaar | basis | anderen, als verhouding | doel |")
+    print("|---|---|---|---|---|---|")
+    with tempfile.TemporaryDirectory() as map_naam:
+        werk = pathlib.Path(map_naam)
+        for meting in (meet_bestanden, meet_lastige_markers, meet_directories, meet_editor, meet_geheugen, meet_start):
+            meting(werk)
+
+
+if __name__ == "__main__":
+    main()
