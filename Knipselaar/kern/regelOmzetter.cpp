@@ -42,11 +42,27 @@ bool RegelOmzetter::eindigRegel(char teken, std::string& uit) {
     return true;
 }
 
-void RegelOmzetter::zetUtf8Om(std::string_view blok, std::string& uit) {
-    while (!blok.empty()) {
-        const std::size_t gewoon = naCR_ ? 0 : telGewoneAscii(blok);
+/// Neemt de tekens over die in elke codering zichzelf zijn, tot het eerste waar iets mee moet gebeuren. Een
+/// CR LF is daar ook een van, maar dan zo vaak dat hij hier meteen meegaat.
+void RegelOmzetter::neemGewoneTekens(std::string_view& blok, std::string& uit) const {
+    if (naCR_) {
+        return;
+    }
+    for (;;) {
+        const std::size_t gewoon = telGewoneAscii(blok);
         uit += blok.substr(0, gewoon);
         blok.remove_prefix(gewoon);
+        if (!blok.starts_with("\r\n")) {
+            return;
+        }
+        uit += '\n';
+        blok.remove_prefix(2);
+    }
+}
+
+void RegelOmzetter::zetUtf8Om(std::string_view blok, std::string& uit) {
+    while (!blok.empty()) {
+        neemGewoneTekens(blok, uit);
         if (blok.empty()) {
             return;
         }
@@ -71,9 +87,7 @@ void RegelOmzetter::zetUtf8Om(std::string_view blok, std::string& uit) {
 
 void RegelOmzetter::zetLatijn1Om(std::string_view blok, std::string& uit) {
     while (!blok.empty()) {
-        const std::size_t gewoon = naCR_ ? 0 : telGewoneAscii(blok);
-        uit += blok.substr(0, gewoon);
-        blok.remove_prefix(gewoon);
+        neemGewoneTekens(blok, uit);
         if (blok.empty()) {
             return;
         }

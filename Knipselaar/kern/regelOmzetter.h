@@ -31,6 +31,7 @@ class RegelOmzetter {
   private:
     enum class Codering { utf8, latijn1 };
 
+    void neemGewoneTekens(std::string_view& blok, std::string& uit) const;
     void zetUtf8Om(std::string_view blok, std::string& uit);
     void zetLatijn1Om(std::string_view blok, std::string& uit);
     bool eindigRegel(char teken, std::string& uit);

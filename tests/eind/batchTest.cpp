@@ -9,7 +9,8 @@ namespace {
 
 const std::string origineel = "a\n//**** Student Begin ****//\nb\n//**** Student Eind ****//\nc\n";
 const std::string geknipt =
-    "a\n#error \"Dit stuk software ontbreekt.\"\n/* Beste student,\n    Dit stuk ontbreekt. Werk dit uit om de "
+    "a\n#error \"Dit stuk software ontbreekt.\"\n/* Beste student,\n    Dit stuk ontbreekt. Werk dit uit om "
+    "de "
     "opdracht uit te voeren.  */\n\nc\n\n";
 
 class Batch : public Bediening {

@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
+#include <wx/log.h>
 
 #include <csignal>
 #include <vector>
@@ -156,8 +157,12 @@ TEST_F(BestandKnipper, MerktDatNietAllesGeschrevenIs) {
     const rlimit krap{.rlim_cur = 100'000, .rlim_max = oud.rlim_max};
     const auto oudSignaal = std::signal(SIGXFSZ, SIG_IGN);
     ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &krap));
+    wxLogBuffer meldingen;
+    wxLog* oudDoel = wxLog::SetActiveTarget(&meldingen);
     const auto uitslag = knip(in_, uit_);
+    wxLog::SetActiveTarget(oudDoel);
     ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &oud));
+    EXPECT_EQ("", meldingen.GetBuffer()) << "de uitslag zegt het, en verder niemand";
     std::signal(SIGXFSZ, oudSignaal);
     EXPECT_TRUE(uitslag.bronHeelGelezen);
     EXPECT_FALSE(uitslag.doelHeelGeschreven);

@@ -4,84 +4,28 @@
 #include <sys/stat.h>
 #include <wx/log.h>
 
-#include <random>
+#include <cstdlib>
 
-#include "tests/hulp/bestandsboom.h"
-#include "tests/hulp/orakel.h"
+#include "tests/venster/batchVenster.h"
 #include "tests/venster/dialogen.h"
-#include "tests/venster/vensterTest.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-const std::string origineelTekst = "a\nBEGIN\nb\nEIND\nc\n";
-const std::string geknipt = "a\nWERK\nc\n\n";
-
-class Batch : public VensterTest {
-  protected:
-    Batch() {
-        fs::create_directory(bron_);
-        fs::create_directory(doel_);
-        lid(&Inzage::beginMarkerTekst)->SetValue("BEGIN");
-        lid(&Inzage::eindMarkerTekst)->SetValue("EIND");
-        lid(&Inzage::vervangTekst)->SetValue("WERK");
-    }
-
-    /// Typt een pad in het tekstveld van een kiezer, zoals een gebruiker; de kiezer meldt het zelf.
-    void typ(wxDirPickerCtrl* kiezer, const wxString& pad) {
-        kiezer->Enable();
-        kiezer->GetTextCtrl()->SetValue(pad);
-        laatLopen();
-    }
-    void kiesBron(const fs::path& pad) { typ(lid(&Inzage::bronDirKiezer), naarWx(pad)); }
-    void kiesDoel(const fs::path& pad) { typ(lid(&Inzage::bestemmingDirKiezer), naarWx(pad)); }
-
-    /// Start de flat batch van bron_ naar doel_ met een keuze van het bestandstype.
-    void knipDirectory(int bestandType = 0) {
-        kiesModus(1);
-        kiesBron(bron_);
-        kiesDoel(doel_);
-        lid(&Inzage::bestandTypeKeuze)->SetSelection(bestandType);
-        geefOpdracht(wxID_REPLACE);
-    }
-
-    void knipBoom(int bestandType = 0) {
-        kiesModus(2);
-        kiesDoel(doel_);
-        lid(&Inzage::bestandTypeKeuze)->SetSelection(bestandType);
-        geefOpdracht(wxID_REPLACE);
-    }
-
-    /// De volgorde waarin het bestandssysteem een directory opsomt.
-    static std::vector<std::string> somOp(const fs::path& map) {
-        std::vector<std::string> namen;
-        for (const auto& deel : fs::directory_iterator(map)) {
-            namen.push_back(deel.path().filename());
-        }
-        return namen;
-    }
-
-    std::string bronPad() const { return bron_.string(); }
-    std::string doelPad() const { return doel_.string(); }
-
-    fs::path bron_ = geefOmgeving().werk() / "bron";
-    fs::path doel_ = geefOmgeving().werk() / "doel";
-};
-
-using VlakkeBatch = Batch;
-using RecursieveBatch = Batch;
-using Kiezen = Batch;
+using VlakkeBatch = BatchTest;
+using RecursieveBatch = BatchTest;
+using Kiezen = BatchTest;
 
 }  // namespace
 
 TEST_F(VlakkeBatch, SchrijftHetHeleLogboek) {
-    hulp::maakBoom(bron_, {{"x.txt", origineelTekst},
-                           {"a.c", origineelTekst},
-                           {"b.vhd", origineelTekst},
-                           {"y.C", origineelTekst},
-                           {".verborgen.c", origineelTekst},
-                           {"sub/z.c", origineelTekst}});
+    hulp::maakBoom(bron_, {{"x.txt", metBlok},
+                           {"a.c", metBlok},
+                           {"b.vhd", metBlok},
+                           {"y.C", metBlok},
+                           {".verborgen.c", metBlok},
+                           {"sub/z.c", metBlok}});
     std::string bronLog = "Originele dir : " + bronPad() + "\n";
     std::string doelLog = "Student dir : " + doelPad() + "\n";
     long nummer = 1;
@@ -102,14 +46,14 @@ TEST_F(VlakkeBatch, SchrijftHetHeleLogboek) {
     zonderDialoog([this] { knipDirectory(); });
     EXPECT_EQ(bronLog, tekstVan(origineel()));
     EXPECT_EQ(doelLog, tekstVan(aangepast()));
-    EXPECT_EQ((hulp::Boom{{"a.c", geknipt}, {"b.vhd", geknipt}}), hulp::leesBoom(doel_));
+    EXPECT_EQ((hulp::Boom{{"a.c", zonderBlok}, {"b.vhd", zonderBlok}}), hulp::leesBoom(doel_));
     laatLopen();
     EXPECT_TRUE(lid(&Inzage::opslaanKnop)->IsEnabled()) << "het logboek is op te slaan";
     EXPECT_TRUE(lid(&Inzage::pasAanKnop)->IsEnabled()) << "de vlaggen blijven";
 }
 
 TEST_F(VlakkeBatch, SlaatBijVhdlAllesOver) {
-    hulp::maakBoom(bron_, {{"b.vhd", origineelTekst}});
+    hulp::maakBoom(bron_, {{"b.vhd", metBlok}});
     knipDirectory(1);
     EXPECT_EQ("Originele dir : " + bronPad() + "\nOvergeslagen 1:" + bronPad() + "/b.vhd\n",
               tekstVan(origineel()));
@@ -118,14 +62,14 @@ TEST_F(VlakkeBatch, SlaatBijVhdlAllesOver) {
 }
 
 TEST_F(VlakkeBatch, NeemtBijAlleBestandenAlles) {
-    hulp::maakBoom(bron_, {{"zonder", origineelTekst}, {"x.txt", origineelTekst}, {"a.CPP", origineelTekst}});
+    hulp::maakBoom(bron_, {{"zonder", metBlok}, {"x.txt", metBlok}, {"a.CPP", metBlok}});
     knipDirectory(2);
-    EXPECT_EQ((hulp::Boom{{"zonder", geknipt}, {"x.txt", geknipt}, {"a.CPP", geknipt}}),
+    EXPECT_EQ((hulp::Boom{{"zonder", zonderBlok}, {"x.txt", zonderBlok}, {"a.CPP", zonderBlok}}),
               hulp::leesBoom(doel_));
 }
 
 TEST_F(VlakkeBatch, MeldtEenLegeBron) {
-    hulp::maakBoom(bron_, {{"sub/a.c", origineelTekst}, {".verborgen.c", origineelTekst}});
+    hulp::maakBoom(bron_, {{"sub/a.c", metBlok}, {".verborgen.c", metBlok}});
     const auto melding = beantwoordMelding(wxID_OK, [this] {
         knipDirectory();
         wxLog::FlushActive();
@@ -150,7 +94,7 @@ TEST_F(VlakkeBatch, MeldtEenBronDieVerdwenenIsAlsLeeg) {
 }
 
 TEST_F(VlakkeBatch, MeldtNietDatDeBestemmingOntbreekt) {
-    hulp::maakBoom(bron_, {{"a.c", origineelTekst}});
+    hulp::maakBoom(bron_, {{"a.c", metBlok}});
     kiesModus(1);
     kiesBron(bron_);
     kiesDoel(doel_);
@@ -166,7 +110,7 @@ TEST_F(VlakkeBatch, MeldtNietDatDeBestemmingOntbreekt) {
 }
 
 TEST_F(VlakkeBatch, VraagtBijGelijkeDirectoriesEnDoetBijNeeNiets) {
-    hulp::maakBoom(bron_, {{"a.c", origineelTekst}});
+    hulp::maakBoom(bron_, {{"a.c", metBlok}});
     doel_ = bron_;
     kiesModus(1);
     kiesBron(bron_);
@@ -181,18 +125,18 @@ TEST_F(VlakkeBatch, VraagtBijGelijkeDirectoriesEnDoetBijNeeNiets) {
     const wxRect midden = venster_->GetScreenRect().Deflate(0, venster_->GetSize().y / 3);
     EXPECT_FALSE(midden.Intersects(melding.bezigVenster)) << "en bedekt haar niet";
     EXPECT_EQ("blijft", tekstVan(origineel()));
-    EXPECT_EQ(origineelTekst, hulp::leesBestand(bron_ / "a.c"));
+    EXPECT_EQ(metBlok, hulp::leesBestand(bron_ / "a.c"));
 }
 
 TEST_F(VlakkeBatch, LegtBijJaElkBestandLeeg) {
-    hulp::maakBoom(bron_, {{"a.c", origineelTekst}, {"x.txt", origineelTekst}});
+    hulp::maakBoom(bron_, {{"a.c", metBlok}, {"x.txt", metBlok}});
     doel_ = bron_;
     beantwoordMelding(wxID_YES, [this] { knipDirectory(); });
-    EXPECT_EQ((hulp::Boom{{"a.c", "\n"}, {"x.txt", origineelTekst}}), hulp::leesBoom(bron_));
+    EXPECT_EQ((hulp::Boom{{"a.c", "\n"}, {"x.txt", metBlok}}), hulp::leesBoom(bron_));
 }
 
 TEST_F(VlakkeBatch, VraagtOokBijEenAndereSchrijfwijze) {
-    hulp::maakBoom(bron_, {{"a.c", origineelTekst}});
+    hulp::maakBoom(bron_, {{"a.c", metBlok}});
     fs::create_directory_symlink("bron", geefOmgeving().werk() / "via");
     for (const fs::path& ander : {geefOmgeving().werk() / "via", fs::path(bronPad() + "/."),
                                   geefOmgeving().werk() / "" / "" / "bron", bron_ / ".." / "bron"}) {
@@ -201,15 +145,13 @@ TEST_F(VlakkeBatch, VraagtOokBijEenAndereSchrijfwijze) {
         modus()->SetSelection(1);
         const auto melding = beantwoordMelding(wxID_NO, [this] { geefOpdracht(wxID_REPLACE); });
         EXPECT_EQ("Bevestig", melding.titel) << ander;
-        EXPECT_EQ(origineelTekst, hulp::leesBestand(bron_ / "a.c")) << ander;
+        EXPECT_EQ(metBlok, hulp::leesBestand(bron_ / "a.c")) << ander;
     }
 }
 
 TEST_F(RecursieveBatch, SchrijftHetHeleLogboek) {
-    hulp::maakBoom(doel_, {{"sub/a.c", origineelTekst},
-                           {"sub/x.txt", origineelTekst},
-                           {"b.vhd", origineelTekst},
-                           {".git/c.c", origineelTekst}});
+    hulp::maakBoom(doel_,
+                   {{"sub/a.c", metBlok}, {"sub/x.txt", metBlok}, {"b.vhd", metBlok}, {".git/c.c", metBlok}});
     const auto namen = somOp(doel_ / "sub");
     std::string bronLog = "In totaal 3 bestanden en directories gevonden in " + doelPad() + "\n";
     std::string doelLog;
@@ -230,22 +172,22 @@ TEST_F(RecursieveBatch, SchrijftHetHeleLogboek) {
     EXPECT_EQ(bronLog, tekstVan(origineel()));
     EXPECT_EQ(doelLog, tekstVan(aangepast()));
     EXPECT_EQ((hulp::Boom{{"sub", "/"},
-                          {"sub/a.c", geknipt},
-                          {"sub/x.txt", origineelTekst},
-                          {"b.vhd", geknipt},
+                          {"sub/a.c", zonderBlok},
+                          {"sub/x.txt", metBlok},
+                          {"b.vhd", zonderBlok},
                           {".git", "/"},
-                          {".git/c.c", origineelTekst}}),
+                          {".git/c.c", metBlok}}),
               hulp::leesBoom(doel_));
 }
 
 TEST_F(RecursieveBatch, KleurtHetLogboekNaarWatErVoorkwam) {
     const wxColour achtergrond = origineel()->GetBackgroundColour();
     const wxColour voorgrond = origineel()->GetForegroundColour();
-    hulp::maakBoom(doel_, {{"x.txt", origineelTekst}});
+    hulp::maakBoom(doel_, {{"x.txt", metBlok}});
     knipBoom();
     EXPECT_EQ(wxColour("RED"), origineel()->GetBackgroundColour());
     EXPECT_EQ(voorgrond, origineel()->GetForegroundColour());
-    hulp::maakBoom(doel_, {{"a.c", origineelTekst}});
+    hulp::maakBoom(doel_, {{"a.c", metBlok}});
     geefOpdracht(wxID_REPLACE);
     EXPECT_EQ(wxColour("RED"), origineel()->GetBackgroundColour()) << "de kleur blijft staan";
     EXPECT_EQ(wxColour("BLUE"), origineel()->GetForegroundColour());
@@ -254,7 +196,7 @@ TEST_F(RecursieveBatch, KleurtHetLogboekNaarWatErVoorkwam) {
 
 TEST_F(RecursieveBatch, KleurtNietRoodZonderOvergeslagenBestand) {
     const wxColour achtergrond = origineel()->GetBackgroundColour();
-    hulp::maakBoom(doel_, {{"a.c", origineelTekst}});
+    hulp::maakBoom(doel_, {{"a.c", metBlok}});
     knipBoom();
     EXPECT_EQ(achtergrond, origineel()->GetBackgroundColour());
     EXPECT_EQ(wxColour("BLUE"), origineel()->GetForegroundColour());
@@ -294,7 +236,7 @@ TEST_F(RecursieveBatch, MeldtNietDatEenBestandNietLukt) {
 }
 
 TEST_F(RecursieveBatch, LaatGeenTijdelijkBestandAchter) {
-    hulp::maakBoom(doel_, {{"a.c", origineelTekst}, {"sub/b.c", origineelTekst}});
+    hulp::maakBoom(doel_, {{"a.c", metBlok}, {"sub/b.c", metBlok}});
     knipBoom();
     EXPECT_TRUE(fs::is_empty(std::getenv("TMPDIR")));
     EXPECT_EQ(3U, hulp::leesBoom(doel_).size());
@@ -351,65 +293,4 @@ TEST_F(Kiezen, VerandertNietsAanDeAndereKiezer) {
     EXPECT_FALSE(lid(&Inzage::bronGekozen));
     EXPECT_TRUE(lid(&Inzage::bestemmingGekozen));
     EXPECT_EQ(naarWx(bron_), lid(&Inzage::origineelPad));
-}
-
-/// De headers van de toolkit als lesmateriaal: honderden echte bestanden, met op toevallige plaatsen markers.
-class EchtMateriaal : public Batch {
-  protected:
-    EchtMateriaal() {
-        std::mt19937 toeval(2026);  // NOLINT(cert-msc51-cpp): vaste reeks
-        std::size_t aantal = 0;
-        for (const auto& deel : fs::recursive_directory_iterator(HEADERS)) {
-            if (deel.is_regular_file() && deel.path().extension() == ".h") {
-                const std::string naam = fs::relative(deel.path(), HEADERS);
-                hulp::maakBoom(boom_, {{naam, merk(hulp::leesBestand(deel.path()), toeval)}});
-                ++aantal;
-            }
-        }
-        EXPECT_GT(aantal, 600U);
-    }
-
-    static std::string merk(const std::string& tekst, std::mt19937& toeval) {
-        std::string uit;
-        bool open = false;
-        for (const char teken : tekst) {
-            uit += teken;
-            if (teken == '\n' && toeval() % 20 == 0) {
-                uit += open ? "    // EIND van het blok\n" : "BEGIN\n";
-                open = !open;
-            }
-        }
-        return uit;
-    }
-
-    std::string orakelVan(const fs::path& pad) const {
-        return orakel::knipBestand(pad, {"BEGIN", "EIND", "WERK"});
-    }
-
-    fs::path boom_ = geefOmgeving().werk() / "headers";
-};
-
-TEST_F(EchtMateriaal, KniptRecursiefElkBestandGoed) {
-    hulp::Boom verwacht = hulp::leesBoom(boom_);
-    for (auto& [naam, inhoud] : verwacht) {
-        if (inhoud != "/") {
-            inhoud = orakelVan(boom_ / naam);
-        }
-    }
-    doel_ = boom_;
-    knipBoom();
-    EXPECT_TRUE(verwacht == hulp::leesBoom(boom_));
-}
-
-TEST_F(EchtMateriaal, KniptDeDirectoryElkBestandGoed) {
-    bron_ = boom_ / "wx";
-    hulp::Boom verwacht;
-    for (const auto& deel : fs::directory_iterator(bron_)) {
-        if (deel.is_regular_file()) {
-            verwacht[deel.path().filename()] = orakelVan(deel.path());
-        }
-    }
-    knipDirectory();
-    EXPECT_GT(verwacht.size(), 200U);
-    EXPECT_TRUE(verwacht == hulp::leesBoom(doel_));
 }

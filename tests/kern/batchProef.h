@@ -1,0 +1,92 @@
+#pragma once
+
+// Wat de tests van de batches delen: een opdracht die onthoudt wat er gemeld werd, en een boom met een eigen
+// tijdelijke directory.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "Knipselaar/kern/batch.h"
+#include "Knipselaar/kern/keuzes.h"
+#include "tests/hulp/bestanden.h"
+#include "tests/hulp/bestandsboom.h"
+#include "tests/hulp/beweringen.h"
+
+namespace proef {
+
+inline const kern::KnipTeksten teksten{"BEGIN", "EIND", "WERK"};
+inline const std::string origineel = "a\nBEGIN\nb\nEIND\nc\n";
+inline const std::string geknipt = "a\nWERK\nc\n\n";
+
+/// Een opdracht die onthoudt wat er gemeld werd.
+class Opdracht : public kern::BatchOpdracht {
+  public:
+    explicit Opdracht(int bestandType = 0) : bestandType_(bestandType) {}
+
+    bool isGekozen(const wxFileName& bestand) override {
+        return kern::isBestandGekozen(bestand.GetExt(), bestandType_);
+    }
+    kern::KnipUitslag knip(const wxFileName& bron, const wxFileName& bestemming) override {
+        if (voorElkeKnip) {
+            voorElkeKnip();
+        }
+        return kern::knipBestand(bron, bestemming, teksten);
+    }
+    void meldOvergeslagen(long nummer, const wxFileName& bestand) override { meld("over", nummer, bestand); }
+    void meldVerwerkt(long nummer, const wxFileName& bron, const wxFileName& bestemming) override {
+        meld("knip", nummer, bron);
+        EXPECT_EQ(bron.GetFullName(), bestemming.GetFullName());
+    }
+
+    std::vector<std::string> gemeld;
+    std::function<void()> voorElkeKnip;
+
+  private:
+    void meld(const std::string& wat, long nummer, const wxFileName& bestand) {
+        gemeld.push_back(wat + " " + std::to_string(nummer) + " " + bestand.GetFullName().utf8_string());
+    }
+
+    int bestandType_;
+};
+
+inline wxString naarWx(const std::filesystem::path& pad) {
+    return wxString::FromUTF8(pad.string());
+}
+
+class Batch : public testing::Test {
+  protected:
+    Batch() {
+        std::filesystem::create_directory(tijdelijk_);
+        setenv("TMPDIR", tijdelijk_.c_str(), 1);
+        std::filesystem::create_directory(boom_);
+    }
+    ~Batch() override {
+        unsetenv("TMPDIR");
+        // Ook een bestand dat niet te knippen is beweert; dat hoort zo en verschilt per test.
+        hulp::neemBeweringen();
+    }
+
+    std::vector<std::string> knipBoom(Opdracht& opdracht) {
+        const auto paden = kern::lijstBoom(naarWx(boom_));
+        kern::knipBoom(naarWx(boom_), paden, opdracht);
+        EXPECT_TRUE(std::filesystem::is_empty(tijdelijk_)) << "er bleef een tijdelijk bestand achter";
+        std::sort(opdracht.gemeld.begin(), opdracht.gemeld.end());
+        return opdracht.gemeld;
+    }
+
+    std::vector<std::string> knipBoom(int bestandType = 0) {
+        Opdracht opdracht(bestandType);
+        return knipBoom(opdracht);
+    }
+
+    hulp::TijdelijkeMap map_;
+    std::filesystem::path boom_ = map_ / "boom";
+    std::filesystem::path tijdelijk_ = map_ / "tijdelijk";
+};
+
+}  // namespace proef

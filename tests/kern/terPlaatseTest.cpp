@@ -1,0 +1,190 @@
+#include "Knipselaar/kern/terPlaatse.h"
+
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdio>
+
+#include "tests/kern/batchProef.h"
+
+namespace fs = std::filesystem;
+
+using proef::geknipt;
+using proef::naarWx;
+using proef::Opdracht;
+using proef::origineel;
+
+namespace {
+
+using Veilig = proef::Batch;
+
+}  // namespace
+
+TEST_F(Veilig, HoudtDeRechten) {
+    for (const mode_t rechten : {0644U, 0755U, 0600U, 0444U, 0664U, 0640U}) {
+        hulp::schrijfBestand(boom_ / "a.c", origineel);
+        chmod((boom_ / "a.c").c_str(), rechten);
+        knipBoom();
+        EXPECT_EQ(geknipt, hulp::leesBestand(boom_ / "a.c")) << std::oct << rechten;
+        EXPECT_EQ(rechten, static_cast<mode_t>(fs::status(boom_ / "a.c").permissions()))
+            << std::oct << rechten;
+        fs::remove(boom_ / "a.c");
+    }
+}
+
+TEST_F(Veilig, HoudtDeEigenaar) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "alleen root kan een bestand weggeven";
+    }
+    hulp::schrijfBestand(boom_ / "a.c", origineel);
+    ASSERT_EQ(0, chown((boom_ / "a.c").c_str(), 1234, 5678));
+    knipBoom();
+    struct stat gegevens {};
+    ASSERT_EQ(0, stat((boom_ / "a.c").c_str(), &gegevens));
+    EXPECT_EQ(1234U, gegevens.st_uid);
+    EXPECT_EQ(5678U, gegevens.st_gid);
+    EXPECT_EQ(geknipt, hulp::leesBestand(boom_ / "a.c"));
+}
+
+TEST_F(Veilig, LaatHetOrigineelHeelZolangHetKnippenDuurt) {
+    hulp::maakBoom(boom_, {{"a.c", origineel}});
+    Opdracht opdracht;
+    opdracht.voorElkeKnip = [this] { EXPECT_EQ(origineel, hulp::leesBestand(boom_ / "a.c")); };
+    knipBoom(opdracht);
+    EXPECT_EQ((hulp::Boom{{"a.c", geknipt}}), hulp::leesBoom(boom_));
+}
+
+TEST_F(Veilig, GeeftEenLezerVanHetOudeBestandHetHeleOrigineel) {
+    hulp::maakBoom(boom_, {{"a.c", origineel}});
+    std::FILE* lezer = std::fopen((boom_ / "a.c").c_str(), "rb");
+    knipBoom();
+    std::string gelezen(100, '\0');
+    gelezen.resize(std::fread(gelezen.data(), 1, gelezen.size(), lezer));
+    std::fclose(lezer);
+    EXPECT_EQ(origineel, gelezen) << "het bestand is vervangen, niet overschreven";
+}
+
+TEST_F(Veilig, LaatHetBestandStaanAlsHetTijdelijkeNietHeelWordt) {
+    const std::string groot = std::string(300'000, 'x') + "\n" + origineel;
+    hulp::maakBoom(boom_, {{"groot.c", groot}, {"klein.c", origineel}});
+    rlimit oud{};
+    ASSERT_EQ(0, getrlimit(RLIMIT_FSIZE, &oud));
+    const rlimit krap{.rlim_cur = 100'000, .rlim_max = oud.rlim_max};
+    const auto oudSignaal = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &krap));
+    knipBoom();
+    ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &oud));
+    std::signal(SIGXFSZ, oudSignaal);
+    EXPECT_EQ((hulp::Boom{{"groot.c", groot}, {"klein.c", geknipt}}), hulp::leesBoom(boom_));
+}
+
+/// Een bestandssysteem van 300 kB; alleen root mag er een maken.
+class Schijf {
+  public:
+    explicit Schijf(const fs::path& plaats) : plaats_(plaats) {
+        fs::create_directories(plaats);
+        gelukt_ = mount("knipseltest", plaats.c_str(), "tmpfs", 0, "size=300k") == 0;
+    }
+    Schijf(const Schijf&) = delete;
+    Schijf& operator=(const Schijf&) = delete;
+    ~Schijf() {
+        if (gelukt_) {
+            umount2(plaats_.c_str(), MNT_DETACH);
+        }
+    }
+    bool isEr() const { return gelukt_; }
+
+  private:
+    fs::path plaats_;
+    bool gelukt_;
+};
+
+TEST_F(Veilig, LaatHetBestandStaanAlsErNaastGeenPlaatsIs) {
+    const Schijf schijf(boom_);
+    if (!schijf.isEr()) {
+        GTEST_SKIP() << "alleen root kan een bestandssysteem aankoppelen";
+    }
+    const std::string groot = std::string(200'000, 'x') + "\n" + origineel;
+    hulp::maakBoom(boom_, {{"groot.c", groot}, {"klein.c", origineel}});
+    knipBoom();
+    EXPECT_EQ((hulp::Boom{{"groot.c", groot}, {"klein.c", geknipt}}), hulp::leesBoom(boom_));
+}
+
+TEST_F(Veilig, LaatHetBestandStaanAlsDeTijdelijkeSchijfVolIs) {
+    const Schijf schijf(tijdelijk_);
+    if (!schijf.isEr()) {
+        GTEST_SKIP() << "alleen root kan een bestandssysteem aankoppelen";
+    }
+    const std::string groot = std::string(400'000, 'x') + "\n" + origineel;
+    hulp::maakBoom(boom_, {{"groot.c", groot}, {"klein.c", origineel}});
+    knipBoom();
+    EXPECT_EQ((hulp::Boom{{"groot.c", groot}, {"klein.c", geknipt}}), hulp::leesBoom(boom_));
+}
+
+/// Voert iets uit in een kindproces zonder rechten. True als het daar zonder fout verliep.
+bool doeAlsGewoneGebruiker(const std::function<void()>& handeling) {
+    const pid_t kind = fork();
+    if (kind == 0) {
+        constexpr uid_t niemand = 65534;
+        if (geteuid() == 0 &&
+            (setresgid(niemand, niemand, niemand) != 0 || setresuid(niemand, niemand, niemand) != 0)) {
+            _exit(2);
+        }
+        handeling();
+        _exit(testing::Test::HasFailure() ? 1 : 0);
+    }
+    int status = 0;
+    waitpid(kind, &status, 0);
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+TEST_F(Veilig, LaatAllesStaanZonderTijdelijkeNaam) {
+    const hulp::Boom vooraf{{"a.c", origineel}, {"b.c", origineel}};
+    hulp::maakBoom(boom_, vooraf);
+    for (const fs::path& pad : {map_.pad(), boom_, boom_ / "a.c", boom_ / "b.c"}) {
+        fs::permissions(pad, fs::perms::all);
+    }
+    chmod(tijdelijk_.c_str(), 0555);
+    EXPECT_TRUE(doeAlsGewoneGebruiker([this] { EXPECT_EQ(2U, knipBoom().size()); }));
+    EXPECT_EQ(vooraf, hulp::leesBoom(boom_));
+}
+
+TEST_F(Veilig, LaatStaanWatNietTeLezenOfTeVervangenIs) {
+    hulp::maakBoom(boom_, {{"dicht.c", origineel}, {"open.c", origineel}, {"vast/b.c", origineel}});
+    for (const fs::path& pad : {map_.pad(), boom_, tijdelijk_}) {
+        fs::permissions(pad, fs::perms::all);
+    }
+    chmod((boom_ / "open.c").c_str(), 0666);
+    chmod((boom_ / "dicht.c").c_str(), 0000);
+    chmod((boom_ / "vast").c_str(), 0555);
+    if (geteuid() == 0) {
+        ASSERT_EQ(0, chown((boom_ / "dicht.c").c_str(), 1, 1));
+    }
+    EXPECT_TRUE(doeAlsGewoneGebruiker([this] { EXPECT_EQ(3U, knipBoom().size()); }));
+    chmod((boom_ / "dicht.c").c_str(), 0600);
+    chmod((boom_ / "vast").c_str(), 0755);
+    EXPECT_EQ(
+        (hulp::Boom{{"dicht.c", origineel}, {"open.c", geknipt}, {"vast", "/"}, {"vast/b.c", origineel}}),
+        hulp::leesBoom(boom_));
+}
+
+TEST_F(Veilig, NeemtAlleenEenGewoonBestandAlsPlaats) {
+    hulp::maakBoom(boom_, {{"map.c", "/"}});
+    const kern::TerPlaatse terPlaatse;
+    hulp::schrijfBestand(terPlaatse.geefTijdelijk().GetFullPath().utf8_string(), geknipt);
+    EXPECT_FALSE(terPlaatse.vervang(wxFileName(naarWx(boom_ / "map.c"))));
+    EXPECT_FALSE(terPlaatse.vervang(wxFileName(naarWx(boom_ / "bestaat-niet.c"))));
+    EXPECT_EQ((hulp::Boom{{"map.c", "/"}}), hulp::leesBoom(boom_));
+}
+
+TEST_F(Veilig, MaaktHetTijdelijkeBestandInDeTijdelijkeDirectory) {
+    const kern::TerPlaatse terPlaatse;
+    const fs::path pad = terPlaatse.geefTijdelijk().GetFullPath().utf8_string();
+    EXPECT_EQ(tijdelijk_, pad.parent_path());
+    EXPECT_TRUE(pad.filename().string().starts_with("Knipselaar"));
+    EXPECT_TRUE(fs::exists(pad));
+}
