@@ -160,9 +160,10 @@ TEST_F(BestandKnipper, MerktDatNietAllesGeschrevenIs) {
     wxLogBuffer meldingen;
     wxLog* oudDoel = wxLog::SetActiveTarget(&meldingen);
     const auto uitslag = knip(in_, uit_);
+    const wxString gemeld = meldingen.GetBuffer();
     wxLog::SetActiveTarget(oudDoel);
     ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &oud));
-    EXPECT_EQ("", meldingen.GetBuffer()) << "de uitslag zegt het, en verder niemand";
+    EXPECT_EQ("", gemeld) << "de uitslag zegt het, en verder niemand";
     std::signal(SIGXFSZ, oudSignaal);
     EXPECT_TRUE(uitslag.bronHeelGelezen);
     EXPECT_FALSE(uitslag.doelHeelGeschreven);
