@@ -4,7 +4,7 @@ set -euo pipefail
 hoofdmap=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 . "$hoofdmap/scripts/gemeen.sh"
 
-installeer "${pakketten_bouw[@]}" "${pakketten_bediening[@]}" libgtest-dev libgtk-3-dev librsvg2-bin gcc ghdl
+installeer "${pakketten_bouw[@]}" "${pakketten_test[@]}"
 zorg_voor_locale
 bouw debug
 # Een test wacht vooral op vensters; met één meer dan er kernen zijn staat er geen stil.

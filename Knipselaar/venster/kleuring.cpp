@@ -49,7 +49,7 @@ void ParserVenster::zetAlgStijl(wxStyledTextCtrl* editor) {
     editor->SetMarginType(regelnummerMarge, wxSTC_MARGIN_NUMBER);
     editor->SetMarginType(vouwMarge, wxSTC_MARGIN_SYMBOL);
     editor->SetMarginWidth(vouwMarge, 15);
-    editor->SetMarginMask(vouwMarge, wxSTC_MASK_FOLDERS);
+    editor->SetMarginMask(vouwMarge, static_cast<int>(wxSTC_MASK_FOLDERS));
     editor->StyleSetBackground(1, naarKleur(stijl::grijs(200)));
     editor->SetMarginSensitive(vouwMarge, true);
     zetVouwen(editor);

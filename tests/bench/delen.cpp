@@ -37,7 +37,7 @@ void leesRegels(benchmark::State& staat, const std::string& regel) {
             benchmark::DoNotOptimize(regels.data());
         }
     }
-    staat.SetBytesProcessed(static_cast<int64_t>(staat.iterations() * tekst.size()));
+    staat.SetBytesProcessed(staat.iterations() * static_cast<int64_t>(tekst.size()));
 }
 
 void zoekMarker(benchmark::State& staat, const wxString& marker, const std::string& regel) {
@@ -46,7 +46,7 @@ void zoekMarker(benchmark::State& staat, const wxString& marker, const std::stri
     for (auto _ : staat) {
         benchmark::DoNotOptimize(masker.zoekRegel(tekst, 0));
     }
-    staat.SetBytesProcessed(static_cast<int64_t>(staat.iterations() * tekst.size()));
+    staat.SetBytesProcessed(staat.iterations() * static_cast<int64_t>(tekst.size()));
 }
 
 void keurUtf8(benchmark::State& staat, const std::string& regel) {
@@ -54,7 +54,7 @@ void keurUtf8(benchmark::State& staat, const std::string& regel) {
     for (auto _ : staat) {
         benchmark::DoNotOptimize(kern::isSchoneUtf8(tekst));
     }
-    staat.SetBytesProcessed(static_cast<int64_t>(staat.iterations() * tekst.size()));
+    staat.SetBytesProcessed(staat.iterations() * static_cast<int64_t>(tekst.size()));
 }
 
 void knipBlokken(benchmark::State& staat) {
@@ -65,7 +65,7 @@ void knipBlokken(benchmark::State& staat) {
     for (auto _ : staat) {
         benchmark::DoNotOptimize(kern::knipTekst(tekst, teksten));
     }
-    staat.SetBytesProcessed(static_cast<int64_t>(staat.iterations() * tekst.size()));
+    staat.SetBytesProcessed(staat.iterations() * static_cast<int64_t>(tekst.size()));
 }
 
 }  // namespace
