@@ -120,9 +120,9 @@ TEST_F(BestandsOpdrachten, VoegtEenBestandToe) {
     EXPECT_EQ("twee.c", kies(wxID_SAVE, {}).bestand);
 }
 
-TEST_F(BestandsOpdrachten, VoegtToeAanHetEindeOokMetEenSelectie) {
+TEST_F(BestandsOpdrachten, VoegtToeAanHetEindeEnNietBijDeInvoegplaats) {
     open("een.c", "een\n");
-    origineel()->SelectAll();
+    origineel()->SetEmptySelection(0);
     kies(wxID_ADD, maakBestand("twee.c", "twee"));
     EXPECT_EQ("een\ntwee\n", tekstVan(origineel()));
 }
