@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "tests/hulp/omgeving.h"
+#include "tests/hulp/opdracht.h"
 
-/// De uitvoer van een hulpprogramma, of leeg als het mislukte.
-std::string voerUit(const std::vector<std::string>& opdracht);
+using hulp::voerUit;
 
 class Bediening : public testing::Test {
   protected:
