@@ -38,6 +38,10 @@ std::optional<BreedFormaat> herkenBreedFormaat(std::string_view begin) {
     return std::nullopt;
 }
 
+std::size_t leesBlok(wxInputStream& bron, char* bytes, std::size_t aantal) {
+    return bron.GetLastError() == wxSTREAM_READ_ERROR ? 0 : bron.Read(bytes, aantal).LastRead();
+}
+
 BreedHersteller::BreedHersteller(std::string_view begin, wxInputStream& bron, BreedFormaat formaat)
     : bron_(bron), formaat_(formaat), ruw_(begin) {}
 
@@ -61,7 +65,7 @@ void BreedHersteller::vulAan() {
     goed_.clear();
     afgehaald_ = 0;
     std::array<char, blokGrootte> blok;  // NOLINT(cppcoreguidelines-pro-type-member-init): Read vult hem
-    const std::size_t gelezen = bron_.Read(blok.data(), blok.size()).LastRead();
+    const std::size_t gelezen = leesBlok(bron_, blok.data(), blok.size());
     ruw_.append(blok.data(), gelezen);
     einde_ = gelezen == 0;
     herstel();

@@ -7,6 +7,7 @@
 
 #include <wx/stream.h>
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,6 +23,10 @@ struct BreedFormaat {
 /// Het formaat dat een merkteken (BOM) aanwijst; niets als de tekst niet met een breed merkteken begint.
 /// FF FE 00 00 is UTF-32, ook al zou het UTF-16 met een NUL kunnen zijn: zo beslist de toolkit ook.
 std::optional<BreedFormaat> herkenBreedFormaat(std::string_view begin);
+
+/// Leest een blok, maar nooit voorbij een leesfout: wat daarna nog uit de bron komt hoeft er niet op aan te
+/// sluiten. Geeft het aantal bytes; 0 aan het einde en na een leesfout.
+std::size_t leesBlok(wxInputStream& bron, char* bytes, std::size_t aantal);
 
 class BreedHersteller : public wxInputStream {
   public:

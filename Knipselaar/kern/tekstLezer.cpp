@@ -53,7 +53,7 @@ void TekstLezer::vulAan() {
     if (buffer_.size() < vulling_ + blokGrootte) {
         buffer_.resize(std::max(2 * buffer_.size(), vulling_ + blokGrootte));
     }
-    const std::size_t gelezen = invoer_.Read(buffer_.data() + vulling_, blokGrootte).LastRead();
+    const std::size_t gelezen = leesBlok(invoer_, buffer_.data() + vulling_, blokGrootte);
     if (!begonnen_) {
         begonnen_ = true;
         beginTekst(gelezen);

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 #include <vector>
 
 #include "tests/hulp/bestanden.h"
@@ -13,11 +14,13 @@ using namespace std::string_view_literals;
 
 namespace {
 
-/// Geeft een tekst in stukjes van hoogstens zoveel bytes en meldt daarna een leesfout of het einde.
+/// Geeft een tekst in stukjes van hoogstens zoveel bytes en meldt daarna een leesfout of het einde. Voorbij
+/// die fout is er nog meer te lezen.
 class HaperendeStroom : public wxInputStream {
   public:
-    HaperendeStroom(std::string_view inhoud, std::size_t stukje, wxStreamError slot)
-        : rest_(inhoud), stukje_(stukje), slot_(slot) {}
+    HaperendeStroom(std::string_view inhoud, std::size_t stukje, wxStreamError slot,
+                    std::string_view voorbij = {})
+        : rest_(inhoud), voorbij_(voorbij), stukje_(stukje), slot_(slot) {}
 
   protected:
     size_t OnSysRead(void* buffer, size_t lengte) override {
@@ -26,12 +29,14 @@ class HaperendeStroom : public wxInputStream {
         rest_.remove_prefix(aantal);
         if (aantal == 0) {
             m_lasterror = slot_;
+            rest_ = std::exchange(voorbij_, {});
         }
         return aantal;
     }
 
   private:
     std::string_view rest_;
+    std::string_view voorbij_;
     std::size_t stukje_;
     wxStreamError slot_;
 };
@@ -249,6 +254,15 @@ TEST(TekstLezer, HoudtOpNaEenLeesfoutInEenBredeTekst) {
     const Uitkomst uitkomst = leesAlles(stroom);
     EXPECT_EQ("ab\n", uitkomst.tekst);
     EXPECT_FALSE(uitkomst.heelGelezen);
+}
+
+TEST(TekstLezer, LeestNooitVoorbijEenLeesfout) {
+    for (const std::string_view begin : {"een"sv, "\xFF"sv, "\xFF\xFE"sv, "\xFF\xFE\x41\0"sv}) {
+        HaperendeStroom stroom(begin, 1, wxSTREAM_READ_ERROR, "b\0\n\0"sv);
+        const Uitkomst uitkomst = leesAlles(stroom);
+        EXPECT_EQ(std::string::npos, uitkomst.tekst.find('b')) << uitkomst.tekst;
+        EXPECT_FALSE(uitkomst.heelGelezen) << hulp::toonBytes(begin);
+    }
 }
 
 TEST(TekstLezer, GeeftEenRegelVanTienMegabyteHeel) {
