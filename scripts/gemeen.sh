@@ -78,4 +78,4 @@ bouw() {
 # librsvg2-common: zonder kan GTK zijn eigen pictogrammen niet tekenen.
 pakketten_bouw=(g++ cmake ninja-build libwxgtk3.2-dev wx3.2-i18n locales fonts-dejavu-core librsvg2-common)
 pakketten_bediening=(xvfb xdotool openbox imagemagick)
-pakketten_test=("${pakketten_bediening[@]}" libgtest-dev libgtk-3-dev librsvg2-bin gcc ghdl)
+pakketten_test=("${pakketten_bediening[@]}" libgtest-dev libgtk-3-dev pkg-config librsvg2-bin python3 gcc ghdl)

@@ -106,6 +106,7 @@ Omgeving::~Omgeving() {
     while (!bedienden_.empty()) {
         bedienden_.pop_back();
     }
+    unsetenv("TMPDIR");  // die directory verdwijnt nu
 }
 
 void wachtEven() {

@@ -45,8 +45,7 @@ class Kindproces {
 template <typename Voorwaarde>
 bool wachtTot(Voorwaarde&& voorwaarde, int hoogstensMs = 20000);
 
-/// Maakt van een proces met beeldscherm een test: zet HOME, TMPDIR en DISPLAY om en zet ze aan het einde niet
-/// terug. Eén per proces.
+/// Maakt van een proces met beeldscherm een test: zet onder meer HOME, TMPDIR en DISPLAY om. Eén tegelijk.
 class Omgeving {
   public:
     /// @param metVensterbeheer  start ook een vensterbeheerder, voor tests die met toetsen en muis werken.

@@ -26,11 +26,12 @@ def voer_uit(werk, *opdracht):
                           errors="replace", check=False)
 
 
-def is_opgemerkt(werk):
+def is_opgemerkt(werk, bestand):
     """Of de breuk niet bouwt of een test laat falen, en zo ja waarmee."""
     if voer_uit(werk, "cmake", "--build", "--preset", "debug").returncode != 0:
         return "bouwt niet"
-    for soort in ("kern", "venster", "eind"):
+    # Het eerst de tests die er het dichtst bij staan.
+    for soort in ("kern", "venster", "eind") if "/kern/" in bestand else ("venster", "eind", "kern"):
         uitvoer = voer_uit(werk, "ctest", "--preset", "debug", "-L", soort, "-j3", "--stop-on-failure",
                            "--timeout", "60")
         if uitvoer.returncode != 0:
@@ -56,7 +57,7 @@ def main():
             overlevers += 1
             continue
         pad.write_text(tekst.replace(oud, nieuw), encoding="utf-8")
-        oordeel = is_opgemerkt(werk)
+        oordeel = is_opgemerkt(werk, bestand)
         pad.write_text(tekst, encoding="utf-8")
         overlevers += oordeel is None
         print(f"{nummer:3} {bestand}: {oud!r} -> {nieuw!r}: {oordeel or 'OVERLEEFT'}", flush=True)
