@@ -43,7 +43,7 @@ class Kindproces {
 
 /// Wacht op een voorwaarde. False als de grens voorbij is en het nog steeds niet zo is.
 template <typename Voorwaarde>
-bool wachtTot(Voorwaarde&& voorwaarde, int hoogstensMs = 20000);
+bool wachtTot(Voorwaarde&& voorwaarde, int hoogstensMs = 45000);
 
 /// Maakt van een proces met beeldscherm een test: zet onder meer HOME, TMPDIR en DISPLAY om. Eén tegelijk.
 class Omgeving {

@@ -28,7 +28,7 @@ void zetOmgeving(const hulp::Omgeving& omgeving);
 const hulp::Omgeving& geefOmgeving();
 
 /// Laat de hoofdlus lopen tot een voorwaarde geldt. False als dat te lang duurt.
-bool laatLopenTot(const std::function<bool()>& voorwaarde, int hoogstensMs = 10000);
+bool laatLopenTot(const std::function<bool()>& voorwaarde, int hoogstensMs = 30000);
 
 /// Laat de hoofdlus alles afhandelen wat er ligt, ook het bijwerken van de bediening.
 void laatLopen();
