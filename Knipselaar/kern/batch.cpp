@@ -36,14 +36,10 @@ class Beurten {
   public:
     explicit Beurten(const wxString& boom) : wortel_(geefEchtPad(boom)) {}
 
-    /// Of dit pad een echt bestand van de boom is dat nog niet aan de beurt was; daarna is het dat wel. Een
-    /// pad dat nergens heen wijst telt als zichzelf.
-    bool neem(const wxString& pad) {
-        const std::string echt = geefEchtPad(pad);
-        if (echt.empty()) {
-            return true;
-        }
-        const bool binnen = wortel_ == "/" || echt.starts_with(wortel_ + "/");
+    /// Of dit echte pad in de boom ligt en nog niet aan de beurt was; daarna was het dat wel. Van een boom
+    /// die zelf niet te vinden is ligt niets binnen.
+    bool neem(const std::string& echt) {
+        const bool binnen = wortel_ == "/" || (!wortel_.empty() && echt.starts_with(wortel_ + "/"));
         return binnen && geweest_.insert(echt).second;
     }
 
@@ -104,13 +100,16 @@ void knipBoom(const wxString& boom, const std::vector<wxString>& paden, BatchOpd
     for (const wxString& pad : paden) {
         ++nummer;
         const wxFileName bestand(pad);
-        if (!opdracht.isGekozen(bestand) || !beurten.neem(pad)) {
+        // Een pad dat nergens heen wijst wordt gemeld als verwerkt, maar nooit vervangen: ook als het daarna
+        // wel te vinden is, kan het al aan de beurt geweest zijn of buiten de boom liggen.
+        const std::string echt = geefEchtPad(pad);
+        if (!opdracht.isGekozen(bestand) || (!echt.empty() && !beurten.neem(echt))) {
             opdracht.meldOvergeslagen(nummer, bestand);
             continue;
         }
         TerPlaatse terPlaatse;
         opdracht.meldVerwerkt(nummer, bestand, bestand);
-        if (opdracht.knip(bestand, terPlaatse.geefTijdelijk()).isGelukt()) {
+        if (opdracht.knip(bestand, terPlaatse.geefTijdelijk()).isGelukt() && !echt.empty()) {
             terPlaatse.vervang(bestand);
         }
     }

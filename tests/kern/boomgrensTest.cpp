@@ -1,0 +1,38 @@
+// Wat er bij een boom hoort, ook als het bestandssysteem daar geen antwoord op geeft.
+
+#include <gtest/gtest.h>
+
+#include "Knipselaar/kern/batch.h"
+#include "tests/hulp/bestanden.h"
+#include "tests/hulp/bestandsboom.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Neemt alles en onthoudt alleen hoeveel bestanden overgeslagen werden.
+class Opdracht : public kern::BatchOpdracht {
+  public:
+    bool isGekozen(const wxFileName& /*bestand*/) override { return true; }
+    kern::KnipUitslag knip(const wxFileName& bron, const wxFileName& bestemming) override {
+        return kern::knipBestand(bron, bestemming, {"BEGIN", "EIND", "WERK"});
+    }
+    void meldOvergeslagen(long /*nummer*/, const wxFileName& /*bestand*/) override { ++overgeslagen; }
+    void meldVerwerkt(long /*nummer*/, const wxFileName& /*bron*/,
+                      const wxFileName& /*bestemming*/) override {}
+
+    int overgeslagen = 0;
+};
+
+}  // namespace
+
+TEST(Boomgrens, LigtNergensAlsDeBoomNietTeVindenIs) {
+    const hulp::TijdelijkeMap map;
+    const hulp::Boom vooraf{{"a.c", "a\nBEGIN\nb\nEIND\nc\n"}};
+    hulp::maakBoom(map.pad(), vooraf);
+    Opdracht opdracht;
+    kern::knipBoom(wxString::FromUTF8((map / "weg").string()), {wxString::FromUTF8((map / "a.c").string())},
+                   opdracht);
+    EXPECT_EQ(1, opdracht.overgeslagen);
+    EXPECT_EQ(vooraf, hulp::leesBoom(map.pad()));
+}
