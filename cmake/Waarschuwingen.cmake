@@ -1,9 +1,13 @@
-# De bouwregels die voor alle eigen code gelden; wie ze wil, linkt met knipselaar_regels.
-add_library(knipselaar_regels INTERFACE)
-target_compile_options(knipselaar_regels INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
+# De bouwregels die voor alle eigen code gelden; wie ze wil, linkt met knipselaar_regels. De waarschuwingen
+# staan apart voor code waar geen sanitizer in mag.
+add_library(knipselaar_waarschuwingen INTERFACE)
+target_compile_options(knipselaar_waarschuwingen INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
 if(KNIPSELAAR_STRENG)
-  target_compile_options(knipselaar_regels INTERFACE -Werror)
+  target_compile_options(knipselaar_waarschuwingen INTERFACE -Werror)
 endif()
+
+add_library(knipselaar_regels INTERFACE)
+target_link_libraries(knipselaar_regels INTERFACE knipselaar_waarschuwingen)
 
 if(KNIPSELAAR_SANITIZERS)
   target_compile_options(knipselaar_regels INTERFACE

@@ -11,8 +11,8 @@ namespace hulp {
 
 namespace fs = std::filesystem;
 
-TijdelijkeMap::TijdelijkeMap() {
-    std::string sjabloon = (fs::temp_directory_path() / "knipseltest-XXXXXX").string();
+TijdelijkeMap::TijdelijkeMap(const fs::path& plaats) {
+    std::string sjabloon = (plaats / "knipseltest-XXXXXX").string();
     if (mkdtemp(sjabloon.data()) == nullptr) {
         throw std::runtime_error("geen tijdelijke map");
     }

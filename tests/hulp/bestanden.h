@@ -11,7 +11,7 @@ namespace hulp {
 /// Een nieuwe, lege map; verdwijnt met alles erin als het object verdwijnt.
 class TijdelijkeMap {
   public:
-    TijdelijkeMap();
+    explicit TijdelijkeMap(const std::filesystem::path& plaats = std::filesystem::temp_directory_path());
     TijdelijkeMap(const TijdelijkeMap&) = delete;
     TijdelijkeMap& operator=(const TijdelijkeMap&) = delete;
     ~TijdelijkeMap();
