@@ -6,9 +6,6 @@
 #include <wx/log.h>
 #include <wx/wfstream.h>
 
-#include "Knipselaar/kern/tekstLezer.h"
-#include "Knipselaar/kern/tekstSchrijver.h"
-
 namespace kern {
 
 namespace {
@@ -60,15 +57,7 @@ KnipUitslag knipBestand(const wxFileName& bron, const wxFileName& doel, const Kn
     wxASSERT(uitStroom.IsOk());
 
     if (origStroom.IsOk()) {
-        TekstLezer lezer(origStroom);
-        TekstSchrijver schrijver(uitStroom);
-        Knipper knipper(teksten, "\n");
-        const auto schrijf = [&schrijver](std::string_view stuk) { schrijver.schrijf(stuk); };
-        for (auto regels = lezer.leesRegels(); !regels.empty(); regels = lezer.leesRegels()) {
-            knipper.knip(regels, schrijf);
-        }
-        uitslag.bronHeelGelezen = lezer.isHeelGelezen();
-        uitslag.doelHeelGeschreven = schrijver.maakAf();
+        uitslag = knipStroom(origStroom, uitStroom, teksten);
     }
     uitslag.doelHeelGeschreven = uitStroom.Close() && uitslag.doelHeelGeschreven;
     return uitslag;

@@ -1,21 +1,12 @@
 #pragma once
 
-// De bestandsvariant van het knippen: leest het ene bestand, schrijft het andere. De uitvoer is UTF-8 zonder
-// merkteken met LF als regeleinde; elke regel en elke vervangtekst krijgt een "\n".
+// De bestandsvariant van het knippen: opent de bestanden en laat de stroomKnipper ertussen zijn werk doen.
 
 #include <wx/filename.h>
 
-#include "Knipselaar/kern/knipper.h"
+#include "Knipselaar/kern/stroomKnipper.h"
 
 namespace kern {
-
-/// Wat er van een knipbeurt terechtkwam. Wie zelf niets wil melden, kan het negeren.
-struct KnipUitslag {
-    bool bronHeelGelezen = false;     ///< de bron ging open en is zonder leesfout tot het einde gelezen
-    bool doelHeelGeschreven = false;  ///< het doel ging open en alles staat erin
-
-    bool isGelukt() const { return bronHeelGelezen && doelHeelGeschreven; }
-};
 
 /// Knipt het ene bestand naar het andere. Eerst gaat de bron open, dan het doel, en dan pas wordt er gelezen:
 /// een bestand dat naar zichzelf geknipt wordt, is dan al leeg.
