@@ -4,11 +4,23 @@
 #include <wx/intl.h>
 #include <wx/utils.h>
 
+#include <algorithm>
+
 namespace kern {
 
 namespace {
 constexpr const char* groep = "/Configuratie";
+
+/// Een waarde die niet te schrijven is (een teken voorbij U+10FFFF, dat de toolkit wel leest) geldt als
+/// ontbrekend: geen tekstveld kan haar tonen en geen masker kan haar gebruiken.
+wxString leesTekst(const wxConfigBase& opslag, const wxString& sleutel, const wxString& standaard) {
+    const wxString waarde = opslag.Read(sleutel, standaard);
+    const bool leesbaar = std::all_of(waarde.begin(), waarde.end(),
+                                      [](wxUniChar teken) { return teken.GetValue() <= 0x10FFFF; });
+    return leesbaar ? waarde : standaard;
 }
+
+}  // namespace
 
 wxString standaardBeginMarker() {
     return wxGetTranslation("//**** Student Begin ****//");
@@ -28,12 +40,12 @@ wxString standaardVervangtekst() {
 ParserInstellingen ParserInstellingen::lees(wxConfigBase& opslag) {
     opslag.SetPath(groep);
     return {
-        .origineelPad = opslag.Read("OrigineelPad", wxGetHomeDir()),
-        .aangepastPad = opslag.Read("AangepastPad", wxGetHomeDir()),
+        .origineelPad = leesTekst(opslag, "OrigineelPad", wxGetHomeDir()),
+        .aangepastPad = leesTekst(opslag, "AangepastPad", wxGetHomeDir()),
         .verwerkingkeuze = opslag.ReadLong("Verwerkingkeuze", 0),
-        .beginMarker = opslag.Read("BeginMarker", standaardBeginMarker()),
-        .eindMarker = opslag.Read("EindMarker", standaardEindMarker()),
-        .vervangtekst = opslag.Read("Vervangtekst", standaardVervangtekst()),
+        .beginMarker = leesTekst(opslag, "BeginMarker", standaardBeginMarker()),
+        .eindMarker = leesTekst(opslag, "EindMarker", standaardEindMarker()),
+        .vervangtekst = leesTekst(opslag, "Vervangtekst", standaardVervangtekst()),
     };
 }
 

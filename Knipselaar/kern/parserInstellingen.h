@@ -22,8 +22,8 @@ struct ParserInstellingen {
     wxString eindMarker;
     wxString vervangtekst;
 
-    /// Leest het record; een sleutel die ontbreekt geeft haar standaardwaarde. Laat de opslag in
-    /// "/Configuratie" staan.
+    /// Leest het record; een sleutel die ontbreekt of geen leesbare tekst heeft, geeft haar
+    /// standaardwaarde. Laat de opslag in "/Configuratie" staan.
     static ParserInstellingen lees(wxConfigBase& opslag);
 
     /// Schrijft het record. Of de opslag het aanneemt wordt niet bekeken, en het bestand schrijft zij pas

@@ -101,3 +101,12 @@ TEST(ParserInstellingen, OverlevenOnzinInDeOpslag) {
     EXPECT_EQ("e", record.eindMarker);
     EXPECT_EQ("//**** Student Begin ****//", record.beginMarker);
 }
+
+TEST(ParserInstellingen, NemenEenTekenVoorbijHetLaatsteCodepuntNietOver) {
+    const auto opslag = maakOpslag("");
+    opslag->Write("/Configuratie/BeginMarker", wxString(wxUniChar(0x11F600)) + "x");
+    opslag->Write("/Configuratie/EindMarker", wxString(wxUniChar(0x10FFFF)));
+    const auto record = ParserInstellingen::lees(*opslag);
+    EXPECT_EQ("//**** Student Begin ****//", record.beginMarker);
+    EXPECT_EQ(wxString(wxUniChar(0x10FFFF)), record.eindMarker);
+}
