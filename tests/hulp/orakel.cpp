@@ -4,7 +4,11 @@
 #include <wx/txtstrm.h>
 #include <wx/wfstream.h>
 
+#include <cstdint>
 #include <functional>
+#include <stdexcept>
+
+using namespace std::string_view_literals;
 
 namespace orakel {
 
@@ -46,15 +50,17 @@ class Filter {
     bool vervangen_ = true;
 };
 
-}  // namespace
-
-std::string knipBestand(const std::filesystem::path& bron, const kern::KnipTeksten& teksten) {
-    wxFileInputStream origStroom(wxString::FromUTF8(bron.string()));
+/// Knipt wat de stroom geeft. Elke regel kost minstens één byte; zijn er meer regels dan dat, dan komt er
+/// nooit een einde aan.
+std::string knipStroom(wxInputStream& origStroom, std::size_t aantalBytes, const kern::KnipTeksten& teksten) {
     wxTextInputStream origTekst(origStroom, " \t", wxConvAuto());
     wxMemoryOutputStream uitStroom;
     wxTextOutputStream uitTekst(uitStroom, wxEOL_NATIVE, wxConvAuto());
     Filter filter(teksten, "", [&uitTekst](const wxString& tekst) { uitTekst.WriteString(tekst + "\n"); });
-    while (!origStroom.Eof()) {
+    for (std::size_t regels = 0; !origStroom.Eof(); ++regels) {
+        if (regels > aantalBytes) {
+            throw std::runtime_error("de stromen van de toolkit houden niet op");
+        }
         filter.regel(origTekst.ReadLine());
     }
     std::string resultaat(uitStroom.GetSize(), '\0');
@@ -62,19 +68,71 @@ std::string knipBestand(const std::filesystem::path& bron, const kern::KnipTekst
     return resultaat;
 }
 
-std::string knipTekst(std::string_view tekst, const kern::KnipTeksten& teksten) {
-    std::string resultaat;
-    Filter filter(teksten, "\n", [&resultaat](const wxString& stuk) { resultaat += stuk.utf8_string(); });
+/// Geeft elke regel met haar regeleinde door; de laatste mag zonder zijn.
+void loopRegelsAf(std::string_view tekst, const std::function<void(std::string_view)>& doe) {
     for (std::size_t begin = 0; begin < tekst.size();) {
         const std::size_t einde = tekst.find('\n', begin);
         const std::size_t volgende = einde == std::string_view::npos ? tekst.size() : einde + 1;
-        filter.regel(wxString::FromUTF8(tekst.data() + begin, volgende - begin));
+        doe(tekst.substr(begin, volgende - begin));
         begin = volgende;
     }
+}
+
+/// Of een tekst uit hele, leesbare tekens van UTF-16 of UTF-32 bestaat.
+bool isGaveBredeTekst(std::string_view inhoud, std::size_t breedte, bool grootEerst) {
+    bool verwachtLaag = false;
+    for (; inhoud.size() >= breedte; inhoud.remove_prefix(breedte)) {
+        std::uint32_t waarde = 0;
+        for (std::size_t i = 0; i < breedte; ++i) {
+            waarde = waarde * 256 + static_cast<unsigned char>(inhoud[grootEerst ? i : breedte - 1 - i]);
+        }
+        const bool laag = breedte == 2 && waarde >= 0xDC00 && waarde <= 0xDFFF;
+        if (waarde > 0x10FFFF || laag != verwachtLaag) {
+            return false;
+        }
+        verwachtLaag = breedte == 2 && waarde >= 0xD800 && waarde <= 0xDBFF;
+    }
+    return inhoud.empty() && !verwachtLaag;
+}
+
+}  // namespace
+
+std::string knipBestand(const std::filesystem::path& bron, const kern::KnipTeksten& teksten) {
+    wxFileInputStream origStroom(wxString::FromUTF8(bron.string()));
+    return knipStroom(origStroom, std::filesystem::file_size(bron), teksten);
+}
+
+std::string knipInhoud(std::string_view inhoud, const kern::KnipTeksten& teksten) {
+    wxMemoryInputStream origStroom(inhoud.data(), inhoud.size());
+    return knipStroom(origStroom, inhoud.size(), teksten);
+}
+
+std::string knipRegels(std::string_view regels, const kern::KnipTeksten& teksten) {
+    std::string resultaat;
+    Filter filter(teksten, "",
+                  [&resultaat](const wxString& stuk) { resultaat += stuk.utf8_string() + "\n"; });
+    loopRegelsAf(regels, [&filter](std::string_view regel) {
+        filter.regel(wxString::FromUTF8(regel.data(), regel.size() - 1));
+    });
+    return resultaat;
+}
+
+std::string knipTekst(std::string_view tekst, const kern::KnipTeksten& teksten) {
+    std::string resultaat;
+    Filter filter(teksten, "\n", [&resultaat](const wxString& stuk) { resultaat += stuk.utf8_string(); });
+    loopRegelsAf(tekst, [&filter](std::string_view regel) {
+        filter.regel(wxString::FromUTF8(regel.data(), regel.size()));
+    });
     return resultaat;
 }
 
 bool laatBytesVerdwijnen(std::string_view inhoud) {
+    if (inhoud.starts_with("\xFF\xFE\0\0"sv) || inhoud.starts_with("\0\0\xFE\xFF"sv)) {
+        return !isGaveBredeTekst(inhoud, 4, inhoud.starts_with('\0'));
+    }
+    if (inhoud.starts_with("\xFF\xFE"sv) || inhoud.starts_with("\xFE\xFF"sv)) {
+        return !isGaveBredeTekst(inhoud, 2, inhoud.starts_with('\xFE'));
+    }
     const bool merkteken = inhoud.substr(0, 3) == "\xEF\xBB\xBF";
     bool latijn1 = false;
     std::size_t plek = merkteken ? 3 : 0;

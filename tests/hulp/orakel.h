@@ -15,6 +15,13 @@ namespace orakel {
 /// Alleen voor invoer waarop de stromen van de toolkit ophouden.
 std::string knipBestand(const std::filesystem::path& bron, const kern::KnipTeksten& teksten);
 
+/// Hetzelfde met de inhoud van het bestand in het geheugen. Gooit std::runtime_error als de stromen van de
+/// toolkit erop blijken niet op te houden.
+std::string knipInhoud(std::string_view inhoud, const kern::KnipTeksten& teksten);
+
+/// De bestandsvariant op regels die al gelezen zijn, in UTF-8 en elk gesloten door "\n".
+std::string knipRegels(std::string_view regels, const kern::KnipTeksten& teksten);
+
 /// De editorvariant op een tekst met "\n" als regeleinde: maskers "*" + marker + "*\n".
 std::string knipTekst(std::string_view tekst, const kern::KnipTeksten& teksten);
 
