@@ -65,6 +65,7 @@ DISPLAY=":$(cat "$werk/nummer")"
 export DISPLAY
 openbox >/dev/null 2>&1 &
 processen+=($!)
+wacht_op "de vensterbeheerder start niet" xdotool get_num_desktops
 # Het pad mag alles bevatten, maar het toetsenbord van het beeldscherm niet; een kopie heeft een eenvoudig pad.
 cp "$origineel" "$werk/ringbuffer.c"
 "$programma" &

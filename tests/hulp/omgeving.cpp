@@ -98,6 +98,8 @@ Omgeving::Omgeving(bool metVensterbeheer) {
     if (metVensterbeheer) {
         bedienden_.push_back(std::make_unique<Kindproces>(std::vector<std::string>{"openbox"},
                                                           map_ / "openbox.log", map_ / "openbox.log"));
+        // Een venster dat er eerder is dan zijn beheerder, krijgt de toetsen niet.
+        wachtTot([] { return std::system("xdotool get_num_desktops >/dev/null 2>&1") == 0; });
     }
 }
 
