@@ -7,7 +7,7 @@ namespace {
 
 class GrafiekTekstTest : public GrafiekTest {
   protected:
-    using Schrijf = void (GrafiekVenster::*)(const wxString&, const wxPoint&);
+    enum class Soort { normaal, groot };
 
     /// Of elk beeldpunt op de rechte tussen wit en deze kleur ligt, en de kleur zelf voorkomt.
     static void verwachtKleur(const Beeld& beeld, const wxColour& kleur) {
@@ -29,16 +29,20 @@ class GrafiekTekstTest : public GrafiekTest {
     }
 
     /// Schrijft een letter en geeft het gebied dat hij inneemt.
-    wxRect schrijf(Schrijf hoe, const wxString& tekst, const wxPoint& plaats) {
+    wxRect schrijf(Soort soort, const wxString& tekst, const wxPoint& plaats) {
         paneel_->maakSchoon();
-        (paneel_->*hoe)(tekst, plaats);
+        if (soort == Soort::groot) {
+            paneel_->zetGroteText(tekst, plaats);
+        } else {
+            paneel_->zetNormaleText(tekst, plaats);
+        }
         return beeld().gebied();
     }
 
     /// De letter hoort met de linkerbovenhoek van zijn vak op het punt te staan. Hoeveel lucht er in dat vak
     /// zit is aan de letter, dus ook de maat van het vak wordt aan de tekencontext gevraagd.
-    void verwachtPlaats(Schrijf hoe, const wxFont& font, const wxPoint& plaats) {
-        const wxRect gebied = schrijf(hoe, "H", plaats);
+    void verwachtPlaats(Soort soort, const wxFont& font, const wxPoint& plaats) {
+        const wxRect gebied = schrijf(soort, "H", plaats);
         const wxPoint hoek = paneel_->transCoord(plaats);
         const wxSize vak = wxSize(lid(&GrafiekInzage::tekeningDC).GetTextExtent("H"));
         EXPECT_EQ(font, lid(&GrafiekInzage::tekeningDC).GetFont());
@@ -65,31 +69,31 @@ TEST_F(GrafiekTekstTest, SchrijftGroteTekstInCyaan) {
 }
 
 TEST_F(GrafiekTekstTest, ZetTekstMetZijnHoekOpHetPunt) {
-    verwachtPlaats(&GrafiekVenster::zetNormaleText, lid(&GrafiekInzage::normaleFont), wxPoint(100, 300));
-    verwachtPlaats(&GrafiekVenster::zetGroteText, lid(&GrafiekInzage::groteFont), wxPoint(100, 300));
+    verwachtPlaats(Soort::normaal, lid(&GrafiekInzage::normaleFont), wxPoint(100, 300));
+    verwachtPlaats(Soort::groot, lid(&GrafiekInzage::groteFont), wxPoint(100, 300));
     paneel_->zetOorsprongMidden();
-    verwachtPlaats(&GrafiekVenster::zetNormaleText, lid(&GrafiekInzage::normaleFont), wxPoint(-70, 20));
-    verwachtPlaats(&GrafiekVenster::zetGroteText, lid(&GrafiekInzage::groteFont), wxPoint(-70, 150));
+    verwachtPlaats(Soort::normaal, lid(&GrafiekInzage::normaleFont), wxPoint(-70, 20));
+    verwachtPlaats(Soort::groot, lid(&GrafiekInzage::groteFont), wxPoint(-70, 150));
 }
 
 TEST_F(GrafiekTekstTest, VerplaatstTekstMetHetPuntMee) {
-    for (const Schrijf hoe : {&GrafiekVenster::zetNormaleText, &GrafiekVenster::zetGroteText}) {
-        wxRect gebied = schrijf(hoe, "H", wxPoint(100, 300));
+    for (const Soort soort : {Soort::normaal, Soort::groot}) {
+        wxRect gebied = schrijf(soort, "H", wxPoint(100, 300));
         gebied.Offset(50, -30);
-        EXPECT_EQ(gebied, schrijf(hoe, "H", wxPoint(150, 330)));
+        EXPECT_EQ(gebied, schrijf(soort, "H", wxPoint(150, 330)));
     }
 }
 
 TEST_F(GrafiekTekstTest, SchrijftGrootVijfmaalZoGroot) {
-    const wxRect normaal = schrijf(&GrafiekVenster::zetNormaleText, "H", wxPoint(100, 300));
-    const wxRect groot = schrijf(&GrafiekVenster::zetGroteText, "H", wxPoint(100, 300));
+    const wxRect normaal = schrijf(Soort::normaal, "H", wxPoint(100, 300));
+    const wxRect groot = schrijf(Soort::groot, "H", wxPoint(100, 300));
     EXPECT_NEAR(5.0, static_cast<double>(groot.height) / normaal.height, 0.3);
 }
 
 TEST_F(GrafiekTekstTest, WisseltLetterEnKleurPerTekst) {
-    const wxRect eerst = schrijf(&GrafiekVenster::zetNormaleText, "H", wxPoint(100, 300));
-    schrijf(&GrafiekVenster::zetGroteText, "H", wxPoint(100, 300));
-    EXPECT_EQ(eerst, schrijf(&GrafiekVenster::zetNormaleText, "H", wxPoint(100, 300)));
+    const wxRect eerst = schrijf(Soort::normaal, "H", wxPoint(100, 300));
+    schrijf(Soort::groot, "H", wxPoint(100, 300));
+    EXPECT_EQ(eerst, schrijf(Soort::normaal, "H", wxPoint(100, 300)));
     verwachtKleur(beeld(), wxColour(0, 0, 255));
     paneel_->zetNormaleText("", wxPoint(0, 100));
     EXPECT_EQ(eerst, beeld().gebied()) << "een lege tekst tekent niets";

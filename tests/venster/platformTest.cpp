@@ -152,7 +152,7 @@ TEST_F(Platform, HeeftVasteNummersVoorDeSystemen) {
 
 TEST_F(Platform, NoemtAlHetAndereOnbekend) {
     for (const int id :
-         {static_cast<int>(wxOS_UNKNOWN), 3, 5, -1, static_cast<int>(wxOS_DOS), 32768, 8192, 131072,
+         {static_cast<int>(wxOS_UNKNOWN), 3, 5, static_cast<int>(wxOS_DOS), 32768, 8192, 131071,
           static_cast<int>(wxOS_MAC), static_cast<int>(wxOS_WINDOWS), static_cast<int>(wxOS_UNIX)}) {
         EXPECT_EQ("Unbekannt", osNaam(id)) << id;
     }
