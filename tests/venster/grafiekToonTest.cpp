@@ -191,9 +191,8 @@ TEST_F(GrafiekToonTest, ToontDeGrootteVanLayout) {
     // Wat Layout het laatst gezien heeft, bepaalt het doel; hier een kleiner stuk van het paneel.
     lid(&GrafiekInzage::clientGrootte) = wxSize(120, 50);
     paneel_->Refresh();
-    EXPECT_TRUE(laatLopenTot([this] {
-        return telVerkeerd(Beeld(scherm().image().GetSubImage(wxRect(0, 0, 120, 50)))) == 0;
-    }));
+    EXPECT_TRUE(laatLopenTot(
+        [this] { return telVerkeerd(Beeld(scherm().image().GetSubImage(wxRect(0, 0, 120, 50)))) == 0; }));
     paneel_->Layout();
     paneel_->Refresh();
     EXPECT_TRUE(laatLopenTot([this] { return telVerkeerd(scherm()) == 0; }));
