@@ -173,14 +173,22 @@ ssize_t write(int bestand, const void* bytes, size_t aantal) {
     return verplaats<ssize_t(int, const void*, size_t)>("write", bestand, bytes, aantal);
 }
 
-/// Ook een close die een fout geeft, sluit: zo doet het systeem het.
+/// Ook een close die een fout geeft, sluit: zo doet het systeem het. Wat er geschreven was is dan verloren,
+/// zoals op een schijf elders die pas bij het sluiten meldt dat zij vol is.
 int close(int bestand) {
     const bool gevolgd = isGevolgd(bestand);
     if (gevolgd) {
         stand.gevolgd[static_cast<std::size_t>(bestand)] = false;
     }
-    const int uitslag = zoek<int(int)>("close")(bestand);
-    return moetMislukken(gevolgd, "close") ? -1 : uitslag;
+    const auto echt = zoek<int(int)>("close");
+    if (!moetMislukken(gevolgd, "close")) {
+        return echt(bestand);
+    }
+    // Een bestand dat alleen gelezen werd laat zich niet legen.
+    zoek<int(int, off_t)>("ftruncate")(bestand, 0);
+    echt(bestand);
+    errno = stand.fout;
+    return -1;
 }
 
 int ftruncate(int bestand, off_t lengte) noexcept {
