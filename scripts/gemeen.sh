@@ -1,4 +1,4 @@
-# Wat start.sh en test.sh delen. Wordt ingelezen, niet uitgevoerd; de aanroeper zet eerst "hoofdmap".
+# Wat de scripts die bouwen delen. Wordt ingelezen, niet uitgevoerd; de aanroeper zet eerst "hoofdmap".
 
 # Stopt met één duidelijke regel.
 stop() {

@@ -1,0 +1,18 @@
+#include "tests/fuzz/velden.h"
+
+#include <algorithm>
+
+namespace fuzz {
+
+std::string_view neemVeld(std::string_view& invoer) {
+    const std::string_view veld = invoer.substr(0, invoer.find('\0'));
+    invoer.remove_prefix(std::min(veld.size() + 1, invoer.size()));
+    return veld;
+}
+
+wxString alsTekst(std::string_view bytes) {
+    const wxString tekst = wxString::FromUTF8(bytes.data(), bytes.size());
+    return tekst.utf8_string().empty() ? wxString(bytes.data(), wxConvISO8859_1, bytes.size()) : tekst;
+}
+
+}  // namespace fuzz
