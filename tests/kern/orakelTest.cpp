@@ -121,6 +121,27 @@ class Vergelijker {
     hulp::TijdelijkeMap map_;
 };
 
+/// Een gemaakte tekst in UTF-16 of UTF-32, met merkteken.
+std::string maakBredeTekst(Maker& maker) {
+    // Niet met een NUL voorop: FF FE 00 00 is het merkteken van UTF-32.
+    const wxString tekst = "v" + wxString::FromUTF8(maker.maakTekst(30));
+    const auto zetOm = [&tekst](const wxMBConv& omzetter, const std::string& merkteken) {
+        std::size_t lengte = 0;
+        const wxCharBuffer bytes = omzetter.cWC2MB(tekst.wc_str(), tekst.length(), &lengte);
+        return merkteken + std::string(bytes.data(), lengte);
+    };
+    switch (maker.kies(4)) {
+        case 0:
+            return zetOm(wxMBConvUTF16LE(), "\xFF\xFE"s);
+        case 1:
+            return zetOm(wxMBConvUTF16BE(), "\xFE\xFF"s);
+        case 2:
+            return zetOm(wxMBConvUTF32LE(), "\xFF\xFE\0\0"s);
+        default:
+            return zetOm(wxMBConvUTF32BE(), "\0\0\xFE\xFF"s);
+    }
+}
+
 }  // namespace
 
 TEST(Orakel, KniptGeldigeBestandenGelijk) {
@@ -167,30 +188,20 @@ TEST(Orakel, KniptBredeBestandenGelijk) {
     Maker maker(3);
     Vergelijker vergelijker;
     for (int i = 0; i < 1500 && !HasFailure(); ++i) {
-        // Niet met een NUL voorop: FF FE 00 00 is het merkteken van UTF-32.
-        const wxString tekst = "v" + wxString::FromUTF8(maker.maakTekst(30));
-        std::string inhoud;
-        const auto voegToe = [&inhoud](const wxMBConv& omzetter, const std::string& merkteken,
-                                       const wxString& van) {
-            std::size_t lengte = 0;
-            const wxCharBuffer bytes = omzetter.cWC2MB(van.wc_str(), van.length(), &lengte);
-            inhoud = merkteken + std::string(bytes.data(), lengte);
-        };
-        switch (maker.kies(4)) {
-            case 0:
-                voegToe(wxMBConvUTF16LE(), "\xFF\xFE"s, tekst);
-                break;
-            case 1:
-                voegToe(wxMBConvUTF16BE(), "\xFE\xFF"s, tekst);
-                break;
-            case 2:
-                voegToe(wxMBConvUTF32LE(), "\xFF\xFE\0\0"s, tekst);
-                break;
-            default:
-                voegToe(wxMBConvUTF32BE(), "\0\0\xFE\xFF"s, tekst);
-        }
-        vergelijker.vergelijk(inhoud, maker.maakTeksten());
+        EXPECT_TRUE(vergelijker.vergelijk(maakBredeTekst(maker), maker.maakTeksten()));
     }
+}
+
+TEST(Orakel, KniptBeschadigdeBredeBestandenGelijk) {
+    Maker maker(6);
+    Vergelijker vergelijker;
+    int vergeleken = 0;
+    for (int i = 0; i < 1500 && !HasFailure(); ++i) {
+        std::string inhoud = maakBredeTekst(maker);
+        maker.beschadig(inhoud);
+        vergeleken += vergelijker.vergelijk(inhoud, maker.maakTeksten()) ? 1 : 0;
+    }
+    EXPECT_GT(vergeleken, 750);
 }
 
 TEST(Orakel, KniptGroteBestandenGelijk) {
