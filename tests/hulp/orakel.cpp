@@ -4,10 +4,12 @@
 #include <wx/txtstrm.h>
 #include <wx/wfstream.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <stdexcept>
 
+using namespace std::string_literals;
 using namespace std::string_view_literals;
 
 namespace orakel {
@@ -78,21 +80,71 @@ void loopRegelsAf(std::string_view tekst, const std::function<void(std::string_v
     }
 }
 
-/// Of een tekst uit hele, leesbare tekens van UTF-16 of UTF-32 bestaat.
-bool isGaveBredeTekst(std::string_view inhoud, std::size_t breedte, bool grootEerst) {
-    bool verwachtLaag = false;
-    for (; inhoud.size() >= breedte; inhoud.remove_prefix(breedte)) {
+/// De breedte van een eenheid als een tekst met een merkteken van UTF-16 of UTF-32 begint, anders 0.
+std::size_t geefBreedte(std::string_view inhoud) {
+    if (inhoud.starts_with("\xFF\xFE\0\0"sv) || inhoud.starts_with("\0\0\xFE\xFF"sv)) {
+        return 4;
+    }
+    return inhoud.starts_with("\xFF\xFE"sv) || inhoud.starts_with("\xFE\xFF"sv) ? 2 : 0;
+}
+
+/// Vervangt in een brede tekst wat geen heel, leesbaar teken is door U+FFFD.
+std::string herstelBreed(std::string_view inhoud, std::size_t breedte) {
+    const bool grootEerst = !inhoud.starts_with('\xFF');
+    const auto leesEenheid = [&](std::size_t plek) {
         std::uint32_t waarde = 0;
         for (std::size_t i = 0; i < breedte; ++i) {
-            waarde = waarde * 256 + static_cast<unsigned char>(inhoud[grootEerst ? i : breedte - 1 - i]);
+            const std::size_t byte = plek + (grootEerst ? i : breedte - 1 - i);
+            waarde = waarde * 256 + static_cast<unsigned char>(inhoud[byte]);
         }
-        const bool laag = breedte == 2 && waarde >= 0xDC00 && waarde <= 0xDFFF;
-        if (waarde > 0x10FFFF || laag != verwachtLaag) {
-            return false;
-        }
-        verwachtLaag = breedte == 2 && waarde >= 0xD800 && waarde <= 0xDBFF;
+        return waarde;
+    };
+    const auto isSurrogaat = [&](std::size_t plek, std::uint32_t soort) {
+        return breedte == 2 && plek + 2 <= inhoud.size() && (leesEenheid(plek) & 0xFC00U) == soort;
+    };
+    std::string vervanging = breedte == 2 ? "\xFF\xFD"s : "\0\0\xFF\xFD"s;
+    if (!grootEerst) {
+        std::reverse(vervanging.begin(), vervanging.end());
     }
-    return inhoud.empty() && !verwachtLaag;
+    std::string gaaf;
+    for (std::size_t plek = 0; plek < inhoud.size();) {
+        const bool paar = isSurrogaat(plek, 0xD800) && isSurrogaat(plek + 2, 0xDC00);
+        const bool los = !paar && (isSurrogaat(plek, 0xD800) || isSurrogaat(plek, 0xDC00));
+        const bool heel = plek + breedte <= inhoud.size();
+        const std::size_t lengte = paar ? 4 : breedte;
+        gaaf += heel && !los && leesEenheid(plek) <= 0x10FFFF ? inhoud.substr(plek, lengte) : vervanging;
+        plek += lengte;
+    }
+    return gaaf;
+}
+
+/// De plaats vanwaar de stromen van een tekst die niet breed is bytes laten verdwijnen; npos als ze alles
+/// lezen.
+std::size_t vindVerlies(std::string_view inhoud) {
+    const bool merkteken = inhoud.starts_with("\xEF\xBB\xBF");
+    std::size_t plek = merkteken ? 3 : 0;
+    while (plek < inhoud.size()) {
+        const auto eerste = static_cast<unsigned char>(inhoud[plek]);
+        const std::size_t lengte = eerste < 0x80                     ? 1
+                                   : eerste >= 0xC2 && eerste < 0xE0 ? 2
+                                   : eerste >= 0xE0 && eerste < 0xF0 ? 3
+                                   : eerste >= 0xF0 && eerste < 0xF5 ? 4
+                                                                     : 0;
+        bool geldig = lengte > 0 && plek + lengte <= inhoud.size();
+        for (std::size_t i = 1; geldig && i < lengte; ++i) {
+            geldig = (static_cast<unsigned char>(inhoud[plek + i]) & 0xC0U) == 0x80U;
+        }
+        if (geldig && eerste == 0xF4 && static_cast<unsigned char>(inhoud[plek + 1]) > 0x8F) {
+            return plek;  // voorbij U+10FFFF raakt de uitvoerstroom de hele regel kwijt
+        }
+        if (!geldig) {
+            // De toolkit wacht op vier bytes voor zij op ISO 8859-1 overgaat; zijn die er niet meer, dan
+            // verdwijnt de rest. Na een UTF-8-merkteken gaat zij nooit over.
+            return merkteken || inhoud.size() - plek < 4 ? plek : std::string_view::npos;
+        }
+        plek += lengte;
+    }
+    return std::string_view::npos;
 }
 
 }  // namespace
@@ -126,38 +178,13 @@ std::string knipTekst(std::string_view tekst, const kern::KnipTeksten& teksten) 
     return resultaat;
 }
 
-bool laatBytesVerdwijnen(std::string_view inhoud) {
-    if (inhoud.starts_with("\xFF\xFE\0\0"sv) || inhoud.starts_with("\0\0\xFE\xFF"sv)) {
-        return !isGaveBredeTekst(inhoud, 4, inhoud.starts_with('\0'));
+std::string herstel(std::string_view inhoud) {
+    if (const std::size_t breedte = geefBreedte(inhoud); breedte > 0) {
+        return herstelBreed(inhoud, breedte);
     }
-    if (inhoud.starts_with("\xFF\xFE"sv) || inhoud.starts_with("\xFE\xFF"sv)) {
-        return !isGaveBredeTekst(inhoud, 2, inhoud.starts_with('\xFE'));
-    }
-    const bool merkteken = inhoud.substr(0, 3) == "\xEF\xBB\xBF";
-    bool latijn1 = false;
-    std::size_t plek = merkteken ? 3 : 0;
-    while (plek < inhoud.size() && !latijn1) {
-        const auto eerste = static_cast<unsigned char>(inhoud[plek]);
-        const std::size_t lengte = eerste < 0x80                     ? 1
-                                   : eerste >= 0xC2 && eerste < 0xE0 ? 2
-                                   : eerste >= 0xE0 && eerste < 0xF0 ? 3
-                                   : eerste >= 0xF0 && eerste < 0xF5 ? 4
-                                                                     : 0;
-        bool geldig = lengte > 0 && plek + lengte <= inhoud.size();
-        for (std::size_t i = 1; geldig && i < lengte; ++i) {
-            geldig = (static_cast<unsigned char>(inhoud[plek + i]) & 0xC0U) == 0x80U;
-        }
-        if (geldig && eerste == 0xF4 && static_cast<unsigned char>(inhoud[plek + 1]) > 0x8F) {
-            return true;  // voorbij U+10FFFF raakt de uitvoerstroom de hele regel kwijt
-        }
-        if (!geldig) {
-            // De toolkit wacht op vier bytes voor zij op ISO 8859-1 overgaat; zijn die er niet meer, dan
-            // verdwijnt de rest. Na een UTF-8-merkteken gaat zij nooit over.
-            return merkteken || inhoud.size() - plek < 4;
-        }
-        plek += lengte;
-    }
-    return false;
+    const std::size_t verlies = std::min(vindVerlies(inhoud), inhoud.size());
+    const wxString rest(inhoud.data() + verlies, wxConvISO8859_1, inhoud.size() - verlies);
+    return std::string(inhoud.substr(0, verlies)) + rest.utf8_string();
 }
 
 }  // namespace orakel

@@ -12,7 +12,7 @@
 namespace orakel {
 
 /// De bestandsvariant: tekststromen met wxConvAuto over bestandsstromen, maskers "*" + marker + "*".
-/// Alleen voor invoer waarop de stromen van de toolkit ophouden.
+/// Alleen voor inhoud die herstel ongewijzigd laat.
 std::string knipBestand(const std::filesystem::path& bron, const kern::KnipTeksten& teksten);
 
 /// Hetzelfde met de inhoud van het bestand in het geheugen. Gooit std::runtime_error als de stromen van de
@@ -25,8 +25,9 @@ std::string knipRegels(std::string_view regels, const kern::KnipTeksten& teksten
 /// De editorvariant op een tekst met "\n" als regeleinde: maskers "*" + marker + "*\n".
 std::string knipTekst(std::string_view tekst, const kern::KnipTeksten& teksten);
 
-/// Of een bestand bytes bevat die de stromen laten verdwijnen of waarop ze niet ophouden; daar wijkt de
-/// kern met opzet af en zegt het orakel niets.
-bool laatBytesVerdwijnen(std::string_view inhoud);
+/// De inhoud van een bestand zonder de bytes die de stromen laten verdwijnen of waarop ze niet ophouden.
+/// Daar staan de tekens die de kern er met opzet van maakt: U+FFFD in UTF-16 en UTF-32, en anders alles vanaf
+/// de eerste zulke byte als ISO 8859-1. Elk ander bestand komt ongewijzigd terug.
+std::string herstel(std::string_view inhoud);
 
 }  // namespace orakel

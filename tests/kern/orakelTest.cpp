@@ -99,22 +99,18 @@ std::string toonVerschil(const std::string& verwacht, const std::string& gekrege
 
 class Vergelijker {
   public:
-    /// Houdt de bestandsvariant tegen het orakel. False als het orakel over deze inhoud niets zegt.
-    bool vergelijk(const std::string& inhoud, const kern::KnipTeksten& teksten) {
-        if (orakel::laatBytesVerdwijnen(inhoud)) {
-            return false;
-        }
+    /// Houdt de bestandsvariant tegen het orakel.
+    void vergelijk(const std::string& inhoud, const kern::KnipTeksten& teksten) {
         hulp::schrijfBestand(map_ / "in", inhoud);
         const auto uitslag = kern::knipBestand(wxFileName((map_ / "in").string()),
                                                wxFileName((map_ / "uit").string()), teksten);
         EXPECT_TRUE(uitslag.isGelukt());
         const wxLogNull stil;
-        const std::string verwacht = orakel::knipBestand(map_ / "in", teksten);
+        const std::string verwacht = orakel::knipInhoud(orakel::herstel(inhoud), teksten);
         const std::string gekregen = hulp::leesBestand(map_ / "uit");
         EXPECT_TRUE(verwacht == gekregen) << toonVerschil(verwacht, gekregen) << "\ninhoud "
                                           << hulp::toonBytes(inhoud.substr(0, 500)) << "\n"
                                           << toon(teksten);
-        return true;
     }
 
   private:
@@ -152,6 +148,7 @@ TEST(Orakel, KniptGeldigeBestandenGelijk) {
         if (maker.kies(4) == 0) {
             inhoud.insert(0, "\xEF\xBB\xBF");
         }
+        EXPECT_EQ(inhoud, orakel::herstel(inhoud));
         vergelijker.vergelijk(inhoud, maker.maakTeksten());
     }
 }
@@ -159,13 +156,11 @@ TEST(Orakel, KniptGeldigeBestandenGelijk) {
 TEST(Orakel, KniptBeschadigdeBestandenGelijk) {
     Maker maker(2);
     Vergelijker vergelijker;
-    int vergeleken = 0;
     for (int i = 0; i < 4000 && !HasFailure(); ++i) {
         std::string inhoud = maker.maakTekst(40);
         maker.beschadig(inhoud);
-        vergeleken += vergelijker.vergelijk(inhoud, maker.maakTeksten()) ? 1 : 0;
+        vergelijker.vergelijk(inhoud, maker.maakTeksten());
     }
-    EXPECT_GT(vergeleken, 3000);
 }
 
 // Elke eerste byte met elke tweede die ertoe doet, en wat vervolgbytes ervan maken.
@@ -188,20 +183,20 @@ TEST(Orakel, KniptBredeBestandenGelijk) {
     Maker maker(3);
     Vergelijker vergelijker;
     for (int i = 0; i < 1500 && !HasFailure(); ++i) {
-        EXPECT_TRUE(vergelijker.vergelijk(maakBredeTekst(maker), maker.maakTeksten()));
+        const std::string inhoud = maakBredeTekst(maker);
+        EXPECT_EQ(inhoud, orakel::herstel(inhoud));
+        vergelijker.vergelijk(inhoud, maker.maakTeksten());
     }
 }
 
 TEST(Orakel, KniptBeschadigdeBredeBestandenGelijk) {
     Maker maker(6);
     Vergelijker vergelijker;
-    int vergeleken = 0;
     for (int i = 0; i < 1500 && !HasFailure(); ++i) {
         std::string inhoud = maakBredeTekst(maker);
         maker.beschadig(inhoud);
-        vergeleken += vergelijker.vergelijk(inhoud, maker.maakTeksten()) ? 1 : 0;
+        vergelijker.vergelijk(inhoud, maker.maakTeksten());
     }
-    EXPECT_GT(vergeleken, 750);
 }
 
 TEST(Orakel, KniptGroteBestandenGelijk) {
