@@ -12,9 +12,8 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "Knipselaar/kern/batch.h"
-#include "Knipselaar/kern/keuzes.h"
 #include "Knipselaar/kern/parserInstellingen.h"
+#include "tests/hulp/stilleOpdracht.h"
 
 namespace {
 
@@ -23,28 +22,12 @@ wxString leesOf(const char* variabele, const wxString& anders) {
     return waarde == nullptr ? anders : wxString::FromUTF8(waarde);
 }
 
-class StilleOpdracht : public kern::BatchOpdracht {
-  public:
-    explicit StilleOpdracht(kern::KnipTeksten teksten) : teksten_(std::move(teksten)) {}
-
-    bool isGekozen(const wxFileName& bestand) override { return kern::isBestandGekozen(bestand.GetExt(), 0); }
-    kern::KnipUitslag knip(const wxFileName& bron, const wxFileName& bestemming) override {
-        return kern::knipBestand(bron, bestemming, teksten_);
-    }
-    void meldOvergeslagen(long /*nummer*/, const wxFileName& /*bestand*/) override {}
-    void meldVerwerkt(long /*nummer*/, const wxFileName& /*bron*/,
-                      const wxFileName& /*bestemming*/) override {}
-
-  private:
-    kern::KnipTeksten teksten_;
-};
-
 bool voerUit(std::string_view wat, int aantal, char** paden) {
     const kern::KnipTeksten teksten{leesOf("BEGIN", kern::standaardBeginMarker()),
                                     leesOf("EIND", kern::standaardEindMarker()),
                                     leesOf("VERVANG", kern::standaardVervangtekst())};
     const auto pad = [paden](int i) { return wxString::FromUTF8(paden[i]); };
-    StilleOpdracht opdracht(teksten);
+    hulp::StilleOpdracht opdracht(teksten);
     if (wat == "bestand" && aantal == 2) {
         return kern::knipBestand(wxFileName(pad(0)), wxFileName(pad(1)), teksten).isGelukt();
     }

@@ -11,41 +11,21 @@
 #include <string>
 #include <vector>
 
-#include "Knipselaar/kern/batch.h"
-#include "Knipselaar/kern/keuzes.h"
+#include "tests/hulp/stilleOpdracht.h"
 
 namespace {
-
-class Opdracht : public kern::BatchOpdracht {
-  public:
-    explicit Opdracht(const kern::KnipTeksten& teksten) : teksten_(teksten) {}
-
-    bool isGekozen(const wxFileName& bestand) override {
-        constexpr int bekendeTalen = 0;
-        return kern::isBestandGekozen(bestand.GetExt(), bekendeTalen);
-    }
-    kern::KnipUitslag knip(const wxFileName& bron, const wxFileName& bestemming) override {
-        return kern::knipBestand(bron, bestemming, teksten_);
-    }
-    void meldOvergeslagen(long /*nummer*/, const wxFileName& /*bestand*/) override {}
-    void meldVerwerkt(long /*nummer*/, const wxFileName& /*bron*/,
-                      const wxFileName& /*bestemming*/) override {}
-
-  private:
-    const kern::KnipTeksten& teksten_;
-};
 
 /// Geeft of de opdrachtregel een batch was.
 bool voerUit(const std::vector<wxString>& woorden) {
     if (woorden.size() == 6 && woorden[0] == "vlak") {
         const kern::KnipTeksten teksten{woorden[3], woorden[4], woorden[5]};
-        Opdracht opdracht(teksten);
+        hulp::StilleOpdracht opdracht(teksten);
         kern::knipDirectory(woorden[1], woorden[2], kern::lijstDirectory(woorden[1]), opdracht);
         return true;
     }
     if (woorden.size() == 5 && woorden[0] == "boom") {
         const kern::KnipTeksten teksten{woorden[2], woorden[3], woorden[4]};
-        Opdracht opdracht(teksten);
+        hulp::StilleOpdracht opdracht(teksten);
         kern::knipBoom(woorden[1], kern::lijstBoom(woorden[1]), opdracht);
         return true;
     }
