@@ -110,6 +110,8 @@ class Storing : public testing::Test {
   protected:
     /// Een loop zonder storing moet het knipsel geven; daar worden de andere tegen gehouden.
     void SetUp() override {
+        // LD_PRELOAD is een lijst: een pad met een spatie erin zou als twee gelden.
+        fs::create_symlink(STORING, storing_);
         maakWereld();
         na_ = hulp::leesBoom(wereld_);
     }
@@ -154,6 +156,7 @@ class Storing : public testing::Test {
 
     hulp::TijdelijkeMap map_{fouten::geefSnellePlaats()};
     fs::path wereld_ = map_ / "wereld";
+    fs::path storing_ = map_ / "storing.so";
     hulp::Boom na_;
 
   private:
@@ -177,7 +180,7 @@ class Storing : public testing::Test {
         // Een controle van de compiler wil zelf vooraan staan, maar hoeft dat voor deze aanroepen niet.
         const char* controle = std::getenv("ASAN_OPTIONS");
         fouten::Proces proces(opdracht,
-                              {{"LD_PRELOAD", STORING},
+                              {{"LD_PRELOAD", storing_},
                                {"STORING", storing.str()},
                                {"TMPDIR", wereld_ / "tijdelijk"},
                                {"ASAN_OPTIONS", std::string(controle == nullptr ? "" : controle) +
