@@ -28,3 +28,5 @@ echo "Keuren: sanitizers"
 bouw sanitizers
 stil "een test faalt onder de sanitizers" als_gebruiker ctest --preset sanitizers --parallel "$((taken + 1))" \
     -L 'kern|venster'
+echo "Keuren: toevallige invoer"
+"$hoofdmap/scripts/fuzz.sh" 60
