@@ -11,7 +11,9 @@ namespace kern {
 
 namespace {
 
-constexpr std::size_t blokGrootte = 256 * 1024;
+// Het eerste blok is klein: de meeste bronbestanden passen erin, en een groot blok klaarleggen kost dan meer
+// dan het hele bestand knippen. Daarna verdubbelt het.
+constexpr std::size_t grootsteBlok = 256 * 1024;
 constexpr std::string_view utf8Merkteken = "\xEF\xBB\xBF";
 
 /// Een of twee NULs zijn het begin van het UTF-32-merkteken. Bestaat de hele tekst daaruit, dan wacht de
@@ -50,10 +52,11 @@ void TekstLezer::vulAan() {
         leesBreed();
         return;
     }
-    if (buffer_.size() < vulling_ + blokGrootte) {
-        buffer_.resize(std::max(2 * buffer_.size(), vulling_ + blokGrootte));
+    if (buffer_.size() < vulling_ + blok_) {
+        buffer_.resize(std::max(2 * buffer_.size(), vulling_ + blok_));
     }
-    const std::size_t gelezen = leesBlok(invoer_, buffer_.data() + vulling_, blokGrootte);
+    const std::size_t gelezen = leesBlok(invoer_, buffer_.data() + vulling_, blok_);
+    blok_ = std::min(2 * blok_, grootsteBlok);
     if (!begonnen_) {
         begonnen_ = true;
         beginTekst(gelezen);
@@ -111,7 +114,7 @@ void TekstLezer::sluitAf() {
 /// Haalt een blok regels bij de tekststroom van de toolkit. Vóór elke regel vragen of het einde bereikt is
 /// bepaalt of er na het laatste regeleinde nog een lege regel komt.
 void TekstLezer::leesBreed() {
-    const std::size_t genoeg = vulling_ + blokGrootte;
+    const std::size_t genoeg = vulling_ + grootsteBlok;
     while (vulling_ < genoeg) {
         if (hersteller_->isUitgeput()) {
             klaar_ = true;

@@ -23,6 +23,9 @@ class BreedHersteller;
 
 class TekstLezer {
   public:
+    /// Bytes in het eerste blok.
+    static constexpr std::size_t eersteBlok = 32 * 1024;
+
     explicit TekstLezer(wxInputStream& invoer);
     TekstLezer(const TekstLezer&) = delete;
     TekstLezer& operator=(const TekstLezer&) = delete;
@@ -45,8 +48,9 @@ class TekstLezer {
 
     wxInputStream& invoer_;
     std::vector<char> buffer_;
-    std::size_t vulling_ = 0;  ///< bytes tekst vooraan in buffer_
-    std::size_t gegeven_ = 0;  ///< bytes daarvan die de aanroeper al heeft
+    std::size_t blok_ = eersteBlok;  ///< bytes die de volgende keer gevraagd worden
+    std::size_t vulling_ = 0;        ///< bytes tekst vooraan in buffer_
+    std::size_t gegeven_ = 0;        ///< bytes daarvan die de aanroeper al heeft
     RegelOmzetter omzetter_;
     std::string omgezet_;
     std::unique_ptr<BreedHersteller> hersteller_;

@@ -207,10 +207,8 @@ def meet_geheugen(werk):
             bestand.write(deel)
 
     def piek(*opdracht):
-        kind = subprocess.Popen(opdracht)
-        _, status, gebruik = os.wait4(kind.pid, 0)
-        assert status == 0
-        return gebruik.ru_maxrss / 1024
+        eigen = dict(OMGEVING, GEHEUGEN="1")
+        return int(subprocess.run(opdracht, env=eigen, capture_output=True, check=True).stdout) / 1024
 
     extra = piek(KNIP, "bestand", str(bron), str(uit)) - piek(KNIP, "niets")
     print(f"| geheugen bij een bestand van 1 GB | **{extra:.1f} MB** | boven de kern in rust | | | 32 MB |", flush=True)

@@ -216,7 +216,7 @@ TEST_P(TekstLezerTabel, GeeftDeRegels) {
 // Waar een blok ophoudt mag niets uitmaken: dezelfde inhoud achter een vulling die elke byte van het geval
 // een keer op de grens van een blok legt.
 TEST_P(TekstLezerGrens, MerktGeenBlokgrens) {
-    constexpr std::size_t blok = 256 * 1024;
+    constexpr std::size_t blok = kern::TekstLezer::eersteBlok;
     const Leesgeval& geval = GetParam();
     for (std::size_t terug = 0; terug <= geval.inhoud.size() + 1; ++terug) {
         const std::string vulling(blok - terug, 'v');
