@@ -110,7 +110,7 @@ void knipBoom(const wxString& boom, const std::vector<wxString>& paden, BatchOpd
         TerPlaatse terPlaatse;
         opdracht.meldVerwerkt(nummer, bestand, bestand);
         if (opdracht.knip(bestand, terPlaatse.geefTijdelijk()).isGelukt() && !echt.empty()) {
-            terPlaatse.vervang(bestand);
+            terPlaatse.vervang(echt);
         }
     }
 }

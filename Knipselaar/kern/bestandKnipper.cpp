@@ -12,21 +12,26 @@ namespace {
 
 constexpr int geenBestand = -1;
 
-/// Geeft alleen een gewoon bestand door; al het andere gaat meteen weer dicht.
-int houdGewoonBestand(int bestand) {
+enum class Inhoud { houden, legen };
+
+/// Geeft alleen een gewoon bestand door, zo nodig geleegd; al het andere gaat meteen weer dicht.
+int houdGewoonBestand(int bestand, Inhoud inhoud) {
     struct stat gegevens {};
-    if (bestand != geenBestand && (fstat(bestand, &gegevens) != 0 || !S_ISREG(gegevens.st_mode))) {
+    const bool gewoon = bestand != geenBestand && fstat(bestand, &gegevens) == 0 && S_ISREG(gegevens.st_mode);
+    const bool goed =
+        gewoon && (inhoud == Inhoud::houden || gegevens.st_size == 0 || ftruncate(bestand, 0) == 0);
+    if (bestand != geenBestand && !goed) {
         close(bestand);
-        return geenBestand;
     }
-    return bestand;
+    return goed ? bestand : geenBestand;
 }
 
 // O_NONBLOCK: op een pijp zonder tegenpartij zou open anders voor altijd wachten. Voor gewone bestanden
 // betekent de vlag niets.
 
 int openBron(const wxFileName& pad) {
-    return houdGewoonBestand(open(pad.GetFullPath().fn_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    return houdGewoonBestand(open(pad.GetFullPath().fn_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC),
+                             Inhoud::houden);
 }
 
 int openDoel(const wxFileName& pad) {
@@ -38,12 +43,7 @@ int openDoel(const wxFileName& pad) {
         // O_EXCL: door een link die nergens heen wijst zou hier elders een bestand ontstaan.
         bestand = open(naam.fn_str(), vlaggen | O_CREAT | O_EXCL, rechten);
     }
-    bestand = houdGewoonBestand(bestand);
-    if (bestand != geenBestand && ftruncate(bestand, 0) != 0) {
-        close(bestand);
-        return geenBestand;
-    }
-    return bestand;
+    return houdGewoonBestand(bestand, Inhoud::legen);
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ std::optional<BreedFormaat> herkenBreedFormaat(std::string_view begin) {
 }
 
 std::size_t leesBlok(wxInputStream& bron, char* bytes, std::size_t aantal) {
-    return bron.GetLastError() == wxSTREAM_READ_ERROR ? 0 : bron.Read(bytes, aantal).LastRead();
+    return bron.GetLastError() == wxSTREAM_NO_ERROR ? bron.Read(bytes, aantal).LastRead() : 0;
 }
 
 BreedHersteller::BreedHersteller(std::string_view begin, wxInputStream& bron, BreedFormaat formaat)

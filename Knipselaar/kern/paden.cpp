@@ -15,7 +15,7 @@ bool isLink(const wxString& pad) {
 bool isZelfdePlaats(const wxString& een, const wxString& ander) {
     struct stat eerste {};
     struct stat tweede {};
-    return een == ander || (stat(een.fn_str(), &eerste) == 0 && stat(ander.fn_str(), &tweede) == 0 &&
+    return een == ander || (stat(ander.fn_str(), &tweede) == 0 && stat(een.fn_str(), &eerste) == 0 &&
                             eerste.st_dev == tweede.st_dev && eerste.st_ino == tweede.st_ino);
 }
 

@@ -10,13 +10,18 @@
 #include <cstdio>
 #include <string>
 
-#include "Knipselaar/kern/paden.h"
-
 namespace kern {
 
 namespace {
 
 constexpr std::size_t blokGrootte = 128 * 1024;
+constexpr mode_t gewoneRechten = 0777;
+constexpr mode_t alleRechten = 07777;
+
+/// Eerst de eigenaar en dan pas de rechten: deze wissel kan rechten afnemen.
+bool neemEigenaarOver(int bestand, const struct stat& van) {
+    return fchown(bestand, van.st_uid, van.st_gid) == 0;
+}
 
 /// Een bestand onder een tijdelijke, verborgen naam naast een ander; verdwijnt als het geen naam krijgt.
 class Buurbestand {
@@ -35,11 +40,10 @@ class Buurbestand {
 
     bool isOpen() const { return bestand_.IsOpened(); }
 
-    /// Neemt eigenaar, groep en rechten over. Een vreemde eigenaar kan alleen root houden; de rechten zijn
-    /// wat de klas nodig heeft. Eerst de eigenaar, want die wissel kan rechten afnemen.
+    /// Een vreemde eigenaar kan alleen root houden; de rechten zijn wat de klas nodig heeft.
     bool neemRechtenOver(const struct stat& van) const {
-        const bool eigenaarGelijk = fchown(bestand_.fd(), van.st_uid, van.st_gid) == 0;
-        const mode_t rechten = van.st_mode & (eigenaarGelijk ? 07777U : 0777U);
+        const bool eigenaarGelijk = neemEigenaarOver(bestand_.fd(), van);
+        const mode_t rechten = van.st_mode & (eigenaarGelijk ? alleRechten : gewoneRechten);
         return fchmod(bestand_.fd(), rechten) == 0;
     }
 
@@ -96,17 +100,32 @@ TerPlaatse::~TerPlaatse() {
     }
 }
 
-bool TerPlaatse::vervang(const wxFileName& bestand) const {
+bool TerPlaatse::vervang(const std::string& echt) {
     const wxLogNull geenMeldingen;
-    const std::string echt = geefEchtPad(bestand.GetFullPath());
-    struct stat gegevens {};
-    if (echt.empty() || stat(echt.c_str(), &gegevens) != 0 || !S_ISREG(gegevens.st_mode)) {
+    struct stat oud {};
+    if (stat(echt.c_str(), &oud) != 0 || !S_ISREG(oud.st_mode)) {
         return false;
     }
-    wxFile bron(tijdelijk_.GetFullPath(), wxFile::read);
+    wxFile knipsel(tijdelijk_.GetFullPath(), wxFile::read);
+    return knipsel.IsOpened() && (hernoem(knipsel.fd(), oud, echt) || kopieer(knipsel, oud, echt));
+}
+
+/// Verhuist het tijdelijke bestand zelf. Dat gaat niet naar een ander bestandssysteem, en wie eigenaar en
+/// groep niet kan overnemen laat ze beter door de directory van de bestemming kiezen.
+bool TerPlaatse::hernoem(int knipsel, const struct stat& oud, const std::string& echt) {
+    struct stat nieuw {};
+    const bool gelukt = fstat(knipsel, &nieuw) == 0 && nieuw.st_dev == oud.st_dev &&
+                        neemEigenaarOver(knipsel, oud) && fchmod(knipsel, oud.st_mode & alleRechten) == 0 &&
+                        rename(tijdelijk_.GetFullPath().fn_str(), echt.c_str()) == 0;
+    if (gelukt) {
+        tijdelijk_.Clear();
+    }
+    return gelukt;
+}
+
+bool TerPlaatse::kopieer(wxFile& knipsel, const struct stat& oud, const std::string& echt) {
     Buurbestand nieuw(echt);
-    return bron.IsOpened() && nieuw.isOpen() && nieuw.kopieer(bron) && nieuw.neemRechtenOver(gegevens) &&
-           nieuw.hernoem(echt);
+    return nieuw.isOpen() && nieuw.kopieer(knipsel) && nieuw.neemRechtenOver(oud) && nieuw.hernoem(echt);
 }
 
 }  // namespace kern

@@ -2,10 +2,16 @@
 
 // Vervangt een bestand door zijn geknipte versie, zo dat het op elk moment heel is: zoals het was, of
 // geknipt. Het knipsel komt eerst in een tijdelijk bestand in de tijdelijke directory van het systeem; is dat
-// gelukt, dan gaat een kopie onder een tijdelijke naam naast het bestand staan, en die krijgt met één
-// hernoeming zijn plaats. Geen van beide tijdelijke bestanden overleeft het object.
+// gelukt, dan krijgt het met één hernoeming zijn plaats. Ligt die op een ander bestandssysteem, dan gaat
+// eerst een kopie onder een tijdelijke naam naast het bestand staan, en wordt die hernoemd. Geen tijdelijk
+// bestand overleeft het object.
 
+#include <sys/stat.h>
 #include <wx/filename.h>
+
+#include <string>
+
+class wxFile;
 
 namespace kern {
 
@@ -19,12 +25,16 @@ class TerPlaatse {
 
     const wxFileName& geefTijdelijk() const { return tijdelijk_; }
 
-    /// Zet de inhoud van het tijdelijke bestand op de plaats van een bestaand gewoon bestand. Rechten,
-    /// eigenaar en groep blijven; een link blijft een link en het bestand erachter wordt vervangen. Geeft
-    /// false, en laat het bestand zoals het was, als er iets niet lukt.
-    bool vervang(const wxFileName& bestand) const;
+    /// Zet de inhoud van het tijdelijke bestand op de plaats van een bestaand gewoon bestand; dat kan één
+    /// keer. Rechten, eigenaar en groep blijven. Geeft false, en laat het bestand zoals het was, als er iets
+    /// niet lukt.
+    /// @param echt  het pad zonder links, zoals geefEchtPad het geeft; dan blijft een link een link.
+    bool vervang(const std::string& echt);
 
   private:
+    bool hernoem(int knipsel, const struct stat& oud, const std::string& echt);
+    static bool kopieer(wxFile& knipsel, const struct stat& oud, const std::string& echt);
+
     wxFileName tijdelijk_;
 };
 

@@ -6,6 +6,9 @@
 // De omgevingsvariabele STORING zegt wat er gebeurt: "AANROEP NUMMER KEREN KORT FOUT DIRECTORY". Vanaf het
 // zoveelste voorkomen gaat het zoveel keren mis. Zonder KORT met errno FOUT, zonder FOUT met hoogstens KORT
 // bytes per keer; met allebei is de eerste keer kort en de rest fout, zoals op een schijf die vol raakt.
+//
+// Met VERWEG in de omgeving doet de directory van TMPDIR alsof zij op een ander bestandssysteem ligt:
+// daarvandaan laat niets zich hernoemen. Dat telt niet als storing.
 
 #include <dirent.h>
 #include <dlfcn.h>
@@ -57,6 +60,12 @@ bool isGevolgd(const char* pad) {
 bool isGevolgd(int bestand) {
     return bestand >= 0 && static_cast<std::size_t>(bestand) < stand.gevolgd.size() &&
            stand.gevolgd[static_cast<std::size_t>(bestand)];
+}
+
+bool isVerweg(const char* pad) {
+    const char* tijdelijk = std::getenv("TMPDIR");
+    return std::getenv("VERWEG") != nullptr && tijdelijk != nullptr && pad != nullptr &&
+           std::string_view(pad).starts_with(tijdelijk);
 }
 
 /// Onthoudt een bestand dat in de directory geopend is.
@@ -215,6 +224,10 @@ int fchown(int bestand, uid_t eigenaar, gid_t groep) noexcept {
 }
 
 int rename(const char* oud, const char* nieuw) noexcept {
+    if (isVerweg(oud)) {
+        errno = EXDEV;
+        return -1;
+    }
     return moetMislukken(isGevolgd(nieuw), "rename")
                ? -1
                : zoek<int(const char*, const char*)>("rename")(oud, nieuw);

@@ -83,7 +83,7 @@ std::vector<Fout> geefFouten() {
         {"read", {EIO, EINTR}},
         {"write", {EIO, ENOSPC, EINTR}},
         {"close", {EIO, ENOSPC, EINTR}},
-        {"rename", {EIO, ENOSPC, EACCES}},
+        {"rename", {EIO, ENOSPC, EACCES, EXDEV}},
         {"ftruncate", {EIO, EINTR}},
         {"fchmod", {EIO, EPERM}},
         {"fchown", {EIO, EPERM}},
@@ -154,9 +154,18 @@ class Storing : public testing::Test {
         EXPECT_LT(100, plaatsen) << "de storingen komen niet aan";
     }
 
+    void stoorBoom() {
+        for (const char* pad :
+             {"boom/a.c", "boom/breed.cpp", "boom/groot.c", "boom/sub/b.c", "boom/sub/diep/teller.vhdl"}) {
+            na_[pad] = knip(pad);
+        }
+        stoorOveral({"boom", wereld_ / "boom"});
+    }
+
     hulp::TijdelijkeMap map_{fouten::geefSnellePlaats()};
     fs::path wereld_ = map_ / "wereld";
     fs::path storing_ = map_ / "storing.so";
+    bool verweg_ = false;  ///< of de tijdelijke directory op een ander bestandssysteem lijkt te liggen
     hulp::Boom na_;
 
   private:
@@ -183,6 +192,7 @@ class Storing : public testing::Test {
                               {{"LD_PRELOAD", storing_},
                                {"STORING", storing.str()},
                                {"TMPDIR", wereld_ / "tijdelijk"},
+                               {verweg_ ? "VERWEG" : "DICHTBIJ", "1"},
                                {"ASAN_OPTIONS", std::string(controle == nullptr ? "" : controle) +
                                                     ":verify_asan_link_order=0"}},
                               map_ / "verslag");
@@ -227,11 +237,12 @@ class Storing : public testing::Test {
 }  // namespace
 
 TEST_F(Storing, LaatInEenBoomElkOrigineelHeel) {
-    for (const char* pad :
-         {"boom/a.c", "boom/breed.cpp", "boom/groot.c", "boom/sub/b.c", "boom/sub/diep/teller.vhdl"}) {
-        na_[pad] = knip(pad);
-    }
-    stoorOveral({"boom", wereld_ / "boom"});
+    stoorBoom();
+}
+
+TEST_F(Storing, LaatInEenBoomElkOrigineelHeelOokMetDeTijdelijkeBestandenElders) {
+    verweg_ = true;
+    stoorBoom();
 }
 
 TEST_F(Storing, LaatBijEenDirectoryElkeBronMetRust) {

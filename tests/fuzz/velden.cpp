@@ -11,8 +11,13 @@ std::string_view neemVeld(std::string_view& invoer) {
 }
 
 wxString alsTekst(std::string_view bytes) {
-    const wxString tekst = wxString::FromUTF8(bytes.data(), bytes.size());
-    return tekst.utf8_string().empty() ? wxString(bytes.data(), wxConvISO8859_1, bytes.size()) : tekst;
+    wxString tekst = wxString::FromUTF8(bytes.data(), bytes.size());
+    if (tekst.utf8_string().empty()) {
+        tekst = wxString(bytes.data(), wxConvISO8859_1, bytes.size());
+    }
+    // Een te lange vorm kan een NUL zijn; die past in geen tekstveld en in geen instelling.
+    tekst.erase(std::remove(tekst.begin(), tekst.end(), L'\0'), tekst.end());
+    return tekst;
 }
 
 }  // namespace fuzz

@@ -13,7 +13,7 @@ namespace fuzz {
 std::string_view neemVeld(std::string_view& invoer);
 
 /// Bytes als tekst. Wat geen UTF-8 is, of waar de toolkit een teken voorbij U+10FFFF in leest, gaat als
-/// ISO 8859-1 mee.
+/// ISO 8859-1 mee; een NUL valt weg.
 wxString alsTekst(std::string_view bytes);
 
 }  // namespace fuzz

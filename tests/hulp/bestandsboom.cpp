@@ -36,4 +36,12 @@ Boom leesBoom(const fs::path& wortel) {
     return boom;
 }
 
+bool isBoom(const fs::path& wortel, const Boom& verwacht) {
+    try {
+        return leesBoom(wortel) == verwacht;
+    } catch (const std::exception&) {
+        return false;  // wat in de lijst stond is al weer weg
+    }
+}
+
 }  // namespace hulp

@@ -18,4 +18,7 @@ void maakBoom(const std::filesystem::path& wortel, const Boom& boom);
 /// Leest alles wat onder de wortel staat, verborgen of niet.
 Boom leesBoom(const std::filesystem::path& wortel);
 
+/// Of een boom er nu zo uitziet. Een programma mag er nog mee bezig zijn.
+bool isBoom(const std::filesystem::path& wortel, const Boom& verwacht);
+
 }  // namespace hulp

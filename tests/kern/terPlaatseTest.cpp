@@ -174,10 +174,10 @@ TEST_F(Veilig, LaatStaanWatNietTeLezenOfTeVervangenIs) {
 
 TEST_F(Veilig, NeemtAlleenEenGewoonBestandAlsPlaats) {
     hulp::maakBoom(boom_, {{"map.c", "/"}});
-    const kern::TerPlaatse terPlaatse;
+    kern::TerPlaatse terPlaatse;
     hulp::schrijfBestand(terPlaatse.geefTijdelijk().GetFullPath().utf8_string(), geknipt);
-    EXPECT_FALSE(terPlaatse.vervang(wxFileName(naarWx(boom_ / "map.c"))));
-    EXPECT_FALSE(terPlaatse.vervang(wxFileName(naarWx(boom_ / "bestaat-niet.c"))));
+    EXPECT_FALSE(terPlaatse.vervang(boom_ / "map.c"));
+    EXPECT_FALSE(terPlaatse.vervang(boom_ / "bestaat-niet.c"));
     EXPECT_EQ((hulp::Boom{{"map.c", "/"}}), hulp::leesBoom(boom_));
 }
 
@@ -187,4 +187,33 @@ TEST_F(Veilig, MaaktHetTijdelijkeBestandInDeTijdelijkeDirectory) {
     EXPECT_EQ(tijdelijk_, pad.parent_path());
     EXPECT_TRUE(pad.filename().string().starts_with("Knipselaar"));
     EXPECT_TRUE(fs::exists(pad));
+}
+
+TEST_F(Veilig, KomtOokTerPlaatseVanEenAnderBestandssysteem) {
+    const Schijf schijf(tijdelijk_);
+    if (!schijf.isEr()) {
+        GTEST_SKIP() << "alleen root kan een bestandssysteem aankoppelen";
+    }
+    hulp::maakBoom(boom_, {{"a.c", origineel}});
+    chmod((boom_ / "a.c").c_str(), 0640);
+    knipBoom();
+    EXPECT_EQ((hulp::Boom{{"a.c", geknipt}}), hulp::leesBoom(boom_));
+    EXPECT_EQ(0640U, static_cast<unsigned>(fs::status(boom_ / "a.c").permissions()));
+    EXPECT_TRUE(fs::is_empty(tijdelijk_));
+}
+
+TEST_F(Veilig, RuimtNietsOpDatIntussenDeTijdelijkeNaamKreeg) {
+    hulp::maakBoom(boom_, {{"a.c", origineel}});
+    std::string tijdelijk;
+    {
+        kern::TerPlaatse terPlaatse;
+        tijdelijk = terPlaatse.geefTijdelijk().GetFullPath().utf8_string();
+        hulp::schrijfBestand(tijdelijk, geknipt);
+        EXPECT_TRUE(terPlaatse.vervang(boom_ / "a.c"));
+        EXPECT_FALSE(fs::exists(tijdelijk));
+        EXPECT_FALSE(terPlaatse.vervang(boom_ / "a.c")) << "het knipsel is al weg";
+        hulp::schrijfBestand(tijdelijk, "van een ander");
+    }
+    EXPECT_EQ("van een ander", hulp::leesBestand(tijdelijk));
+    EXPECT_EQ(geknipt, hulp::leesBestand(boom_ / "a.c"));
 }
