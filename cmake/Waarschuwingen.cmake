@@ -14,3 +14,8 @@ if(KNIPSELAAR_SANITIZERS)
     -fsanitize=${KNIPSELAAR_SANITIZERS} -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_link_options(knipselaar_regels INTERFACE -fsanitize=${KNIPSELAAR_SANITIZERS})
 endif()
+
+if(KNIPSELAAR_DEKKING)
+  target_compile_options(knipselaar_regels INTERFACE -fprofile-instr-generate -fcoverage-mapping)
+  target_link_options(knipselaar_regels INTERFACE -fprofile-instr-generate)
+endif()

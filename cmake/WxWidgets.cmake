@@ -18,3 +18,8 @@ knipselaar_wx_doel(wx_basis base)
 # wel vensters hebben.
 add_library(knipselaar_zonder_venster INTERFACE)
 target_compile_definitions(knipselaar_zonder_venster INTERFACE wxUSE_GUI=0)
+
+# GTK zelf, voor het weinige dat de toolkit er niet van doorgeeft: namen voor schermlezers en, in de tests, het
+# Over-venster.
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(GTK3 REQUIRED IMPORTED_TARGET gtk+-3.0)

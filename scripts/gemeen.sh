@@ -26,13 +26,13 @@ als_gebruiker() {
     fi
 }
 
-# Voert een stap uit; alleen als hij mislukt is te zien wat hij te zeggen had.
+# Voert een stap uit; alleen als hij mislukt is te zien wat hij te zeggen had, zonder de tests die slaagden.
 # $1 is wat er bij een mislukking gemeld wordt, de rest is de opdracht.
 stil() {
     local melding=$1 uitvoer
     shift
     if ! uitvoer=$("$@" 2>&1); then
-        printf '%s\n' "$uitvoer" | tail -n 40 >&2
+        grep -vE '^ *Start +[0-9]+: |^ *[0-9]+/[0-9]+ Test .* Passed ' <<<"$uitvoer" | tail -n 80 >&2
         stop "$melding"
     fi
 }
@@ -76,6 +76,11 @@ bouw() {
 }
 
 # librsvg2-common: zonder kan GTK zijn eigen pictogrammen niet tekenen.
-pakketten_bouw=(g++ cmake ninja-build libwxgtk3.2-dev wx3.2-i18n locales fonts-dejavu-core librsvg2-common)
+pakketten_bouw=(g++ cmake ninja-build libgtk-3-dev libwxgtk3.2-dev pkg-config wx3.2-i18n locales fonts-dejavu-core
+    librsvg2-common)
 pakketten_bediening=(xvfb xdotool openbox imagemagick)
-pakketten_test=("${pakketten_bediening[@]}" libgtest-dev libgtk-3-dev pkg-config librsvg2-bin python3 gcc ghdl)
+pakketten_pakket=(build-essential debhelper git librsvg2-bin pandoc)
+pakketten_keur_pakket=(lintian desktop-file-utils appstream man-db)
+pakketten_test=("${pakketten_bediening[@]}" libgtest-dev libatspi2.0-dev librsvg2-bin python3 gcc ghdl
+    x11-utils at-spi2-core dbus-daemon git patch make man-db)
+pakketten_keur=(git clang clang-format clang-tidy cppcheck libbenchmark-dev libclang-rt-14-dev llvm-14)

@@ -25,6 +25,14 @@ void zetVouwen(wxStyledTextCtrl* editor) {
     editor->SetProperty("fold.compact", "1");
 }
 
+/// De regelnummers zijn zwart, maar hun achtergrond neemt de toolkit uit het thema van de gebruiker.
+void houdRegelnummersLeesbaar(wxStyledTextCtrl* editor) {
+    constexpr double donker = 0.5;
+    if (editor->StyleGetBackground(wxSTC_STYLE_LINENUMBER).GetLuminance() < donker) {
+        editor->StyleSetForeground(wxSTC_STYLE_LINENUMBER, *wxWHITE);
+    }
+}
+
 template <std::size_t aantal>
 void zetKleuren(wxStyledTextCtrl* editor, const std::array<stijl::Stijlkleur, aantal>& kleuren) {
     for (const auto& kleur : kleuren) {
@@ -107,6 +115,7 @@ void ParserVenster::kleurVoorHuidigBestand() {
             case kern::Brontaal::geen:
                 break;
         }
+        houdRegelnummersLeesbaar(editor);
     }
     // Eigenschappen bereiken alleen een lexer die er al is; SetLexer maakt hem pas hierboven.
     for (auto* editor : editors) {

@@ -59,8 +59,17 @@ void ParserVenster::bewerkBestand() {
                                      static_cast<std::size_t>(origineelEditor->GetTextLength()));
     const std::string resultaat = kern::knipTekst(origineel, geefKnipTeksten());
     aangepastEditor->AppendTextRaw(resultaat.data(), static_cast<int>(resultaat.size()));
-    // Het wissen zette het resultaat op zijn eerste regel; het origineel, waar de gebruiker keek, gaat voor.
-    aangepastEditor->ScrollToLine(origineelEditor->GetFirstVisibleLine());
+    volgOrigineel();
+}
+
+/// Zet het nieuwe resultaat op de bovenste regel van het origineel: daar keek de gebruiker.
+void ParserVenster::volgOrigineel() {
+    const int bovenste = origineelEditor->GetFirstVisibleLine();
+    if (bovenste > 0) {
+        // Nieuwe tekst breekt de toolkit pas later af, en dan verschuift alles nog; hiervoor doet zij het nu.
+        aangepastEditor->EnsureVisible(aangepastEditor->GetLineCount() - 1);
+        aangepastEditor->ScrollToLine(bovenste);
+    }
 }
 
 void ParserVenster::bewerkBestand(const wxFileName& bron, const wxFileName& bestemming) {

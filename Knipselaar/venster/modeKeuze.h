@@ -5,9 +5,11 @@
 
 #include <wx/radiobox.h>
 
-class ModeKeuze : public wxRadioBox {
+#include "Knipselaar/venster/toegankelijkheid.h"
+
+class ModeKeuze : public VastLabel<wxRadioBox> {
   public:
-    using wxRadioBox::wxRadioBox;
+    using VastLabel::VastLabel;
 
     /// Selecteert zonder melding; een selectie die niet bestaat laat alles zoals het is.
     void SetSelection(int selectie) override;

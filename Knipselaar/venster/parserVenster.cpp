@@ -18,6 +18,7 @@
 #include "Knipselaar/knipselaar.h"
 #include "Knipselaar/venster/identificaties.h"
 #include "Knipselaar/venster/modeKeuze.h"
+#include "Knipselaar/venster/toegankelijkheid.h"
 #include "Knipselaar/venster/volgEditor.h"
 
 // De toolkit neemt de eerste regel die past. De twee laatste regels voor wxID_ADD en wxID_SAVE doen daarom
@@ -64,16 +65,17 @@ ParserVenster::ParserVenster(wxWindow* parent, int id, const wxString& title, co
     aangepastPad = instellingen.aangepastPad;
 
     paneel = new wxPanel(this, wxID_ANY);
-    eindMarkerBox = new wxStaticBox(paneel, wxID_ANY, wxGetTranslation("Parse einde"));
-    origineelBox = new wxStaticBox(paneel, wxID_ANY, wxGetTranslation("Origineel"));
-    vervangBox = new wxStaticBox(paneel, wxID_ANY, wxGetTranslation("Vervangingstekst"));
-    aangepastBox = new wxStaticBox(paneel, wxID_ANY, wxGetTranslation("Aangepast"));
-    enkelBestandBox = new wxStaticBox(paneel, wxID_ANY, wxGetTranslation("Enkel bestand"));
-    batchBox = new wxStaticBox(paneel, wxID_ANY, wxGetTranslation("Batch operatie"));
-    beginMarkerBox = new wxStaticBox(paneel, wxID_ANY, wxGetTranslation("Parse begin"));
+    eindMarkerBox = new VastLabel<wxStaticBox>(paneel, wxID_ANY, wxGetTranslation("Parse einde"));
+    origineelBox = new VastLabel<wxStaticBox>(paneel, wxID_ANY, wxGetTranslation("Origineel"));
+    vervangBox = new VastLabel<wxStaticBox>(paneel, wxID_ANY, wxGetTranslation("Vervangingstekst"));
+    aangepastBox = new VastLabel<wxStaticBox>(paneel, wxID_ANY, wxGetTranslation("Aangepast"));
+    enkelBestandBox = new VastLabel<wxStaticBox>(paneel, wxID_ANY, wxGetTranslation("Enkel bestand"));
+    batchBox = new VastLabel<wxStaticBox>(paneel, wxID_ANY, wxGetTranslation("Batch operatie"));
+    beginMarkerBox = new VastLabel<wxStaticBox>(paneel, wxID_ANY, wxGetTranslation("Parse begin"));
     maakMenu();
     maakTeksten();
     maakKeuzes();
+    noemVoorSchermlezer();
 
     set_properties();
     do_layout();
@@ -134,10 +136,10 @@ void ParserVenster::maakKeuzes() {
     openKnop = new wxButton(paneel, wxID_OPEN);
     voegToeKnop = new wxButton(paneel, wxID_ADD);
     opslaanKnop = new wxButton(paneel, wxID_SAVE);
-    bronLabel = new wxStaticText(paneel, wxID_ANY, wxGetTranslation("Bron directory"));
+    bronLabel = new VastLabel<wxStaticText>(paneel, wxID_ANY, wxGetTranslation("Bron directory"));
     bronDirKiezer = new wxDirPickerCtrl(paneel, ID_BRONDIR, origineelPad, wxDirSelectorPromptStr,
                                         wxDefaultPosition, wxDefaultSize, kiezerStijl);
-    bestemmingLabel = new wxStaticText(paneel, wxID_ANY, wxGetTranslation("Bestemming directory"));
+    bestemmingLabel = new VastLabel<wxStaticText>(paneel, wxID_ANY, wxGetTranslation("Bestemming directory"));
     bestemmingDirKiezer = new wxDirPickerCtrl(paneel, ID_BESTEMMINGDIR, aangepastPad, wxDirSelectorPromptStr,
                                               wxDefaultPosition, wxDefaultSize, kiezerStijl);
     bestandTypeKeuze = new wxChoice(paneel, ID_BESTANDTYPE, wxDefaultPosition, wxDefaultSize,

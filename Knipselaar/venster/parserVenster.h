@@ -5,7 +5,8 @@
 // komen in de constructor uit de opslag van de toepassing en gaan er in de destructor weer in.
 //
 // De bronnen zijn verdeeld naar taak: parserVenster.cpp (opbouw, levensloop), indeling.cpp (sizers),
-// bestandsOpdrachten.cpp, knipOpdracht.cpp, batchOpdracht.cpp, modus.cpp en kleuring.cpp.
+// toegankelijkheid.cpp, bestandsOpdrachten.cpp, knipOpdracht.cpp, batchOpdracht.cpp, modus.cpp en
+// kleuring.cpp.
 
 #include <wx/filename.h>
 #include <wx/frame.h>
@@ -58,6 +59,7 @@ class ParserVenster : public wxFrame {
     void bewerkBestand();
 
     /// Knipt het ene bestand naar het andere; meldt niets.
+    void volgOrigineel();
     void bewerkBestand(const wxFileName& bron, const wxFileName& bestemming);
 
     /// De algemene opmaak van een editor: marges, vouwtekens, regelterugloop. Wist alle kleuren.
@@ -105,6 +107,7 @@ class ParserVenster : public wxFrame {
     void maakMenu();
     void maakTeksten();
     void maakKeuzes();
+    void noemVoorSchermlezer();
     void zetInstellingen(const kern::ParserInstellingen& instellingen);
     void set_properties();
     void do_layout();

@@ -1,5 +1,7 @@
 // De batches op het gebouwde programma, met de muis in de keuzerondjes en toetsen in de kiezers.
 
+#include <algorithm>
+
 #include "tests/eind/bediening.h"
 #include "tests/hulp/bestandsboom.h"
 
@@ -20,6 +22,14 @@ class Batch : public Bediening {
         fs::create_directory(doel_);
     }
 
+    /// Kiest een modus en wacht tot daarmee een kiezer bruikbaar is.
+    static void kiesModus(int y, int kiezerY) {
+        const std::string tekstveld = "80x16+668+" + std::to_string(kiezerY - 8);
+        wachtOpBeginmodus();
+        klik(60, y);
+        EXPECT_TRUE(hulp::wachtTot([&] { return isBruikbaar(tekstveld); })) << "geen andere modus";
+    }
+
     /// Vult het tekstveld van een kiezer.
     static void vulKiezer(int y, const fs::path& pad) {
         klik(700, y);
@@ -27,13 +37,10 @@ class Batch : public Bediening {
         voerUit({"xdotool", "type", "--delay", "20", pad.string()});
     }
 
-    /// Of een boom er nu zo uitziet. Het programma kan er nog mee bezig zijn.
-    static bool isBoom(const fs::path& wortel, const hulp::Boom& verwacht) {
-        try {
-            return hulp::leesBoom(wortel) == verwacht;
-        } catch (const std::exception&) {
-            return false;
-        }
+    /// Knipt zodra dat kan.
+    static void knip() {
+        EXPECT_TRUE(hulp::wachtTot([] { return isBruikbaar("150x16+205+555"); })) << "knippen kan niet";
+        druk("ctrl+f");
     }
 
     void sluitAf() {
@@ -42,6 +49,8 @@ class Batch : public Bediening {
         EXPECT_EQ("", fouten());
     }
 
+    static constexpr int directoryY = 453;  ///< "Alle bestanden in een directory"
+    static constexpr int boomY = 475;       ///< "Alle bestanden recursief in een directory"
     static constexpr int bronY = 435;
     static constexpr int doelY = 474;
     fs::path bron_ = omgeving_.werk() / "bron";
@@ -53,12 +62,12 @@ class Batch : public Bediening {
 TEST_F(Batch, KniptEenDirectory) {
     hulp::maakBoom(bron_, {{"a.c", origineel}, {"b.vhd", origineel}, {"x.txt", origineel}});
     start();
-    klik(60, 453);  // "Alle bestanden in een directory"
+    kiesModus(directoryY, bronY);
     vulKiezer(bronY, bron_);
     vulKiezer(doelY, doel_);
-    druk("ctrl+f");
+    knip();
     const hulp::Boom verwacht{{"a.c", geknipt}, {"b.vhd", geknipt}};
-    EXPECT_TRUE(hulp::wachtTot([&] { return isBoom(doel_, verwacht); }));
+    EXPECT_TRUE(hulp::wachtTot([&] { return hulp::isBoom(doel_, verwacht); }));
     sluitAf();
     EXPECT_EQ("1", leesSleutel("Configuratie", "Verwerkingkeuze"));
     EXPECT_EQ(bron_, leesSleutel("Configuratie", "OrigineelPad"));
@@ -68,10 +77,10 @@ TEST_F(Batch, KniptEenDirectory) {
 TEST_F(Batch, VraagtBijGelijkeDirectoriesEnSpaartZeBijNee) {
     hulp::maakBoom(bron_, {{"a.c", origineel}});
     start();
-    klik(60, 453);
+    kiesModus(directoryY, bronY);
     vulKiezer(bronY, bron_);
     vulKiezer(doelY, bron_);
-    druk("ctrl+f");
+    knip();
     wachtOpVenster("^Bevestig$");
     druk("alt+n");
     wachtTotWeg("^Bevestig$");
@@ -82,10 +91,10 @@ TEST_F(Batch, VraagtBijGelijkeDirectoriesEnSpaartZeBijNee) {
 
 TEST_F(Batch, MeldtEenLegeDirectory) {
     start();
-    klik(60, 453);
+    kiesModus(directoryY, bronY);
     vulKiezer(bronY, bron_);
     vulKiezer(doelY, doel_);
-    druk("ctrl+f");
+    knip();
     const std::string melding = "^Knipselaar (Fout|Error)$";
     wachtOpVenster(melding);
     druk("Return");
@@ -97,11 +106,11 @@ TEST_F(Batch, MeldtEenLegeDirectory) {
 TEST_F(Batch, KniptEenBoomEnBewaartHetLogboek) {
     hulp::maakBoom(doel_, {{"sub/a.c", origineel}, {"x.txt", origineel}});
     start();
-    klik(60, 475);  // "Alle bestanden recursief in een directory"
+    kiesModus(boomY, doelY);
     vulKiezer(doelY, doel_);
-    druk("ctrl+f");
+    knip();
     const hulp::Boom verwacht{{"sub", "/"}, {"sub/a.c", geknipt}, {"x.txt", origineel}};
-    EXPECT_TRUE(hulp::wachtTot([&] { return isBoom(doel_, verwacht); }));
+    EXPECT_TRUE(hulp::wachtTot([&] { return hulp::isBoom(doel_, verwacht); }));
     wachtOpVenster(hoofdvenster);
     druk("ctrl+s");
     const fs::path log = omgeving_.werk() / "log";

@@ -1,6 +1,8 @@
 #include "tests/eind/bediening.h"
 
+#include <algorithm>
 #include <csignal>
+#include <cstdlib>
 #include <sstream>
 
 namespace fs = std::filesystem;
@@ -15,8 +17,13 @@ Bediening::~Bediening() {
     }
 }
 
+std::string Bediening::programmaPad() {
+    const char* gekozen = std::getenv("KNIPSELAAR_PROGRAMMA");
+    return gekozen == nullptr ? PROGRAMMA : gekozen;
+}
+
 void Bediening::start(const std::vector<std::string>& argumenten) {
-    std::vector<std::string> opdracht{PROGRAMMA};
+    std::vector<std::string> opdracht{programmaPad()};
     opdracht.insert(opdracht.end(), argumenten.begin(), argumenten.end());
     programma_ = std::make_unique<hulp::Kindproces>(opdracht, omgeving_.werk() / "uitvoer",
                                                     omgeving_.werk() / "fouten");
@@ -72,8 +79,27 @@ void Bediening::klik(int x, int y, int knop) {
              std::to_string(knop)});
 }
 
-std::string Bediening::kiekje(const std::string& venster) {
-    return voerUit({"import", "-window", venster, "rgb:-"});
+std::string Bediening::kiekje(const std::string& venster, const std::string& uitsnede) {
+    return voerUit({"import", "-window", venster, "-crop", uitsnede, "-depth", "8", "rgb:-"});
+}
+
+bool Bediening::isBruikbaar(const std::string& uitsnede) {
+    constexpr unsigned char donker = 80;
+    const std::string kleuren = kiekje(wachtOpVenster(hoofdvenster), uitsnede);
+    for (std::size_t i = 0; i + 2 < kleuren.size(); i += 3) {
+        if (std::all_of(&kleuren[i], &kleuren[i] + 3,
+                        [](char deel) { return static_cast<unsigned char>(deel) < donker; })) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void Bediening::wachtOpBeginmodus() {
+    const char* openen = "52x16+320+438";
+    const char* bron = "80x16+668+427";
+    EXPECT_TRUE(hulp::wachtTot([&] { return isBruikbaar(openen) && !isBruikbaar(bron); }))
+        << "geen beginmodus";
 }
 
 int Bediening::wachtOpEinde() {

@@ -24,6 +24,10 @@ class Bediening : public testing::Test {
     Bediening();
     ~Bediening() override;
 
+    /// Het programma dat bediend wordt: dat van deze bouw, of wat KNIPSELAAR_PROGRAMMA noemt (een pad of een
+    /// naam uit PATH), zoals een geïnstalleerd programma.
+    static std::string programmaPad();
+
     /// Start het programma en wacht tot het venster er staat en de toetsen krijgt.
     void start(const std::vector<std::string>& argumenten = {});
 
@@ -44,8 +48,18 @@ class Bediening : public testing::Test {
     /// Klikt op een plaats van het hoofdvenster, in punten vanaf zijn linkerbovenhoek.
     static void klik(int x, int y, int knop = 1);
 
-    /// Een afdruk van een venster als bestand; voor wie wil kijken, en om te zien dat er iets veranderde.
-    static std::string kiekje(const std::string& venster);
+    /// Of er op dit stuk van het hoofdvenster zwarte tekst staat. Wat uitgeschakeld is, is grijs; een venster
+    /// dat nog niet aan de beurt is ook.
+    /// @param uitsnede  als bij kiekje.
+    static bool isBruikbaar(const std::string& uitsnede);
+
+    /// Wacht tot het hoofdvenster "Enkel bestand" toont. Vlak na het starten, voor het programma voor het
+    /// eerst naar de modus kijkt, zijn ook de kiezers nog bruikbaar.
+    static void wachtOpBeginmodus();
+
+    /// De kleuren van een venster, rij na rij drie bytes per punt.
+    /// @param uitsnede  het stuk dat telt, als BREEDTExHOOGTE+LINKS+BOVEN in punten; standaard alles.
+    static std::string kiekje(const std::string& venster, const std::string& uitsnede = "0x0+0+0");
 
     /// Sluit het actieve venster zoals het sluitkruis dat doet, tot een voorwaarde geldt. De vensterbeheerder
     /// mist een toets die komt terwijl hij nog bezig is.

@@ -147,6 +147,7 @@ TEST_F(OverEnStatistiek, LaatVensterEnOpslagZoalsZeWaren) {
     EXPECT_FALSE(vooraf.empty());
     start();
     const std::string venster = wachtOpVenster(hoofdvenster);
+    wachtOpBeginmodus();
     const std::string beeld = kiekjeInRust(venster);
     openOver();
     druk("Escape");

@@ -1,7 +1,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
+#include <cstdlib>
 
 #include "Knipselaar/kern/knipper.h"
 #include "tests/eind/bediening.h"
@@ -156,7 +158,7 @@ TEST_F(Programma, NegeertArgumenten) {
 
 TEST_F(Programma, StartEenTweedeKeerNaastDeEerste) {
     start();
-    hulp::Kindproces tweede({PROGRAMMA}, omgeving_.werk() / "uitvoer2", omgeving_.werk() / "fouten2");
+    hulp::Kindproces tweede({programmaPad()}, omgeving_.werk() / "uitvoer2", omgeving_.werk() / "fouten2");
     ASSERT_TRUE(hulp::wachtTot([] {
         const std::string gevonden = voerUit({"xdotool", "search", "--onlyvisible", "--name", hoofdvenster});
         return std::count(gevonden.begin(), gevonden.end(), '\n') == 2;
@@ -196,7 +198,7 @@ TEST_F(Programma, OverleeftEenOpslagVolOnzin) {
     }
     hulp::schrijfBestand(omgeving_.opslag(), onzin);
     programma_ = std::make_unique<hulp::Kindproces>(
-        std::vector<std::string>{PROGRAMMA}, omgeving_.werk() / "uitvoer", omgeving_.werk() / "fouten");
+        std::vector<std::string>{programmaPad()}, omgeving_.werk() / "uitvoer", omgeving_.werk() / "fouten");
     ASSERT_TRUE(hulp::wachtTot([] { return isZichtbaar(hoofdvenster); }));
     EXPECT_TRUE(sluitTot([this] { return programma_->isAf(); }));
     EXPECT_EQ(0, wachtOpEinde());
@@ -250,6 +252,22 @@ TEST_F(Programma, HoudtEenKlikOpDezelfdeModusVoorNiets) {
     druk("ctrl+s");
     kiesPad(opslaanDialoog, omgeving_.werk() / "uit.c");
     EXPECT_EQ(verwachtKnipsel(hulp::leesBestand(bron)), hulp::leesBestand(omgeving_.werk() / "uit.c"));
+    druk("ctrl+q");
+    verwachtRustigEinde();
+}
+
+TEST_F(Programma, HoudtRegelnummersLeesbaarInEenDonkerThema) {
+    ASSERT_EQ(0, setenv("GTK_THEME", "Adwaita:dark", 1));
+    start();
+    druk("ctrl+o");
+    kiesPad(openDialoog, neemVoorbeeld("ringbuffer.c"));
+    const auto heeftContrast = [] {
+        const std::string marge = kiekje(wachtOpVenster(hoofdvenster), "45x150+10+60");
+        const auto [donkerste, lichtste] = std::minmax_element(
+            marge.begin(), marge.end(), [](unsigned char een, unsigned char ander) { return een < ander; });
+        return static_cast<unsigned char>(*donkerste) < 80 && static_cast<unsigned char>(*lichtste) > 180;
+    };
+    EXPECT_TRUE(hulp::wachtTot(heeftContrast));
     druk("ctrl+q");
     verwachtRustigEinde();
 }

@@ -72,35 +72,54 @@ Omgeving::Omgeving(bool metVensterbeheer) {
     setenv("HOME", thuis().c_str(), 1);
     setenv("TMPDIR", (map_ / "tmp").c_str(), 1);
     setenv("XDG_RUNTIME_DIR", (map_ / "xdg").c_str(), 1);
-    for (const char* variabele : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "WAYLAND_DISPLAY",
-                                  "DBUS_SESSION_BUS_ADDRESS", "SESSION_MANAGER", "GTK_THEME", "LC_ALL"}) {
+    for (const char* variabele :
+         {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS",
+          "AT_SPI_BUS_ADDRESS", "SESSION_MANAGER", "GTK_THEME", "LC_ALL"}) {
         unsetenv(variabele);
     }
     setenv("LANG", "nl_NL.UTF-8", 1);
     setenv("GDK_BACKEND", "x11", 1);
     setenv("GSETTINGS_BACKEND", "memory", 1);  // geen instellingen van het bureaublad
-    setenv("NO_AT_BRIDGE", "1", 1);            // geen bus voor schermlezers: die is er hier niet
+    setenv("NO_AT_BRIDGE", "1", 1);            // zolang er geen bus voor schermlezers is
 
-    const fs::path nummer = map_ / "beeldscherm";
-    bedienden_.push_back(
-        std::make_unique<Kindproces>(std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen", "0",
-                                                              "1280x1024x24", "-nolisten", "tcp", "-noreset"},
-                                     nummer, map_ / "xvfb.log"));
-    const bool gestart =
-        wachtTot([&nummer] { return fs::exists(nummer) && leesBestand(nummer).ends_with('\n'); });
-    if (!gestart) {
-        throw std::runtime_error("de X-server start niet: " + leesBestand(map_ / "xvfb.log"));
-    }
-    std::string beeldscherm = leesBestand(nummer);
-    beeldscherm.pop_back();
-    beeldscherm.insert(0, 1, ':');
-    setenv("DISPLAY", beeldscherm.c_str(), 1);
+    const std::string beeldscherm = startBediende(
+        {"Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"});
+    setenv("DISPLAY", (":" + beeldscherm).c_str(), 1);
     if (metVensterbeheer) {
         bedienden_.push_back(std::make_unique<Kindproces>(std::vector<std::string>{"openbox"},
                                                           map_ / "openbox.log", map_ / "openbox.log"));
         // Een venster dat er eerder is dan zijn beheerder, krijgt de toetsen niet.
         wachtTot([] { return std::system("xdotool get_num_desktops >/dev/null 2>&1") == 0; });
     }
+}
+
+std::string Omgeving::startBediende(const std::vector<std::string>& opdracht) {
+    const fs::path uitvoer = map_ / (opdracht[0] + ".uit");
+    const fs::path fouten = map_ / (opdracht[0] + ".log");
+    bedienden_.push_back(std::make_unique<Kindproces>(opdracht, uitvoer, fouten));
+    if (!wachtTot([&uitvoer] { return fs::exists(uitvoer) && leesBestand(uitvoer).ends_with('\n'); })) {
+        throw std::runtime_error(opdracht[0] + " start niet: " + leesBestand(fouten));
+    }
+    std::string regel = leesBestand(uitvoer);
+    regel.pop_back();
+    return regel;
+}
+
+void Omgeving::startSchermlezerbus() {
+    // Alleen deze ene dienst: wat het bureaublad van de machine verder te bieden heeft, hoort hier niet te
+    // starten.
+    const fs::path diensten = map_ / "diensten";
+    fs::create_directory(diensten);
+    fs::copy("/usr/share/dbus-1/services/org.a11y.Bus.service", diensten);
+    const fs::path instelling = map_ / "bus.conf";
+    schrijfBestand(instelling, "<busconfig><type>session</type><listen>unix:path=" + (map_ / "bus").string() +
+                                   "</listen><servicedir>" + diensten.string() +
+                                   "</servicedir><policy context=\"default\"><allow send_destination=\"*\"/>"
+                                   "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>");
+    const std::string adres =
+        startBediende({"dbus-daemon", "--config-file=" + instelling.string(), "--nofork", "--print-address"});
+    setenv("DBUS_SESSION_BUS_ADDRESS", adres.c_str(), 1);
+    unsetenv("NO_AT_BRIDGE");
 }
 
 // Andersom dan ze gestart zijn: de X-server gaat als laatste weg.

@@ -54,6 +54,10 @@ class Omgeving {
     Omgeving& operator=(const Omgeving&) = delete;
     ~Omgeving();
 
+    /// Start een bus waarop een schermlezer meeluistert, en laat programma's die daarna starten eraan
+    /// meedoen.
+    void startSchermlezerbus();
+
     std::filesystem::path thuis() const { return map_ / "thuis"; }
 
     /// De opslag van het programma in deze thuisdirectory.
@@ -63,6 +67,9 @@ class Omgeving {
     std::filesystem::path werk() const { return map_ / "werk"; }
 
   private:
+    /// Start een hulpproces dat met één regel meldt waar het te vinden is; geeft die regel.
+    std::string startBediende(const std::vector<std::string>& opdracht);
+
     TijdelijkeMap map_;
     std::vector<std::unique_ptr<Kindproces>> bedienden_;
 };

@@ -3,21 +3,14 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
-
 #include "Knipselaar/kern/bestandKnipper.h"
 #include "Knipselaar/kern/parserInstellingen.h"
 #include "tests/hulp/bestanden.h"
+#include "tests/hulp/opdracht.h"
 
 namespace fs = std::filesystem;
 
 namespace {
-
-struct Afloop {
-    int status;
-    std::string uitvoer;
-};
 
 class Voorbeelden : public testing::Test {
   protected:
@@ -30,24 +23,15 @@ class Voorbeelden : public testing::Test {
     }
 
     /// Voert een opdracht uit in de map met voorbeelden.
-    Afloop voerUit(const std::string& opdracht) const {
-        FILE* pijp = popen(("cd '" + map_.pad().string() + "' && " + opdracht + " 2>&1").c_str(), "r");
-        std::string uitvoer;
-        std::array<char, 4096> blok{};
-        std::size_t gelezen = 0;
-        while ((gelezen = fread(blok.data(), 1, blok.size(), pijp)) > 0) {
-            uitvoer.append(blok.data(), gelezen);
-        }
-        return {pclose(pijp), uitvoer};
-    }
+    hulp::Afloop voerUit(const std::string& opdracht) const { return hulp::voerUitIn(map_.pad(), opdracht); }
 
     void verwachtGoed(const std::string& opdracht) const {
-        const Afloop afloop = voerUit(opdracht);
+        const hulp::Afloop afloop = voerUit(opdracht);
         EXPECT_EQ(0, afloop.status) << opdracht << "\n" << afloop.uitvoer;
     }
 
     void verwachtStop(const std::string& opdracht) const {
-        const Afloop afloop = voerUit("LC_ALL=C " + opdracht);
+        const hulp::Afloop afloop = voerUit("LC_ALL=C " + opdracht);
         EXPECT_NE(0, afloop.status);
         EXPECT_NE(std::string::npos, afloop.uitvoer.find("#error \"Dit stuk software ontbreekt.\""))
             << afloop.uitvoer;

@@ -113,6 +113,28 @@ TEST_F(KnipOpdracht, KentNamenDieGeenUtf8Zijn) {
     EXPECT_EQ("V\n\n", hulp::leesBestand(doel));
 }
 
+TEST_F(KnipOpdracht, HoudtDeBovensteRegelOokAlsRegelsAfgebrokenWorden) {
+    std::string tekst;
+    for (int regel = 0; regel < 200; ++regel) {
+        tekst +=
+            "regel " + std::to_string(regel) + std::string(150, ' ') + "met een lange staart van woorden\n";
+    }
+    zetTeksten("regel 190", "regel 195", "WERK");
+    origineel()->SetWrapMode(wxSTC_WRAP_WORD);
+    aangepast()->SetWrapMode(wxSTC_WRAP_WORD);
+    for (auto* editor : {origineel(), aangepast()}) {
+        editor->SetText(tekst);
+        ASSERT_TRUE(laatLopenTot([editor] { return editor->WrapCount(50) > 1; }));
+    }
+    origineel()->ScrollToLine(120);
+    ASSERT_TRUE(laatLopenTot([this] { return aangepast()->GetFirstVisibleLine() == 120; }));
+    geefOpdracht(wxID_REPLACE);
+    ASSERT_TRUE(laatLopenTot([this] { return aangepast()->WrapCount(50) > 1; }));
+    laatLopen();
+    EXPECT_EQ(120, origineel()->GetFirstVisibleLine());
+    EXPECT_EQ(120, aangepast()->GetFirstVisibleLine());
+}
+
 TEST_F(KnipOpdracht, SlaatEerstOpBijAfsluiten) {
     knip("een\n");
     const auto doel = geefOmgeving().werk() / "opgeslagen.c";

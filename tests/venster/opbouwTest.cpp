@@ -304,7 +304,7 @@ TEST_F(Opbouw, HeeftDeSizers) {
         0 ALL 10: voegToeKnop
       0 ALL|EXPAND 10: opslaanKnop
     1 EXPAND 0: kader V batchBox
-      1 EXPAND 0: raster 2x2 5,5
+      1 EXPAND 0: raster 2x2 5,5 kolom groeit
         0 CENTER_VERTICAL 0: bronLabel
         1 EXPAND 10: bronDirKiezer
         0 CENTER_VERTICAL 0: bestemmingLabel

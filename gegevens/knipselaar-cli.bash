@@ -1,0 +1,44 @@
+# Aanvulling van knipselaar-cli in bash.
+
+_knipselaar_cli() {
+    local huidig=${COMP_WORDS[COMP_CWORD]} vorige=${COMP_WORDS[COMP_CWORD - 1]}
+    # Bash maakt van "--keuze=v" drie woorden.
+    [ "$huidig" = = ] && huidig=
+    [ "$vorige" = = ] && vorige=${COMP_WORDS[COMP_CWORD - 2]}
+
+    compopt -o filenames 2>/dev/null
+    case $vorige in
+    -k | --keuze)
+        mapfile -t COMPREPLY < <(compgen -W 'talen vhdl alles' -- "$huidig")
+        return
+        ;;
+    -T | --taal)
+        mapfile -t COMPREPLY < <(compgen -W 'c vhdl overig' -- "$huidig")
+        return
+        ;;
+    -n | --naar)
+        mapfile -t COMPREPLY < <(compgen -d -- "$huidig")
+        return
+        ;;
+    -u | --uit | --markers-uit | --vervang-uit | --vervang-c-uit | --vervang-vhdl-uit | --vervang-overig-uit)
+        mapfile -t COMPREPLY < <(compgen -f -- "$huidig")
+        return
+        ;;
+    -b | --begin | -e | --eind | -v | --vervang | --vervang-c | --vervang-vhdl | --vervang-overig | -m | --masker | \
+        -L | --bewijs-lengte | -J | --taken)
+        COMPREPLY=()
+        return
+        ;;
+    esac
+    if [[ $huidig == -* ]]; then
+        mapfile -t COMPREPLY < <(compgen -W '--uit --naar --ter-plaatse --recursief --overschrijf --keuze --masker
+            --verborgen --versiebeheer --begin --eind --markers-uit --letterlijk --vervang --vervang-uit --vervang-c
+            --vervang-c-uit --vervang-vhdl --vervang-vhdl-uit --vervang-overig --vervang-overig-uit --taal
+            --zonder-instellingen --getrouw --als-venster --inspringen --controle --streng --bewijs --bewijs-lengte
+            --droog --verschil --stil --json --taken --help --versie' -- "$huidig")
+    else
+        mapfile -t COMPREPLY < <(compgen -f -- "$huidig")
+    fi
+}
+
+complete -F _knipselaar_cli knipselaar-cli

@@ -1,0 +1,138 @@
+#!/usr/bin/env bash
+# Bedient het programma als een docent en neemt onderweg de beelden van de handleiding; wordt door
+# maak-beelden.sh in een eigen naamruimte gestart. $1 is het programma, $2 de directory voor de beelden.
+set -euo pipefail
+hoofdmap=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$hoofdmap/scripts/gemeen.sh"
+. "$hoofdmap/scripts/bediening.sh"
+
+programma=$1
+beelden=$2
+voorbeelden="$hoofdmap/voorbeelden"
+venster='^Knipselaar$'
+openen='^Kies een origineel bestand[.]$'
+opslaan='^Sla aangepast bestand op[.]$'
+breedte=1100
+hoogte=774
+# Waar de bediening ligt, gerekend vanaf de onderrand van het venster.
+modus_directory=138
+modus_boom=115
+bron_hoogte=154
+doel_hoogte=115
+
+# De uitwerking waarmee de handleiding begint.
+schrijf_som() { awk '/^```c bron/ { aan = 1; next } /^```/ && aan { exit } aan' "$hoofdmap/handleiding.md"; }
+
+# Richt /home/docent in: lessen met uitwerkingen, klas voor de opgaven en practicum om ter plaatse te knippen.
+richt_in() {
+    mount -t tmpfs docent /home
+    export HOME=/home/docent
+    mkdir -p "$HOME"/{lessen,klas,practicum/{les1,les2}}
+    schrijf_som | tee "$HOME"/{lessen,practicum/les1}/som.c >"$HOME/klas/vorige-week.c"
+    echo 'Lokaal D1.07, neem een usb-kabel mee.' | tee "$HOME"/{lessen,practicum/les2}/aantekening.txt >/dev/null
+    cp "$voorbeelden"/matrix.{cpp,h} "$voorbeelden/teller.vhdl" "$HOME/lessen"
+    cp "$voorbeelden"/matrix.{cpp,h} "$HOME/practicum/les2"
+    find "$HOME" -type f -exec touch -d '2026-09-01 09:00' {} +
+    cat >"$HOME/.Knipselaar" <<EINDE
+[Configuratie]
+OrigineelPad=$HOME/lessen
+AangepastPad=$HOME/klas
+EINDE
+    cd "$HOME"
+}
+
+# Klikt op een plaats van het hoofdvenster, gerekend vanaf linksonder.
+klik() { xdotool mousemove --window "$(venster_nummer "$venster")" "$1" "$((hoogte - $2))" click 1; }
+
+# Vult het tekstveld van een directorykiezer. $1 is de hoogte vanaf de onderrand, $2 het pad.
+vul_kiezer() {
+    klik 700 "$1"
+    xdotool key ctrl+a
+    xdotool type --delay 20 "$2"
+}
+
+wacht_op_venster() { wacht_op "het venster '$1' verschijnt niet" venster_actief "$1"; }
+
+# Of het venster $1 zo groot is als $2 zegt, zoals 1100x760.
+heeft_maat() { xdotool getwindowgeometry "$(venster_nummer "$1")" | grep -F "Geometry: $2"; }
+
+# Maakt het venster $1 $2 breed en $3 hoog.
+zet_maat() {
+    xdotool windowsize "$(venster_nummer "$1")" "$2" "$3"
+    wacht_op "het venster '$1' krijgt zijn maat niet" heeft_maat "$1" "$2x$3"
+}
+
+# Neemt een bestandsdialoog op een maat waarop hij niet half leeg is.
+neem_dialoog() {
+    wacht_op_venster "$1"
+    zet_maat "$1" 1000 440
+    neem_beeld "$1" "$2"
+}
+
+start() {
+    "$programma" &
+    processen+=($!)
+    wacht_op_venster "$venster"
+    zet_maat "$venster" $breedte $hoogte
+    neem_beeld "$venster" "$beelden/begin.png"
+}
+
+kies_origineel() {
+    kies_pad "$openen" "$HOME/lessen/som.c"
+    wacht_op_venster "$venster"
+}
+
+enkel_bestand() {
+    xdotool key ctrl+o
+    neem_dialoog "$openen" "$beelden/openen.png"
+    neem_verandering "$venster" "$beelden/geopend.png" kies_origineel
+    neem_verandering "$venster" "$beelden/geknipt.png" xdotool key ctrl+f
+    xdotool key ctrl+s
+    neem_dialoog "$opslaan" "$beelden/opslaan.png"
+    kies_pad "$opslaan" "$HOME/klas/som.c"
+    wacht_op "de opgave staat er niet" test -s "$HOME/klas/som.c"
+    wacht_op_venster "$venster"
+}
+
+kies_directories() {
+    vul_kiezer $bron_hoogte "$HOME/lessen"
+    vul_kiezer $doel_hoogte "$HOME/klas"
+}
+
+een_directory() {
+    neem_verandering "$venster" "$werk/modus.png" klik 60 $modus_directory
+    neem_verandering "$venster" "$beelden/directory.png" kies_directories
+    neem_verandering "$venster" "$beelden/directory-klaar.png" xdotool key ctrl+f
+    grep -qF 'Dit stuk software ontbreekt' "$HOME/klas/teller.vhdl"
+}
+
+gelijke_directories() {
+    vul_kiezer $doel_hoogte "$HOME/lessen"
+    xdotool key ctrl+f
+    wacht_op_venster '^Bevestig$'
+    neem_beeld '^Bevestig$' "$beelden/gelijk.png"
+    xdotool key alt+n
+    wacht_op "de vraag blijft staan" venster_weg '^Bevestig$'
+    wacht_op_venster "$venster"
+}
+
+een_boom() {
+    neem_verandering "$venster" "$werk/modus.png" klik 60 $modus_boom
+    vul_kiezer $doel_hoogte "$HOME/practicum"
+    neem_verandering "$venster" "$beelden/boom-klaar.png" xdotool key ctrl+f
+    grep -qF 'Dit stuk software ontbreekt' "$HOME/practicum/les2/matrix.h"
+}
+
+sluit_af() {
+    xdotool key ctrl+q
+    wait "${processen[-1]}" || stop "het programma sloot niet netjes af"
+}
+
+open_beeldscherm 1280x1024
+richt_in
+start
+enkel_bestand
+een_directory
+gelijke_directories
+een_boom
+sluit_af

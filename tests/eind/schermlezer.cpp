@@ -1,0 +1,146 @@
+// Ziet een lopend programma zoals een schermlezer het ziet: over de bus voor toegankelijkheid.
+//
+//   schermlezer boom   noemt alles waar een schermlezer iets over te zeggen heeft, in de volgorde van het
+//   venster schermlezer volg   noemt wat de toetsen heeft en daarna alles wat ze krijgt, tot het gestopt
+//   wordt
+//
+// Elke regel is een rol en een naam, zoals: push button "Openen". Daarachter kan een beschrijving tussen
+// haakjes staan en in de boom ook: wat het label ervan is (<-), waar het een label van is (->), en of het
+// gekozen is of uit staat.
+
+#include <atspi/atspi.h>
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <iostream>
+#include <memory>
+#include <string>
+
+namespace {
+
+struct Opruimer {
+    void operator()(gpointer object) const { g_object_unref(object); }
+};
+using Ding = std::unique_ptr<AtspiAccessible, Opruimer>;
+using Staten = std::unique_ptr<AtspiStateSet, Opruimer>;
+
+/// Wat alleen voor de plaats op het scherm bestaat, of hier zonder naam niets zegt.
+bool isIndeling(const std::string& rol, const std::string& naam) {
+    constexpr std::array altijd{"application", "filler", "scroll pane", "scroll bar", "separator"};
+    constexpr std::array naamloos{"panel", "menu"};
+    return std::find(altijd.begin(), altijd.end(), rol) != altijd.end() ||
+           (naam.empty() && std::find(naamloos.begin(), naamloos.end(), rol) != naamloos.end());
+}
+
+std::string neem(gchar* tekst) {
+    const std::string kopie = tekst == nullptr ? "" : tekst;
+    g_free(tekst);
+    return kopie;
+}
+
+std::string noem(AtspiAccessible* ding) {
+    const std::string beschrijving = neem(atspi_accessible_get_description(ding, nullptr));
+    return neem(atspi_accessible_get_role_name(ding, nullptr)) + " \"" +
+           neem(atspi_accessible_get_name(ding, nullptr)) + "\"" +
+           (beschrijving.empty() ? "" : " (" + beschrijving + ")");
+}
+
+bool heeftStaat(AtspiAccessible* ding, AtspiStateType staat) {
+    const Staten staten(atspi_accessible_get_state_set(ding));
+    return atspi_state_set_contains(staten.get(), staat) != 0;
+}
+
+std::string noemLabels(AtspiAccessible* ding) {
+    std::string tekst;
+    GArray* betrekkingen = atspi_accessible_get_relation_set(ding, nullptr);
+    for (guint i = 0; betrekkingen != nullptr && i < betrekkingen->len; ++i) {
+        auto* betrekking = g_array_index(betrekkingen, AtspiRelation*, i);
+        const AtspiRelationType soort = atspi_relation_get_relation_type(betrekking);
+        if (soort == ATSPI_RELATION_LABELLED_BY || soort == ATSPI_RELATION_LABEL_FOR) {
+            const Ding ander(atspi_relation_get_target(betrekking, 0));
+            tekst += (soort == ATSPI_RELATION_LABEL_FOR ? " -> " : " <- ") + noem(ander.get());
+        }
+        g_object_unref(betrekking);
+    }
+    if (betrekkingen != nullptr) {
+        g_array_free(betrekkingen, TRUE);
+    }
+    return tekst;
+}
+
+/// Loopt langs een ding en alles wat erin zit.
+void bezoek(AtspiAccessible* ding, const std::function<void(AtspiAccessible*)>& doe) {
+    doe(ding);
+    const gint aantal = atspi_accessible_get_child_count(ding, nullptr);
+    for (gint i = 0; i < aantal; ++i) {
+        // Wat net verdween geeft niets.
+        if (const Ding kind(atspi_accessible_get_child_at_index(ding, i, nullptr)); kind != nullptr) {
+            bezoek(kind.get(), doe);
+        }
+    }
+}
+
+void toonBoom(AtspiAccessible* ding) {
+    const std::string rol = neem(atspi_accessible_get_role_name(ding, nullptr));
+    const std::string naam = neem(atspi_accessible_get_name(ding, nullptr));
+    if (!isIndeling(rol, naam)) {
+        const bool gekozen = heeftStaat(ding, ATSPI_STATE_CHECKED) || heeftStaat(ding, ATSPI_STATE_SELECTED);
+        std::cout << noem(ding) << noemLabels(ding) << (gekozen ? ", gekozen" : "")
+                  << (heeftStaat(ding, ATSPI_STATE_ENABLED) ? "" : ", uit") << "\n";
+    }
+}
+
+/// Onthoudt wie de toetsen heeft: de bus meldt hetzelfde vaak twee keer.
+class Volger {
+  public:
+    void krijgt(AtspiAccessible* ding) {
+        if (ding != laatste_.get()) {
+            laatste_.reset(static_cast<AtspiAccessible*>(g_object_ref(ding)));
+            std::cout << noem(ding) << std::endl;
+        }
+    }
+
+  private:
+    Ding laatste_;
+};
+
+void meldToetsen(AtspiEvent* gebeurtenis, void* volger) {
+    if (gebeurtenis->detail1 != 0) {
+        static_cast<Volger*>(volger)->krijgt(gebeurtenis->source);
+    }
+    g_boxed_free(ATSPI_TYPE_EVENT, gebeurtenis);
+}
+
+void volg(AtspiAccessible* bureaublad) {
+    Volger volger;
+    AtspiEventListener* luisteraar = atspi_event_listener_new(meldToetsen, &volger, nullptr);
+    atspi_event_listener_register(luisteraar, "object:state-changed:focused", nullptr);
+    bezoek(bureaublad, [&volger](AtspiAccessible* ding) {
+        if (heeftStaat(ding, ATSPI_STATE_FOCUSED)) {
+            volger.krijgt(ding);
+        }
+    });
+    atspi_event_main();
+    g_object_unref(luisteraar);
+}
+
+}  // namespace
+
+int main(int /*argc*/, char** argv) {
+    if (atspi_init() != 0) {
+        std::cerr << "er is geen bus voor toegankelijkheid\n";
+        return 1;
+    }
+    const Ding bureaublad(atspi_get_desktop(0));
+    if (argv[1] == std::string("boom")) {
+        const gint aantal = atspi_accessible_get_child_count(bureaublad.get(), nullptr);
+        for (gint i = 0; i < aantal; ++i) {
+            const Ding programma(atspi_accessible_get_child_at_index(bureaublad.get(), i, nullptr));
+            bezoek(programma.get(), toonBoom);
+        }
+    } else {
+        volg(bureaublad.get());
+    }
+    return 0;
+}

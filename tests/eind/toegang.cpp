@@ -1,0 +1,78 @@
+#include "tests/eind/toegang.h"
+
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+Toegang::Toegang() {
+    omgeving_.startSchermlezerbus();
+}
+
+void Toegang::start() {
+    Bediening::start();
+    volger_ = std::make_unique<hulp::Kindproces>(std::vector<std::string>{SCHERMLEZER, "volg"},
+                                                 omgeving_.werk() / "volgorde", omgeving_.werk() / "volger");
+    const bool begonnen = hulp::wachtTot([this] { return !volgorde().empty(); });
+    ASSERT_TRUE(begonnen) << hulp::leesBestand(omgeving_.werk() / "volger");
+    EXPECT_EQ(linkereditor, volgorde().front());
+}
+
+std::vector<std::string> Toegang::volgorde() const {
+    const std::ifstream bestand(omgeving_.werk() / "volgorde");  // bestaat pas als de volger begint
+    std::stringstream tekst;
+    tekst << bestand.rdbuf();
+    std::vector<std::string> dingen;
+    std::string ding;
+    while (std::getline(tekst, ding) && !tekst.eof()) {  // een halve regel telt nog niet
+        dingen.push_back(ding);
+    }
+    return dingen;
+}
+
+std::string Toegang::ga(const std::string& toetsen) const {
+    const std::size_t vooraf = volgorde().size();
+    druk(toetsen);
+    if (!hulp::wachtTot([this, vooraf] { return volgorde().size() > vooraf; })) {
+        throw std::runtime_error("na " + toetsen + " blijven de toetsen bij " + volgorde().back());
+    }
+    return volgorde().back();
+}
+
+void Toegang::gaNaar(const std::string& ding, const std::string& toetsen) const {
+    constexpr int rond = 20;
+    for (int i = 0; i < rond && volgorde().back() != ding; ++i) {
+        ga(toetsen);
+    }
+    ASSERT_EQ(ding, volgorde().back());
+}
+
+void Toegang::kiesPad(const std::string& titel, const std::filesystem::path& pad,
+                      const std::string& ding) const {
+    typPad(titel, pad);
+    EXPECT_TRUE(hulp::wachtTot([this, &ding] { return volgorde().back() == ding; })) << volgorde().back();
+}
+
+void Toegang::kiesModus(const std::string& modus) const {
+    gaNaar("radio button \"Enkel bestand\"");
+    gaNaar("radio button \"" + modus + "\"", "Down");
+    druk("space");
+    wachtOpBruikbaar("text \"Bestemming directory\"");
+}
+
+std::string Toegang::boom() {
+    return voerUit({SCHERMLEZER, "boom"});
+}
+
+void Toegang::wachtOpBruikbaar(const std::string& ding) {
+    const bool bruikbaar = hulp::wachtTot([&ding] {
+        const std::string nu = boom();
+        const std::size_t plek = nu.find("\n" + ding);
+        return plek != std::string::npos &&
+               !nu.substr(plek + 1, nu.find('\n', plek + 1) - plek - 1).ends_with(", uit");
+    });
+    EXPECT_TRUE(bruikbaar) << ding << " blijft uit";
+}
+
+void Toegang::typ(const std::string& tekst) {
+    voerUit({"xdotool", "type", "--delay", "20", tekst});
+}

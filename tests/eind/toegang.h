@@ -1,0 +1,45 @@
+#pragma once
+
+// Bedient het programma met alleen toetsen en ziet het zoals een schermlezer: wie de toetsen heeft, en hoe
+// alles heet. Een ding staat hier steeds als een rol en een naam, zoals: push button "Openen".
+
+#include "tests/eind/bediening.h"
+
+class Toegang : public Bediening {
+  protected:
+    static constexpr const char* linkereditor = "panel \"Origineel\"";
+    static constexpr const char* rechtereditor = "panel \"Aangepast\"";
+
+    Toegang();
+
+    /// Start het programma, met de toetsen in de linkereditor, en begint te volgen wie ze krijgt.
+    void start();
+
+    /// Wie er sinds de start de toetsen kregen, op volgorde.
+    std::vector<std::string> volgorde() const;
+
+    /// Drukt toetsen in en wacht tot een ander ding daardoor de toetsen krijgt; geeft dat. Gooit
+    /// std::runtime_error als het niet gebeurt.
+    std::string ga(const std::string& toetsen) const;
+
+    /// Drukt toetsen in tot een bepaald ding de toetsen heeft, hoogstens eenmaal het venster rond.
+    void gaNaar(const std::string& ding, const std::string& toetsen = "ctrl+Tab") const;
+
+    /// Kiest in een bestandsdialoog een pad en wacht tot een ding in het hoofdvenster de toetsen weer heeft.
+    void kiesPad(const std::string& titel, const std::filesystem::path& pad, const std::string& ding) const;
+
+    /// Kiest een modus met de toetsen en wacht tot de bediening ernaar staat.
+    void kiesModus(const std::string& modus) const;
+
+    /// Wat een schermlezer in het venster vindt, een ding per regel.
+    static std::string boom();
+
+    /// Wacht tot een ding te gebruiken is.
+    static void wachtOpBruikbaar(const std::string& ding);
+
+    /// Typt tekst waar de toetsen nu zijn.
+    static void typ(const std::string& tekst);
+
+  private:
+    std::unique_ptr<hulp::Kindproces> volger_;
+};
