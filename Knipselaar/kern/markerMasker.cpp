@@ -28,8 +28,10 @@ std::vector<std::string> splitsOpJokers(const wxString& marker) {
 
 }  // namespace
 
-MarkerMasker::MarkerMasker(const wxString& marker)
-    : masker_("*" + marker + "*"), stukken_(splitsOpJokers(marker)), heeftVraagteken_(marker.Contains("?")) {
+MarkerMasker::MarkerMasker(const wxString& marker, Jokers jokers)
+    : masker_("*" + marker + "*"),
+      stukken_(jokers == Jokers::ja ? splitsOpJokers(marker) : std::vector{marker.utf8_string()}),
+      heeftVraagteken_(jokers == Jokers::ja && marker.Contains("?")) {
     for (const std::string& stuk : stukken_) {
         if (stuk.size() > anker_.size()) {
             anker_ = stuk;

@@ -1,8 +1,8 @@
 #pragma once
 
 // Het masker van één marker: "*" + marker + "*", gehouden tegen een regel zonder haar regeleinde. Wat past
-// is precies wat wxString::Matches laat passen, dus "*" en "?" in de marker zijn jokers. Het masker bezit
-// zijn eigen kopie van de marker.
+// is precies wat wxString::Matches laat passen, dus "*" en "?" in de marker zijn jokers, tenzij de maker ze
+// als gewone tekens wil. Het masker bezit zijn eigen kopie van de marker.
 
 #include <wx/string.h>
 
@@ -20,13 +20,20 @@ struct Regel {
     std::size_t eind;
 };
 
+/// Wat "*" en "?" in een marker betekenen.
+enum class Jokers { ja, nee };
+
 class MarkerMasker {
   public:
-    explicit MarkerMasker(const wxString& marker);
+    explicit MarkerMasker(const wxString& marker, Jokers jokers = Jokers::ja);
 
     /// Of een regel past.
     /// @param regel  één regel in UTF-8 zonder regeleinde.
     bool past(std::string_view regel) const;
+
+    /// Het langste letterlijke stuk van de marker, in UTF-8: staat in elke regel die past. Leeg als de marker
+    /// alleen jokers heeft.
+    const std::string& geefAnker() const { return anker_; }
 
     /// De eerste passende regel vanaf een regelbegin.
     /// @param regels  hele regels in UTF-8, elk gesloten door "\n". Een laatste regel zonder regeleinde

@@ -17,6 +17,7 @@ BOUW = pathlib.Path(sys.argv[1])
 RONDEN = int(sys.argv[2]) if len(sys.argv) > 2 else 9
 KNIP = str(BOUW / "tests/bench/knipmeter")
 VENSTER = str(BOUW / "tests/bench/venstermeter")
+CLI = [str(BOUW / "KnipselaarCli/knipselaar-cli"), "--zonder-instellingen"]
 BEGIN, EIND = "//**** Student Begin ****//", "//**** Student Eind ****//"
 VERVANG = '#error "Dit stuk software ontbreekt."\\\n/* Beste student,\\\n    Werk dit uit.  */'
 OMGEVING = dict(os.environ, LC_ALL="C.UTF-8")
@@ -54,10 +55,18 @@ def los(*opdracht):
     return lambda bron, doel: subprocess.run([*opdracht, bron, doel], check=True, env=OMGEVING)
 
 
+def met_cli(*opties):
+    """Het consoleprogramma, van bestand naar bestand."""
+    return lambda bron, doel: subprocess.run([*CLI, *opties, "--overschrijf", "--uit", doel, bron], check=True,
+                                             env=OMGEVING)
+
+
 PER_BESTAND = {
     "knipselaar": los(KNIP, "bestand"),
     "sed": naar(SED),
     "cp": los("cp"),
+    "cli": met_cli(),
+    "cli als venster": met_cli("--als-venster"),
     "mawk": naar(["mawk", "-v", "r=#error", AWK]),
     "gawk": naar(["gawk", "-v", "r=#error", AWK]),
     "perl": naar(["perl", "-ne", f"BEGIN{{$r=qq(#error\\n)}} {PERL}"]),
@@ -85,6 +94,13 @@ def rij(werk, medianen, doel, basis="sed"):
                         if naam not in ("knipselaar", basis))
     print(f"| {werk} | **{verhouding:.2f}** | {medianen['knipselaar'] * 1000:.1f} ms | "
           f"{medianen[basis] * 1000:.1f} ms ({basis}) | {anderen} | {doel} |", flush=True)
+
+
+def rij_cli(medianen):
+    """Twee rijen: het consoleprogramma tegen de kern als proces op zichzelf."""
+    for manier in ("cli", "cli als venster"):
+        rij(f"hetzelfde met {manier}", {"knipselaar": medianen[manier], "kern": medianen["knipselaar"]}, "1,2 x kern",
+            "kern")
 
 
 def maak_tekst(regels, blokken, regeleinde="\n", accenten=0.0, zaad=1):
@@ -124,7 +140,9 @@ def meet_bestanden(werk):
             rij(naam, medianen, doel)
             rij("hetzelfde tegen cp", {k: medianen[k] for k in ("knipselaar", "cp")}, "2,5 x cp", "cp")
         else:
-            rij(naam, meet(kandidaten), doel)
+            medianen = meet(kandidaten)
+            rij(naam, medianen, doel)
+        rij_cli(medianen)
 
 
 def meet_lastige_markers(werk):
@@ -149,6 +167,7 @@ def meet_directories(werk):
     for i in range(1000):
         (bron / f"f{i:04}.c").write_text(maak_tekst(220, 10, zaad=i))
     namen = [str(p) for p in sorted(bron.iterdir())]
+    kopie = [str(doel / pathlib.Path(naam).name) for naam in namen]
 
     def leeg_doel():
         shutil.rmtree(doel, ignore_errors=True)
@@ -166,24 +185,44 @@ def meet_directories(werk):
         uitvoer = subprocess.run([VENSTER, *map(str, woorden)], capture_output=True, text=True, check=True).stdout
         return int(uitvoer.split()[1]) / 1e6
 
-    def sed_in_een_proces():
-        """sed leest dezelfde bestanden in één proces en schrijft ze, bij gebrek aan beter, achter elkaar."""
+    sed_i = ["sed", "-i", "-f", str(script)]
+
+    def meet_sed_met_kopie():
+        """Wat een docent typt: eerst kopiëren, dan sed op de kopie."""
+        subprocess.run(["cp", *namen, str(doel)], check=True)
+        subprocess.run([*sed_i, *kopie], check=True, env=OMGEVING)
+
+    def meet_sed():
+        """Alleen sed, op een kopie die er al is: één proces dat dezelfde bestanden leest en schrijft."""
+        subprocess.run(["cp", *namen, str(doel)], check=True)
+        begin = time.perf_counter()
+        subprocess.run([*sed_i, *kopie], check=True, env=OMGEVING)
+        return time.perf_counter() - begin
+
+    def meet_sed_aaneen():
+        """sed leest dezelfde bestanden en schrijft ze, wat geen opgaven zijn, achter elkaar in één bestand."""
         with open(doel / "alles", "wb") as uit:
             subprocess.run(["sed", "-s", "-f", str(script), *namen], stdout=uit, check=True, env=OMGEVING)
 
     rij("1.000 bestanden van 11 KB naar een directory", meet({
         "knipselaar": lambda: los(KNIP, "directory")(str(bron), str(doel)),
-        "sed": sed_in_een_proces,
+        "sed": meet_sed,
+        "cp": lambda: subprocess.run(["cp", *namen, str(doel)], check=True),
+        "cp en dan sed": meet_sed_met_kopie,
         "sed per bestand": lambda: subprocess.run(["sh", "-c", sed_vlak], check=True, env=OMGEVING),
+        "sed aaneen": meet_sed_aaneen,
         "door het venster": lambda: venster("directory", bron, doel)}, leeg_doel), "1,0 x sed; venster 1,5")
-    sed_i = lambda: subprocess.run(f"find {boom} -name '*.c' -exec sed -i -f {script} {{}} +", shell=True, check=True,
-                                   env=OMGEVING)
+    boom_i = ["find", str(boom), "-name", "*.c", "-exec", *sed_i, "{}", "+"]
     perl_i = lambda: subprocess.run(["sh", "-c", f"find {boom} -name '*.c' -exec perl -i -ne "
                                      f"'BEGIN{{$r=qq(#error\\n)}} {PERL}' {{}} +"], check=True, env=OMGEVING)
-    rij("1.000 bestanden van 11 KB ter plaatse", meet({
+    medianen = meet({
         "knipselaar": lambda: subprocess.run([KNIP, "boom", boom], check=True),
-        "sed": sed_i, "perl -i": perl_i,
-        "door het venster": lambda: venster("boom", boom)}, verse_boom), "1,0 x sed -i; venster 1,5")
+        "sed": lambda: subprocess.run(boom_i, check=True, env=OMGEVING),
+        "perl -i": perl_i,
+        "cli": lambda: subprocess.run([*CLI, "--stil", "--recursief", "--ter-plaatse", boom], check=True, env=OMGEVING),
+        "door het venster": lambda: venster("boom", boom)}, verse_boom)
+    rij("1.000 bestanden van 11 KB ter plaatse", medianen, "1,0 x sed -i; venster 1,5")
+    rij("hetzelfde met cli op alle kernen", {"knipselaar": medianen["cli"], "sed": medianen["sed"]}, "0,7 x sed -i")
 
 
 def meet_editor(werk):
@@ -246,12 +285,18 @@ def meet_start(werk):
     xvfb.wait()
 
 
+def meet_start_cli(_werk):
+    rij("starten en stoppen van cli", meet({
+        "knipselaar": lambda: subprocess.run([*CLI, "--versie"], stdout=subprocess.DEVNULL, check=True),
+        "kern": lambda: subprocess.run([KNIP, "niets"], check=True)}), "1,2 x kern", "kern")
+
+
 def main():
     print("| werk | verhouding | Knipselaar | basis | anderen, als verhouding | doel |")
     print("|---|---|---|---|---|---|")
     with tempfile.TemporaryDirectory() as map_naam:
         werk = pathlib.Path(map_naam)
-        for meting in (meet_bestanden, meet_lastige_markers, meet_directories, meet_editor, meet_geheugen, meet_start):
+        for meting in (meet_bestanden, meet_lastige_markers, meet_directories, meet_editor, meet_geheugen, meet_start_cli, meet_start):
             meting(werk)
 
 

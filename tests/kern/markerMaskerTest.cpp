@@ -134,3 +134,12 @@ TEST(MarkerMasker, ZoektAlsRegelVoorRegel) {
         }
     }
 }
+
+TEST(MarkerMasker, NeemtJokersLetterlijkAlsDatMoet) {
+    const MarkerMasker sterren("/* Begin? */", kern::Jokers::nee);
+    EXPECT_TRUE(sterren.past("x = 1; /* Begin? */ y"));
+    EXPECT_FALSE(sterren.past("/ Begin? /"));
+    EXPECT_FALSE(sterren.past("/* BeginX */"));
+    EXPECT_EQ(3U, sterren.zoekRegel("ab\n/* Begin? */\n", 0)->begin);
+    EXPECT_FALSE(sterren.zoekRegel("/** Begin? **/\n", 0));
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+// Geheugen voor de inhoud van een bestand. Anders dan een string maakt het de bytes niet eerst nul: ze worden
+// toch meteen gelezen, en bij een groot bestand kost dat evenveel als het knippen zelf.
+
+#include <cstddef>
+#include <cstdlib>
+#include <memory>
+#include <string_view>
+
+namespace cli {
+
+class Bytes {
+  public:
+    Bytes() = default;
+
+    /// Een kopie.
+    explicit Bytes(std::string_view bytes);
+
+    char* geefBegin() { return bytes_.get(); }
+    std::string_view geef() const { return {bytes_.get(), lengte_}; }
+    std::size_t geefRuimte() const { return ruimte_; }
+
+    /// Maakt plaats voor minstens zoveel bytes; wat er staat blijft. Gooit std::bad_alloc.
+    void maakRuimte(std::size_t ruimte);
+
+    /// Zegt hoeveel bytes gelden, hoogstens zoveel als er ruimte is.
+    void zetLengte(std::size_t lengte) { lengte_ = lengte; }
+
+    void voegToe(char byte);
+    void voegToe(std::string_view bytes);
+
+  private:
+    struct Vrijgever {
+        void operator()(char* bytes) const { std::free(bytes); }  // NOLINT(cppcoreguidelines-no-malloc)
+    };
+
+    std::unique_ptr<char, Vrijgever> bytes_;
+    std::size_t lengte_ = 0;
+    std::size_t ruimte_ = 0;
+};
+
+}  // namespace cli

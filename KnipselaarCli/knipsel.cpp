@@ -1,0 +1,192 @@
+#include "KnipselaarCli/knipsel.h"
+
+#include <algorithm>
+
+#include "Knipselaar/kern/regelOmzetter.h"
+
+namespace cli {
+
+namespace {
+
+/// De regels van een vervangtekst met dit regeleinde en deze inspringing; een lege regel springt niet in.
+std::string zetRegels(std::string_view vervanging, std::string_view inspringing,
+                      std::string_view regeleinde) {
+    std::string uit;
+    while (!vervanging.empty()) {
+        const std::size_t einde = vervanging.find('\n');
+        const std::string_view regel = vervanging.substr(0, einde);
+        if (!regel.empty()) {
+            uit += inspringing;
+            uit += regel;
+        }
+        uit += regeleinde;
+        vervanging.remove_prefix(einde == std::string_view::npos ? vervanging.size() : einde + 1);
+    }
+    return uit;
+}
+
+/// De blanco tekens waarmee een regel begint.
+std::string_view geefInspringing(std::string_view regel) {
+    return regel.substr(0, std::min(regel.find_first_not_of(" \t"), regel.size()));
+}
+
+}  // namespace
+
+Knipsel::Knipsel(const Brontekst& bron, const Ontleding& ontleding, const KnipWens& wens)
+    : bron_(bron), ontleding_(ontleding), manier_(wens.manier) {
+    if (manier_ == Manier::getrouw) {
+        knipGetrouw(wens);
+    } else {
+        knipVenster(wens);
+    }
+}
+
+std::string Knipsel::geefInhoud() const {
+    std::string inhoud;
+    geef([&inhoud](std::string_view stuk) { inhoud += stuk; });
+    return inhoud;
+}
+
+void Knipsel::geef(const std::function<void(std::string_view)>& uit) const {
+    if (manier_ == Manier::venster && bron_.isRauw()) {
+        zetOm(uit);
+        return;
+    }
+    for (const std::string_view stuk : stukken_) {
+        uit(stuk);
+    }
+}
+
+/// Laat de omzetter van de kern het hele bestand zien, in kleine delen die in de cache blijven, en geeft door
+/// wat buiten de blokken ligt.
+void Knipsel::zetOm(const std::function<void(std::string_view)>& uit) const {
+    constexpr std::size_t deel = std::size_t{128} * 1024;
+    const std::string_view tekst = bron_.geefTekst();
+    std::string_view rest = tekst.substr(0, tekst.size() - 1);  // zonder het regeleinde dat er niet in staat
+    std::size_t plek = 0;
+    kern::RegelOmzetter omzetter;
+    std::string omgezet;
+    const auto neemTot = [&](std::size_t eind) {
+        omgezet.clear();
+        const std::string_view stuk = rest.substr(0, eind - plek);
+        omzetter.zetOm(stuk, omgezet);
+        rest.remove_prefix(stuk.size());
+        plek = eind;
+    };
+    const auto geefTot = [&](std::size_t eind) {
+        while (plek < eind) {
+            neemTot(std::min(eind, plek + deel));
+            uit(omgezet);
+        }
+    };
+    for (std::size_t i = 0; i < vervangingen_.size(); ++i) {
+        geefTot(ontleding_.blokken[i].begin.begin);
+        neemTot(ontleding_.blokken[i].eind.eind);
+        uit(vervangingen_[i]);
+    }
+    const bool eindigtMetBlok = plek == tekst.size();
+    geefTot(tekst.size());
+    omgezet.clear();
+    omzetter.sluitAf(omgezet);
+    uit(eindigtMetBlok ? std::string_view() : std::string_view(omgezet));
+}
+
+void Knipsel::neem(std::string_view stuk) {
+    if (!stuk.empty()) {
+        stukken_.push_back(stuk);
+    }
+}
+
+void Knipsel::knipGetrouw(const KnipWens& wens) {
+    const std::string_view ruw = bron_.geefRuw();
+    std::size_t plek = 0;
+    for (const Blok& blok : ontleding_.blokken) {
+        const std::size_t begin = bron_.naarRuw(blok.begin.begin);
+        neem(ruw.substr(plek, begin - plek));
+        vervangingen_.push_back(blok.isLeeg() ? std::string_view() : maakVervanging(blok, wens));
+        neem(vervangingen_.back());
+        plek = bron_.naarRuw(blok.eind.eind);
+    }
+    neem(ruw.substr(plek));
+}
+
+/// De vervangtekst in de codering en met het regeleinde van het bestand. Heeft het bestand na het blok niets
+/// meer, ook geen regeleinde, dan krijgt de vervangtekst er ook geen.
+std::string_view Knipsel::maakVervanging(const Blok& blok, const KnipWens& wens) {
+    const std::string_view ruw = bron_.geefRuw();
+    const std::string_view tekst = bron_.geefTekst();
+    const std::size_t begin = bron_.naarRuw(blok.begin.begin);
+    const std::size_t na = bron_.naarRuw(blok.begin.eind);
+    const std::string_view eigenEinde = geefRegeleinde(ruw.substr(begin, na - begin), bron_.geefCodering());
+    const std::string_view regeleinde = eigenEinde.empty() ? "\n" : eigenEinde;
+    const std::string_view inspringing =
+        wens.inspringen ? geefInspringing(tekst.substr(blok.begin.begin, blok.begin.eind - blok.begin.begin))
+                        : std::string_view();
+    if (eigen_.empty() || inspringing != vorigeInspringing_ || regeleinde != vorigRegeleinde_) {
+        vorigeInspringing_ = inspringing;
+        vorigRegeleinde_ = regeleinde;
+        const std::string regels = zetRegels(wens.vervanging, inspringing, regeleinde);
+        try {
+            eigen_.push_back(codeer(regels, bron_.geefCodering()));
+        } catch (const CodeerFout& teken) {
+            throw CodeerFout(std::string("de vervangtekst heeft het teken '") + teken.what() +
+                             "', dat niet in " + noemCodering(bron_.geefCodering()) +
+                             " past; kies een andere tekst of zet het bestand om");
+        }
+    }
+    const std::size_t eind = bron_.naarRuw(blok.eind.begin);
+    const bool zonderEinde = bron_.naarRuw(blok.eind.eind) == ruw.size() &&
+                             geefRegeleinde(ruw.substr(eind), bron_.geefCodering()).empty();
+    const std::size_t teVeel = zonderEinde ? codeer(regeleinde, bron_.geefCodering()).size() : 0;
+    const std::string_view geheel = eigen_.back();
+    return geheel.substr(0, geheel.size() - std::min(teVeel, geheel.size()));
+}
+
+void Knipsel::knipVenster(const KnipWens& wens) {
+    const std::string_view tekst = bron_.geefTekst();
+    eigen_.push_back(std::string(wens.vervanging) + '\n');
+    std::size_t plek = 0;
+    for (const Blok& blok : ontleding_.blokken) {
+        neem(tekst.substr(plek, blok.begin.begin - plek));
+        vervangingen_.push_back(blok.isLeeg() ? std::string_view() : std::string_view(eigen_.back()));
+        neem(vervangingen_.back());
+        plek = blok.eind.eind;
+    }
+    neem(tekst.substr(plek));
+}
+
+std::vector<Wijziging> Knipsel::geefWijzigingen() const {
+    std::vector<Wijziging> uit;
+    std::size_t plek = 0;
+    for (std::size_t i = 0; i < vervangingen_.size(); ++i) {
+        const Blok& blok = ontleding_.blokken[i];
+        vergelijkRegels({plek, blok.begin.begin}, uit);
+        uit.push_back({.begin = bron_.naarRuw(blok.begin.begin),
+                       .eind = bron_.naarRuw(blok.eind.eind),
+                       .nieuw = vervangingen_[i]});
+        plek = blok.eind.eind;
+    }
+    vergelijkRegels({plek, bron_.geefTekst().size()}, uit);
+    return uit;
+}
+
+/// De wijzigingen van een deel dat blijft: bij de manier "venster" de regels die er anders uit komen.
+void Knipsel::vergelijkRegels(kern::Regel deel, std::vector<Wijziging>& uit) const {
+    if (manier_ == Manier::getrouw) {
+        return;
+    }
+    const std::string_view tekst = bron_.geefTekst();
+    for (std::size_t plek = deel.begin; plek < deel.eind;) {
+        const std::size_t volgende = tekst.find('\n', plek) + 1;
+        // Het merkteken hoort bij de eerste regel.
+        const std::size_t begin = plek == 0 ? 0 : bron_.naarRuw(plek);
+        const std::size_t eind = bron_.naarRuw(volgende);
+        const std::string_view nieuw = tekst.substr(plek, volgende - plek);
+        if (bron_.geefRuw().substr(begin, eind - begin) != nieuw) {
+            uit.push_back(Wijziging{begin, eind, nieuw});
+        }
+        plek = volgende;
+    }
+}
+
+}  // namespace cli

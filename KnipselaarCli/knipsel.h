@@ -1,0 +1,71 @@
+#pragma once
+
+// Wat er na het knippen van een bestand overblijft, als een rij stukken bytes: wat blijft staat nog in de
+// brontekst, wat ervoor in de plaats komt bezit het knipsel zelf.
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "KnipselaarCli/brontekst.h"
+#include "KnipselaarCli/ontleding.h"
+
+namespace cli {
+
+/// Getrouw: buiten de blokken blijft elke byte staan. Venster: zoals het venster het doet, in UTF-8 met LF en
+/// een regeleinde achter de laatste regel.
+enum class Manier { getrouw, venster };
+
+struct KnipWens {
+    Manier manier = Manier::getrouw;
+    bool inspringen = false;  ///< de vervangtekst springt in zoals de beginmarker; alleen getrouw
+    std::string_view vervanging;
+};
+
+/// Een stuk van het bestand dat verandert: deze ruwe bytes maken plaats voor andere. Het kan leeg zijn.
+struct Wijziging {
+    std::size_t begin;
+    std::size_t eind;
+    std::string_view nieuw;
+};
+
+class Knipsel {
+  public:
+    /// De brontekst en de ontleding moeten langer leven. Gooit CodeerFout als de vervangtekst niet in de
+    /// codering van het bestand past.
+    Knipsel(const Brontekst& bron, const Ontleding& ontleding, const KnipWens& wens);
+    Knipsel(const Knipsel&) = delete;
+    Knipsel& operator=(const Knipsel&) = delete;
+    ~Knipsel() = default;
+
+    /// Geeft wat er overblijft, op volgorde.
+    void geef(const std::function<void(std::string_view)>& uit) const;
+
+    /// Alle stukken achter elkaar.
+    std::string geefInhoud() const;
+
+    /// De wijzigingen die van het bestand het knipsel maken, op volgorde. Geldig zolang het knipsel er is.
+    /// Bij de manier "venster" alleen na de lezing "volledig".
+    std::vector<Wijziging> geefWijzigingen() const;
+
+  private:
+    void knipGetrouw(const KnipWens& wens);
+    void knipVenster(const KnipWens& wens);
+    std::string_view maakVervanging(const Blok& blok, const KnipWens& wens);
+    void neem(std::string_view stuk);
+    void zetOm(const std::function<void(std::string_view)>& uit) const;
+    void vergelijkRegels(kern::Regel deel, std::vector<Wijziging>& uit) const;
+
+    const Brontekst& bron_;
+    const Ontleding& ontleding_;
+    Manier manier_;
+    std::vector<std::string_view> stukken_;
+    std::vector<std::string_view> vervangingen_;  ///< per blok
+    std::deque<std::string> eigen_;               ///< een deque: wat erin staat blijft op zijn plaats
+    std::string vorigeInspringing_;               ///< van de laatste in eigen_, met het regeleinde dat volgde
+    std::string vorigRegeleinde_;
+};
+
+}  // namespace cli

@@ -1,0 +1,98 @@
+#include "KnipselaarCli/melder.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+
+#include "KnipselaarCli/bestanden.h"
+#include "KnipselaarCli/fout.h"
+
+namespace cli {
+
+namespace {
+
+constexpr std::string_view programma = "knipselaar-cli";
+constexpr std::chrono::milliseconds tussenpoos(100);
+
+void schrijfFoutkanaal(std::string_view tekst) {
+    // Is er geen foutkanaal, dan is er ook niemand om dat aan te melden.
+    std::fwrite(tekst.data(), 1, tekst.size(), stderr);
+}
+
+bool magKleur() {
+    const char* geenKleur = std::getenv("NO_COLOR");
+    const char* terminal = std::getenv("TERM");
+    return isatty(STDERR_FILENO) != 0 && (geenKleur == nullptr || *geenKleur == '\0') &&
+           terminal != nullptr && std::string_view(terminal) != "dumb";
+}
+
+std::string noemDuur(std::chrono::seconds duur) {
+    constexpr int perMinuut = 60;
+    std::array<char, 32> tekst{};
+    std::snprintf(tekst.data(), tekst.size(), "%lld:%02lld", static_cast<long long>(duur.count() / perMinuut),
+                  static_cast<long long>(duur.count() % perMinuut));
+    return tekst.data();
+}
+
+}  // namespace
+
+Melder::Melder(bool stil)
+    : stil_(stil), kleur_(magKleur()), voortgang_(!stil && isatty(STDERR_FILENO) != 0) {}
+
+void Melder::meld(std::string_view pad, const Melding& melding) {
+    schrijfMelding(std::string(pad) + ":" + std::to_string(melding.regel), melding.ernst, melding.tekst);
+}
+
+void Melder::meldRun(std::string_view tekst, Ernst ernst) {
+    schrijfMelding(programma, ernst, tekst);
+}
+
+void Melder::schrijfMelding(std::string_view voor, Ernst ernst, std::string_view tekst) {
+    if (stil_ && ernst == Ernst::waarschuwing) {
+        return;
+    }
+    wisVoortgang();
+    const std::string_view naam = ernst == Ernst::fout ? "fout" : "waarschuwing";
+    const std::string_view aan = !kleur_ ? "" : ernst == Ernst::fout ? "\x1b[1;31m" : "\x1b[1;35m";
+    const std::string_view uit = kleur_ ? "\x1b[0m" : "";
+    std::string regel(voor);
+    for (const std::string_view deel :
+         {std::string_view(": "), aan, naam, std::string_view(":"), uit, std::string_view(" "), tekst}) {
+        regel += deel;
+    }
+    schrijfFoutkanaal(regel + "\n");
+}
+
+void Melder::schrijf(std::string_view tekst) {
+    wisVoortgang();
+    try {
+        schrijfAlles(STDOUT_FILENO, [tekst](const Ontvanger& uit) { uit(tekst); });
+    } catch (const Fout& fout) {
+        throw Fout(std::string("standaarduitvoer: kan niet geschreven worden: ") + fout.what());
+    }
+}
+
+void Melder::meldVoortgang(std::size_t gedaan, std::size_t totaal) {
+    const Klok::time_point nu = Klok::now();
+    if (!voortgang_ || totaal < 2 || (gedaan > 1 && nu - getoond_ < tussenpoos)) {
+        return;
+    }
+    getoond_ = nu;
+    zichtbaar_ = true;
+    const auto nog = (nu - begin_) * (totaal - gedaan) / gedaan;
+    std::string regel = "\r";
+    regel += std::to_string(gedaan) + "/" + std::to_string(totaal) + " bestanden, nog ";
+    regel += noemDuur(std::chrono::ceil<std::chrono::seconds>(nog)) + "\x1b[K";
+    schrijfFoutkanaal(regel);
+}
+
+void Melder::wisVoortgang() {
+    if (zichtbaar_) {
+        schrijfFoutkanaal("\r\x1b[K");
+        zichtbaar_ = false;
+    }
+}
+
+}  // namespace cli

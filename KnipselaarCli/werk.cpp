@@ -1,0 +1,212 @@
+#include "KnipselaarCli/werk.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+
+#include "KnipselaarCli/bestanden.h"
+#include "KnipselaarCli/fout.h"
+#include "KnipselaarCli/knipsel.h"
+#include "KnipselaarCli/onderbreking.h"
+#include "KnipselaarCli/verschil.h"
+
+namespace cli {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::size_t telRegels(std::string_view bytes) {
+    return static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
+}
+
+/// Het aantal regels van een tekst van de kern; de lege regel achter het laatste regeleinde telt niet.
+std::size_t telTekst(std::string_view tekst) {
+    const bool extra = tekst.size() == 1 || tekst.ends_with("\n\n");
+    return telRegels(tekst) - (extra ? 1 : 0);
+}
+
+class Knipbeurt {
+  public:
+    Knipbeurt(const Taak& taak, const Opties& opties, const Teksten& teksten, Uitvoersoort soort)
+        : taak_(taak), opties_(opties), teksten_(teksten), soort_(soort) {}
+
+    Uitslag voerUit() {
+        Inhoud inhoud = leesInhoud(taak_.bron);
+        const Brontekst bron(std::move(inhoud.bytes), kiesLezing());
+        const Ontleding ontleding = ontleed(bron.geefTekst(), teksten_.paren);
+        uitslag_.blokken = ontleding.blokken.size();
+        uitslag_.meldingen = ontleding.meldingen;
+        if (opties_.streng) {
+            for (Melding& melding : uitslag_.meldingen) {
+                melding.ernst = Ernst::fout;
+            }
+        }
+        if (std::any_of(uitslag_.meldingen.begin(), uitslag_.meldingen.end(),
+                        [](const Melding& melding) { return melding.ernst == Ernst::fout; })) {
+            uitslag_.status = Status::tegengehouden;
+            return std::move(uitslag_);
+        }
+        knip(bron, ontleding, inhoud.rechten);
+        return std::move(uitslag_);
+    }
+
+  private:
+    /// Voor een bewijs telt de tekst zoals de kern haar leest.
+    Lezing kiesLezing() const {
+        if (opties_.manier == Manier::venster && opties_.opdracht == Opdracht::verschil) {
+            return Lezing::volledig;
+        }
+        if (teksten_.markersGewoon && !opties_.bewijs) {
+            return Lezing::zuinig;
+        }
+        return opties_.manier == Manier::venster ? Lezing::tekst : Lezing::volledig;
+    }
+
+    const std::string& geefVervanging() const {
+        return teksten_.geefVervanging(opties_.taal.value_or(kiesTaal(taak_.bron)));
+    }
+
+    void knip(const Brontekst& bron, const Ontleding& ontleding, mode_t rechten) {
+        if (opties_.bewijs) {
+            uitslag_.stof = verzamelStof(bron.geefTekst(), ontleding.blokken, opties_.bewijsLengte);
+        }
+        try {
+            const Knipsel knipsel(
+                bron, ontleding,
+                {.manier = opties_.manier, .inspringen = opties_.inspringen, .vervanging = geefVervanging()});
+            verwerk(bron, ontleding, knipsel, rechten);
+        } catch (const CodeerFout& fout) {
+            const std::size_t regel =
+                telRegels(bron.geefTekst().substr(0, ontleding.blokken.front().begin.begin));
+            uitslag_.meldingen.push_back({.regel = regel + 1, .ernst = Ernst::fout, .tekst = fout.what()});
+            uitslag_.status = Status::tegengehouden;
+        }
+    }
+
+    void verwerk(const Brontekst& bron, const Ontleding& ontleding, const Knipsel& knipsel, mode_t rechten) {
+        if (opties_.json || opties_.opdracht == Opdracht::droog) {
+            tel(bron, ontleding, knipsel);
+        }
+        if (opties_.opdracht == Opdracht::verschil) {
+            const std::string naam = taak_.bron == standaardinvoer ? "standaardinvoer" : taak_.bron;
+            uitslag_.verschil = maakVerschil(naam, bron.geefRuw(), knipsel.geefWijzigingen());
+        }
+        const bool blijft =
+            opties_.terPlaatse && opties_.manier == Manier::getrouw && ontleding.blokken.empty();
+        if (blijft) {
+            uitslag_.status = Status::ongewijzigd;
+        } else if (opties_.schrijft()) {
+            schrijf(knipsel, rechten);
+        }
+    }
+
+    void tel(const Brontekst& bron, const Ontleding& ontleding, const Knipsel& knipsel) {
+        uitslag_.regelsErin = telTekst(bron.geefTekst());
+        if (opties_.manier == Manier::venster) {
+            uitslag_.regelsEruit = telRegels(knipsel.geefInhoud());
+            return;
+        }
+        std::size_t weg = 0;
+        for (const Blok& blok : ontleding.blokken) {
+            weg += telRegels(bron.geefTekst().substr(blok.begin.begin, blok.eind.eind - blok.begin.begin));
+        }
+        const std::string& vervanging = geefVervanging();
+        const std::size_t erbij =
+            telRegels(vervanging) + (vervanging.empty() || vervanging.ends_with('\n') ? 0 : 1);
+        const auto vervangen =
+            static_cast<std::size_t>(std::count_if(ontleding.blokken.begin(), ontleding.blokken.end(),
+                                                   [](const Blok& blok) { return !blok.isLeeg(); }));
+        uitslag_.regelsEruit = uitslag_.regelsErin - weg + vervangen * erbij;
+    }
+
+    void schrijf(const Knipsel& knipsel, mode_t rechten) {
+        if (isOnderbroken()) {
+            throw Fout(noemReden(EINTR));
+        }
+        const Stukken stukken = [&knipsel](const Ontvanger& uit) { knipsel.geef(uit); };
+        if (opties_.terPlaatse) {
+            vervangTerPlaatse(taak_.doel, stukken);
+        } else if (taak_.doel.empty()) {
+            try {
+                schrijfAlles(STDOUT_FILENO, stukken);
+            } catch (const Fout& fout) {
+                throw Fout(std::string("standaarduitvoer: kan niet geschreven worden: ") + fout.what());
+            }
+        } else {
+            schrijfUitvoer(taak_.doel, stukken, rechten, soort_);
+        }
+    }
+
+    const Taak& taak_;
+    const Opties& opties_;
+    const Teksten& teksten_;
+    Uitvoersoort soort_;
+    Uitslag uitslag_;
+};
+
+void maakDirectory(const Taak& taak) {
+    std::error_code fout;
+    fs::create_directories(taak.doel, fout);
+    if (fout) {
+        throw Fout(taak.doel + ": kan niet gemaakt worden: " + noemReden(fout.value()));
+    }
+}
+
+void neemOver(const Taak& taak, Uitvoersoort soort) {
+    const Inhoud inhoud = leesInhoud(taak.bron);
+    schrijfUitvoer(
+        taak.doel, [&inhoud](const Ontvanger& uit) { uit(inhoud.bytes.geef()); }, inhoud.rechten, soort);
+}
+
+void legLink(const Taak& taak) {
+    std::error_code fout;
+    const fs::path naar = fs::read_symlink(taak.bron, fout);
+    if (!fout) {
+        fs::remove(taak.doel, fout);
+        fs::create_symlink(naar, taak.doel, fout);
+    }
+    if (fout) {
+        throw Fout(taak.doel + ": kan niet gemaakt worden: " + noemReden(fout.value()));
+    }
+}
+
+Uitslag doe(const Taak& taak, const Opties& opties, const Teksten& teksten, Uitvoersoort soort) {
+    if (taak.handeling == Handeling::knip) {
+        return Knipbeurt(taak, opties, teksten, soort).voerUit();
+    }
+    Uitslag uitslag;
+    uitslag.status = Status::overgenomen;
+    if (!opties.schrijft()) {
+        return uitslag;
+    }
+    switch (taak.handeling) {
+        case Handeling::maakDirectory:
+            maakDirectory(taak);
+            break;
+        case Handeling::neemOver:
+            neemOver(taak, soort);
+            break;
+        default:
+            legLink(taak);
+            break;
+    }
+    return uitslag;
+}
+
+}  // namespace
+
+Uitslag voerUit(const Taak& taak, const Opties& opties, const Teksten& teksten, Uitvoersoort soort) {
+    try {
+        return doe(taak, opties, teksten, soort);
+    } catch (const std::exception& fout) {
+        Uitslag uitslag;
+        uitslag.status = Status::mislukt;
+        uitslag.storing = fout.what();
+        return uitslag;
+    }
+}
+
+}  // namespace cli

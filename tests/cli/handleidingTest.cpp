@@ -1,0 +1,233 @@
+// De handleiding, de man-pagina's en de aanvulling voor bash. De voorbeelden komen uit de handleiding zelf en
+// worden gedraaid zoals een docent ze zou overnemen.
+
+#include <algorithm>
+#include <sstream>
+
+#include "KnipselaarCli/opties.h"
+#include "tests/cli/proef.h"
+#include "tests/hulp/opdracht.h"
+
+namespace fs = std::filesystem;
+
+using hulp::Boom;
+using proef::bron;
+using proef::knipsel;
+
+namespace {
+
+class CliHandleiding : public proef::Cli {
+  protected:
+    CliHandleiding() {
+        fs::create_directory(alles_ / "bin");
+        fs::create_symlink(KNIPSELAAR_CLI, alles_ / "bin/knipselaar-cli");
+    }
+
+    /// Het voorbeeld dat in de handleiding onder deze naam staat.
+    static std::string leesVoorbeeld(const std::string& naam) {
+        std::istringstream regels(hulp::leesBestand(BOOM "/docs/handleiding-cli.md"));
+        std::string voorbeeld;
+        bool binnen = false;
+        for (std::string regel; std::getline(regels, regel);) {
+            if (binnen && regel == "```") {
+                return voorbeeld;
+            }
+            if (binnen) {
+                voorbeeld += regel + "\n";
+            }
+            binnen = binnen || (regel.starts_with("```") && regel.ends_with(" " + naam));
+        }
+        ADD_FAILURE() << naam << " staat niet in de handleiding";
+        return {};
+    }
+
+    /// Voert een script uit in map_, met het gebouwde programma in het zoekpad. De uitvoer met het
+    /// foutkanaal, en de afloop als laatste regel.
+    std::string voerScriptUit(const std::string& script) const {
+        hulp::schrijfBestand(alles_ / "script", script);
+        return hulp::voerUit(
+            {"sh", "-c",
+             "cd '" + map_.string() + "' && PATH='" + (alles_ / "bin").string() + "':$PATH HOME='" +
+                 thuis_.string() +
+                 "' GIT_CONFIG_NOSYSTEM=1 GIT_AUTHOR_NAME=Docent GIT_AUTHOR_EMAIL=d@school.invalid "
+                 "GIT_COMMITTER_NAME=Docent GIT_COMMITTER_EMAIL=d@school.invalid STUDENTREPO='" +
+                 (alles_ / "student.git").string() + "' sh -e ../script 2>&1; echo \"afloop $?\""});
+    }
+
+    static std::vector<std::string> leesRegels(const std::string& tekst) {
+        std::vector<std::string> regels;
+        std::istringstream stroom(tekst);
+        for (std::string regel; std::getline(stroom, regel);) {
+            regels.push_back(regel);
+        }
+        return regels;
+    }
+
+    /// Wat bash aanvult na deze woorden; het laatste is nog niet af.
+    std::vector<std::string> vulAan(const std::string& woorden) const {
+        return leesRegels(hulp::voerUit(
+            {"bash", "-c",
+             "cd '" + map_.string() +
+                 "' && source '" BOOM "/gegevens/knipselaar-cli.bash' && COMP_WORDS=(knipselaar-cli " +
+                 woorden +
+                 "); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _knipselaar_cli; printf '%s\\n' "
+                 "\"${COMPREPLY[@]}\""}));
+    }
+};
+
+const std::string foutBron = "//**** Student Begin ****//\nx\n";
+
+}  // namespace
+
+TEST_F(CliHandleiding, NoemtElkeOptieOveral) {
+    const std::string handleiding = hulp::leesBestand(BOOM "/docs/handleiding-cli.md");
+    const std::string aanvulling = hulp::leesBestand(BOOM "/gegevens/knipselaar-cli.bash");
+    std::vector<std::string> paginas;
+    for (const char* pad : {BOOM "/docs/man/knipselaar-cli.1", BOOM "/docs/man/nl/knipselaar-cli.1"}) {
+        std::string pagina = hulp::leesBestand(pad);
+        std::erase(pagina, '\\');
+        paginas.push_back(pagina);
+    }
+    for (const cli::Optie& optie : cli::geefAlleOpties()) {
+        const std::string lang = std::string("--") + optie.lang;
+        const std::string kort = *optie.kort == '\0' ? "" : std::string("-") + optie.kort;
+        const std::string inHandleiding = "`" + (kort.empty() ? "" : kort + "`, `") + lang;
+        EXPECT_NE(std::string::npos, handleiding.find(inHandleiding)) << inHandleiding;
+        EXPECT_NE(std::string::npos, aanvulling.find(lang)) << lang;
+        const std::string inPagina = (kort.empty() ? "" : "fB" + kort + "fR, ") + "fB" + lang + "fR";
+        for (const std::string& pagina : paginas) {
+            EXPECT_NE(std::string::npos, pagina.find(inPagina)) << inPagina;
+        }
+    }
+}
+
+TEST_F(CliHandleiding, DeManPaginasZijnInOrde) {
+    for (const std::string pad : {BOOM "/docs/man/knipselaar-cli.1", BOOM "/docs/man/nl/knipselaar-cli.1"}) {
+        EXPECT_EQ("in orde\n", hulp::voerUit({"sh", "-c",
+                                              "LC_ALL=C.UTF-8 man --warnings -E UTF-8 -l -Tutf8 '" + pad +
+                                                  "' 2>&1 >/dev/null && echo in orde"}));
+        EXPECT_NE(std::string::npos,
+                  hulp::leesBestand(pad).find("Knipselaar " + draai({"-V"}).uit.substr(15, 3)));
+    }
+}
+
+TEST_F(CliHandleiding, BashVultAan) {
+    using Woorden = std::vector<std::string>;
+    schrijf("een.c", bron);
+    fs::create_directory(map_ / "eendir");
+    EXPECT_EQ((Woorden{"--droog"}), vulAan("--dr"));
+    EXPECT_EQ((Woorden{"--bewijs", "--bewijs-lengte"}), vulAan("een.c --bew"));
+    EXPECT_EQ((Woorden{"talen", "vhdl", "alles"}), vulAan("--keuze ''"));
+    EXPECT_EQ((Woorden{"vhdl"}), vulAan("-k v"));
+    EXPECT_EQ((Woorden{"vhdl"}), vulAan("--taal = v"));
+    EXPECT_EQ((Woorden{"eendir"}), vulAan("--naar e"));
+    EXPECT_EQ((Woorden{""}), vulAan("--begin e"));
+    Woorden bestanden = vulAan("ee");
+    std::sort(bestanden.begin(), bestanden.end());
+    EXPECT_EQ((Woorden{"een.c", "eendir"}), bestanden);
+    EXPECT_EQ(cli::geefAlleOpties().size(), vulAan("--").size());
+}
+
+TEST_F(CliHandleiding, DeMakefileKniptWatVeranderdIs) {
+    schrijf("Makefile", leesVoorbeeld("Makefile"));
+    schrijf("a.c", bron);
+    schrijf("b.h", bron);
+    const std::string regel = "knipselaar-cli --zonder-instellingen --overschrijf --uit student/";
+    const std::string eerste = voerScriptUit("make student");
+    EXPECT_NE(std::string::npos, eerste.find(regel + "a.c a.c\n")) << eerste;
+    EXPECT_EQ((Boom{{"a.c", knipsel}, {"b.h", knipsel}}), leesBoom("student"));
+    EXPECT_EQ(std::string::npos, voerScriptUit("make student").find("knipselaar-cli"));
+    const std::string tweede = voerScriptUit("touch -d '1 hour' b.h; make student");
+    EXPECT_NE(std::string::npos, tweede.find(regel + "b.h b.h\n")) << tweede;
+    EXPECT_EQ(std::string::npos, tweede.find("a.c")) << tweede;
+    schrijf("a.c", foutBron);
+    const std::string fout = voerScriptUit("touch -d '1 hour' a.c; make student");
+    EXPECT_NE(std::string::npos, fout.find("a.c:1: fout: beginmarker zonder eindmarker\n")) << fout;
+    EXPECT_EQ(std::string::npos, fout.find("afloop 0")) << fout;
+    EXPECT_EQ(knipsel, lees("student/a.c"));
+}
+
+TEST_F(CliHandleiding, DeHookHoudtEenFouteCommitTegen) {
+    voerScriptUit("git init --quiet");
+    schrijf(".git/hooks/pre-commit", leesVoorbeeld("pre-commit"));
+    fs::permissions(map_ / ".git/hooks/pre-commit", fs::perms::all);
+    schrijf("met spatie.c", bron);
+    schrijf("LEESMIJ", foutBron);
+    EXPECT_EQ("afloop 0\n", voerScriptUit("git add -A; git commit --quiet -m goed"));
+    schrijf("fout.c", foutBron);
+    EXPECT_EQ("fout.c:1: fout: beginmarker zonder eindmarker\nafloop 1\n",
+              voerScriptUit("git add -A; git commit --quiet -m fout"));
+    EXPECT_EQ("goed\nafloop 0\n", voerScriptUit("git log --format=%s"));
+    EXPECT_EQ("afloop 0\n",
+              voerScriptUit("git rm --quiet --cached fout.c; git commit --quiet --allow-empty -m leeg"))
+        << "zonder C of VHDL valt er niets na te kijken";
+}
+
+TEST_F(CliHandleiding, DeTaakPubliceertDeStudentversie) {
+    std::string script;
+    for (const std::string& regel : leesRegels(leesVoorbeeld("studentversie"))) {
+        script += regel.starts_with("    - ") ? regel.substr(6) + "\n" : "";
+    }
+    schrijf("opdrachten/lab1/a.c", bron);
+    schrijf("opdrachten/lab1/Makefile", "all:\n");
+    voerScriptUit(
+        "git init --quiet --bare -b hoofd ../student.git; git init --quiet; git add -A; git commit -q -m "
+        "een");
+    const auto gepubliceerd = [this] {
+        return voerScriptUit(
+            "git -C ../student.git ls-tree -r --name-only HEAD; git -C ../student.git show "
+            "HEAD:lab1/a.c; git -C ../student.git rev-list --count HEAD");
+    };
+    const auto publiceer = [&] {
+        fs::remove_all(map_ / "student");
+        return voerScriptUit(script);
+    };
+    const std::string eerste = publiceer();
+    EXPECT_TRUE(eerste.ends_with("1 bestand geknipt, 1 blok, 1 overgenomen, bewezen schoon\nafloop 0\n"))
+        << eerste;
+    EXPECT_EQ("lab1/Makefile\nlab1/a.c\n" + knipsel + "1\nafloop 0\n", gepubliceerd());
+    EXPECT_NE(std::string::npos, publiceer().find("afloop 0")) << "zonder verandering";
+    EXPECT_EQ("lab1/Makefile\nlab1/a.c\n" + knipsel + "1\nafloop 0\n", gepubliceerd());
+    schrijf("opdrachten/LEESMIJ", "geheime oplossing\n");
+    const std::string lek = publiceer();
+    EXPECT_NE(std::string::npos,
+              lek.find("student/LEESMIJ:1: fout: hier staat de weggelaten regel van opdrachten/lab1/a.c:3\n"))
+        << lek;
+    EXPECT_TRUE(lek.ends_with("afloop 1\n")) << lek;
+    EXPECT_EQ("lab1/Makefile\nlab1/a.c\n" + knipsel + "1\nafloop 0\n", gepubliceerd());
+    schrijf("opdrachten/LEESMIJ", "veel plezier\n");
+    fs::remove(map_ / "opdrachten/lab1/Makefile");
+    publiceer();
+    EXPECT_EQ("LEESMIJ\nlab1/a.c\n" + knipsel + "2\nafloop 0\n", gepubliceerd());
+}
+
+TEST_F(CliHandleiding, DeEersteVoorbeeldenWerken) {
+    schrijf("ringbuffer.c", bron);
+    schrijf("x.h", bron);
+    schrijf("lab/a.c", bron);
+    schrijf("lab/LEESMIJ", "tekst");
+    schrijf("kopie/b.c", bron);
+    schrijf("teller.vhd", bron);
+    const std::string handleiding = hulp::leesBestand(BOOM "/docs/handleiding-cli.md");
+    const std::size_t begin = handleiding.find("```sh\n") + 6;
+    const std::string uitvoer =
+        voerScriptUit(handleiding.substr(begin, handleiding.find("```", begin) - begin));
+    EXPECT_TRUE(uitvoer.ends_with("afloop 0\n")) << uitvoer;
+    EXPECT_EQ((Boom{{"LEESMIJ", "tekst"}, {"a.c", knipsel}}), leesBoom("student"));
+    EXPECT_EQ((Boom{{"opgave.c", knipsel}, {"ringbuffer.c", knipsel}, {"x.h", knipsel}}),
+              leesBoom("opgaven"));
+    EXPECT_EQ(knipsel, lees("opgave.c"));
+    EXPECT_EQ(knipsel, lees("kopie/b.c"));
+}
+
+TEST_F(CliHandleiding, DeInstallatieZetAllesNeer) {
+    const fs::path doel = alles_ / "installatie";
+    const std::string verslag =
+        hulp::voerUit({"sh", "-c", "cmake --install '" BOUWMAP "' --prefix '" + doel.string() + "' 2>&1"});
+    for (const char* pad :
+         {"bin/knipselaar-cli", "share/man/man1/knipselaar-cli.1", "share/man/nl/man1/knipselaar-cli.1",
+          "share/bash-completion/completions/knipselaar-cli"}) {
+        EXPECT_TRUE(fs::is_regular_file(doel / pad)) << pad << "\n" << verslag;
+    }
+    EXPECT_EQ("knipselaar-cli 1.0\n", draai({"-V"}, {.programma = doel / "bin/knipselaar-cli"}).uit);
+}

@@ -1,0 +1,259 @@
+// Wat niet kan: één duidelijke regel die zegt waar het om gaat en wat eraan te doen is, en niets half
+// geschreven.
+
+#include <fcntl.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "tests/cli/proef.h"
+
+namespace fs = std::filesystem;
+
+using hulp::Boom;
+using proef::bron;
+using proef::goed;
+using proef::storing;
+using proef::Uitkomst;
+using proef::Woorden;
+
+namespace {
+
+class CliSlechteInvoer : public proef::Cli {};
+
+/// Een bestandssysteem van 300 kB; alleen root mag er een maken.
+class Schijf {
+  public:
+    explicit Schijf(const fs::path& plaats) : plaats_(plaats) {
+        fs::create_directories(plaats);
+        gelukt_ = mount("knipseltest", plaats.c_str(), "tmpfs", 0, "size=300k") == 0;
+    }
+    Schijf(const Schijf&) = delete;
+    Schijf& operator=(const Schijf&) = delete;
+    ~Schijf() {
+        if (gelukt_) {
+            umount2(plaats_.c_str(), MNT_DETACH);
+        }
+    }
+    bool isEr() const { return gelukt_; }
+
+  private:
+    fs::path plaats_;
+    bool gelukt_ = false;
+};
+
+}  // namespace
+
+TEST_F(CliSlechteInvoer, MeldtVerkeerdeOpties) {
+    const std::vector<std::pair<Woorden, std::string>> gevallen{
+        {{"--nietbekend"}, "onbekende optie '--nietbekend'; zie knipselaar-cli --help"},
+        {{"-Q", "a.c"}, "onbekende optie '-Q'; zie knipselaar-cli --help"},
+        {{"a.c", "--uit"}, "optie 'uit' heeft een waarde nodig; zie knipselaar-cli --help"},
+        {{"a.c", "-u"}, "optie 'u' heeft een waarde nodig; zie knipselaar-cli --help"},
+        {{"--stil=ja", "a.c"}, "optie 'stil' heeft geen waarde; zie knipselaar-cli --help"},
+        {{"a.c", "--uit="}, "--uit: de naam is leeg; geef een naam"},
+        {{}, "er is niets om te knippen; noem een bestand, een directory, of '-'"},
+        {{"-k", "pascal", "a.c"}, "--keuze: 'pascal' is geen keuze; kies talen, vhdl of alles"},
+        {{"-T", "ada", "a.c"}, "--taal: 'ada' is geen keuze; kies c, vhdl of overig"},
+        {{"--taken", "veel", "a.c"}, "--taken: 'veel' is geen getal; geef een geheel getal vanaf 0"},
+        {{"-L", "-1", "a.c"}, "--bewijs-lengte: '-1' is geen getal; geef een geheel getal vanaf 0"},
+        {{"-u", "x", "-n", "y", "a.c"}, "--uit, --naar en --ter-plaatse gaan niet samen; kies er één"},
+        {{"-t", "-n", "y", "a.c"}, "--uit, --naar en --ter-plaatse gaan niet samen; kies er één"},
+        {{"a.c", "b.c"}, "er zijn 2 bronnen voor één uitvoer; geef --naar of --ter-plaatse"},
+        {{"-", "-t"}, "de standaardinvoer ('-') heeft geen naam; gebruik --uit of de standaarduitvoer"},
+        {{"-", "-n", "x"}, "de standaardinvoer ('-') heeft geen naam; gebruik --uit of de standaarduitvoer"},
+        {{"-", "a.c", "-c"}, "'-' gaat niet samen met andere bronnen; geef hem alleen"},
+        {{"-g", "-a", "a.c"}, "--getrouw en --als-venster gaan niet samen; kies er één"},
+        {{"-i", "-a", "a.c"}, "--inspringen gaat niet samen met --als-venster; het venster springt niet in"},
+        {{"-c", "-d", "a.c"}, "--controle, --droog en --verschil gaan niet samen; kies er één"},
+        {{"-j", "a.c"},
+         "--json gaat niet samen met een knipsel of verschil op de standaarduitvoer; geef --uit, --naar, "
+         "--ter-plaatse, "
+         "--controle of --droog"},
+        {{"-p", "a.c"},
+         "--bewijs heeft een bestemming nodig om na te lezen; geef --uit, --naar of --ter-plaatse"},
+        {{"-p", "-c", "a.c"},
+         "--bewijs heeft een bestemming nodig om na te lezen; geef --uit, --naar of --ter-plaatse"},
+        {{"-p", "-d", "-n", "x", "a.c"},
+         "--bewijs gaat niet samen met --droog of --verschil; die schrijven geen bestemming"},
+    };
+    schrijf("a.c", bron);
+    schrijf("b.c", bron);
+    for (const auto& [woorden, melding] : gevallen) {
+        EXPECT_EQ(storing(melding), draai(woorden)) << testing::PrintToString(woorden);
+    }
+    EXPECT_EQ((Boom{{"a.c", bron}, {"b.c", bron}}), leesBoom(""));
+}
+
+TEST_F(CliSlechteInvoer, MeldtWatErNietIs) {
+    EXPECT_EQ(storing("weg.c: kan niet gelezen worden: bestaat niet; kijk de naam na"), draai({"weg.c"}));
+    EXPECT_EQ(storing("weg: kan niet gelezen worden: bestaat niet; kijk de naam na"),
+              draai({"weg", "-n", "uit"}));
+    schrijf("a.c", bron);
+    EXPECT_EQ(
+        storing("a.c/b.c: kan niet gelezen worden: een deel van het pad is geen directory; kijk de naam na"),
+        draai({"a.c/b.c"}));
+    EXPECT_EQ(storing("weg/b.c: de directory weg bestaat niet; maak haar eerst"),
+              draai({"a.c", "-u", "weg/b.c"}));
+    EXPECT_EQ((Boom{{"a.c", bron}}), leesBoom(""));
+}
+
+TEST_F(CliSlechteInvoer, MeldtEenDirectoryWaarEenBestandHoort) {
+    schrijf("boom/a.c", bron);
+    EXPECT_EQ(storing("boom: is een directory; geef --naar DIR of --ter-plaatse, of noem een bestand"),
+              draai({"boom"}));
+    EXPECT_EQ(storing("boom: is een directory; geef --naar DIR of --ter-plaatse, of noem een bestand"),
+              draai({"boom", "-u", "x"}));
+    EXPECT_EQ(storing("boom: is een directory; geef --naar, of noem een bestand"),
+              draai({"boom/a.c", "-f", "-u", "boom"}));
+    EXPECT_EQ(
+        storing("boom/a.c: is geen directory; geef met --naar een directory, of --uit voor één bestand"),
+        draai({"boom/a.c", "-n", "boom/a.c"}));
+    EXPECT_EQ(2, draai({"--vervang-uit", "boom", "boom/a.c"}).status);
+}
+
+TEST_F(CliSlechteInvoer, MeldtEenBestemmingDieInDeWegStaat) {
+    schrijf("bron/a.c", bron);
+    schrijf("bron/sub/b.c", bron);
+    fs::create_directories(map_ / "uit/a.c");
+    EXPECT_EQ(storing("uit/a.c: bestaat al en is een directory; haal haar weg"),
+              draai({"-f", "bron", "-n", "uit"}));
+    fs::remove(map_ / "uit/a.c");
+    schrijf("uit/sub", "een bestand");
+    EXPECT_EQ(storing("uit/sub: bestaat al en is geen directory; haal het weg"),
+              draai({"-f", "-r", "bron", "-n", "uit"}));
+    EXPECT_EQ((Boom{{"sub", "een bestand"}}), leesBoom("uit"));
+    EXPECT_EQ(storing("/dev/null: bestaat al en is geen gewoon bestand; kies een andere bestemming"),
+              draai({"-f", "bron/a.c", "-u", "/dev/null"}));
+}
+
+TEST_F(CliSlechteInvoer, LeestGeenPijpOfApparaat) {
+    ASSERT_EQ(0, mkfifo((map_ / "pijp.c").c_str(), 0600));
+    EXPECT_EQ(storing("pijp.c: is geen gewoon bestand; gebruik '-' voor de standaardinvoer"),
+              draai({"pijp.c"}));
+    EXPECT_EQ(storing("/dev/null: is geen gewoon bestand; gebruik '-' voor de standaardinvoer"),
+              draai({"/dev/null"}));
+}
+
+TEST_F(CliSlechteInvoer, MeldtWatNietTeLezenIsEnKniptDeRest) {
+    schrijf("boom/a.c", bron);
+    schrijf("boom/dicht.c", bron);
+    chmod((map_ / "boom/dicht.c").c_str(), 0000);
+    const Uitkomst verwacht{.status = 2,
+                            .uit = "1 bestand geknipt, 1 blok, 1 mislukt\n",
+                            .fout =
+                                "knipselaar-cli: fout: boom/dicht.c: kan niet gelezen worden: geen toegang; "
+                                "geef rechten of kies een "
+                                "andere plaats\n"};
+    EXPECT_EQ(verwacht, draai({"boom", "-n", "uit"}, {.gewoneGebruiker = true}));
+    EXPECT_EQ(1U, leesBoom("uit").size());
+    fs::create_directories(map_ / "boom/sub");
+    chmod((map_ / "boom/sub").c_str(), 0000);
+    EXPECT_EQ(
+        storing("boom/sub: kan niet gelezen worden: geen toegang; geef rechten of kies een andere plaats"),
+        draai({"-r", "boom", "-n", "uit2"}, {.gewoneGebruiker = true}));
+    EXPECT_FALSE(bestaat("uit2"));
+    chmod((map_ / "boom/sub").c_str(), 0700);
+    chmod((map_ / "boom/dicht.c").c_str(), 0600);
+}
+
+TEST_F(CliSlechteInvoer, MeldtWatNietTeSchrijvenIs) {
+    schrijf("a.c", bron);
+    chmod((map_ / "a.c").c_str(), 0644);
+    fs::create_directory(map_ / "vast");
+    chmod((map_ / "vast").c_str(), 0555);
+    const std::string reden = "geen toegang; geef rechten of kies een andere plaats";
+    EXPECT_EQ(storing("vast/a.c: kan niet geschreven worden: " + reden),
+              draai({"a.c", "-u", "vast/a.c"}, {.gewoneGebruiker = true}));
+    EXPECT_EQ("knipselaar-cli: fout: vast/uit: kan niet gemaakt worden: " + reden +
+                  "\nknipselaar-cli: fout: vast/uit/a.c: kan niet geschreven worden: bestaat niet\n",
+              draai({"a.c", "-n", "vast/uit"}, {.gewoneGebruiker = true}).fout);
+    schrijf("vast/b.c", bron);
+    chmod((map_ / "vast/b.c").c_str(), 0644);
+    EXPECT_EQ(
+        (Uitkomst{.status = 2,
+                  .uit = "0 bestanden geknipt, 0 blokken, 1 mislukt\n",
+                  .fout = "knipselaar-cli: fout: vast/b.c: kan niet vervangen worden: " + reden + "\n"}),
+        draai({"-t", "vast/b.c"}, {.gewoneGebruiker = true}));
+    EXPECT_EQ(bron, lees("vast/b.c"));
+    chmod((map_ / "vast").c_str(), 0755);
+    EXPECT_EQ((Boom{{"b.c", bron}}), leesBoom("vast"));
+}
+
+TEST_F(CliSlechteInvoer, LaatAllesStaanZonderTijdelijkBestand) {
+    schrijf("a.c", bron);
+    const Uitkomst uitkomst = draai({"-t", "a.c"}, {.omgeving = {{"TMPDIR", "/proc"}}});
+    EXPECT_EQ(2, uitkomst.status);
+    EXPECT_EQ(
+        "knipselaar-cli: fout: a.c: blijft zoals het is: er is geen tijdelijk bestand te maken; zet TMPDIR "
+        "op een "
+        "directory waar dat kan\n",
+        uitkomst.fout);
+    EXPECT_EQ((Boom{{"a.c", bron}}), leesBoom(""));
+}
+
+TEST_F(CliSlechteInvoer, LaatBijEenVolleSchijfNietsHalfsAchter) {
+    const std::string groot = std::string(400'000, 'x') + "\n" + bron;
+    schrijf("a.c", bron);
+    schrijf("groot.c", groot);
+    const Schijf schijf(map_ / "schijf");
+    if (!schijf.isEr()) {
+        GTEST_SKIP() << "alleen root kan een bestandssysteem aankoppelen";
+    }
+    const Uitkomst uitkomst = draai({"-vX", "a.c", "groot.c", "-n", "schijf/uit"});
+    EXPECT_EQ(
+        (Uitkomst{
+            .status = 2,
+            .uit = "1 bestand geknipt, 1 blok, 1 mislukt\n",
+            .fout = "knipselaar-cli: fout: schijf/uit/groot.c: kan niet geschreven worden: de schijf is vol; "
+                    "maak ruimte en probeer het opnieuw\n"}),
+        uitkomst);
+    EXPECT_EQ((Boom{{"a.c", proef::knipselX}}), leesBoom("schijf/uit"));
+    const proef::Start vol{.omgeving = {{"TMPDIR", map_ / "schijf"}}};
+    EXPECT_EQ(2, draai({"-vX", "-t", "groot.c"}, vol).status);
+    EXPECT_EQ(groot, lees("groot.c"));
+    EXPECT_EQ(2U, leesBoom("schijf").size()) << "geen tijdelijk bestand bleef achter";
+}
+
+TEST_F(CliSlechteInvoer, LaatBijEenTeGrootBestandNietsHalfsAchter) {
+    for (const std::size_t lengte : {150'000U, 400'000U}) {
+        const std::string groot = std::string(lengte, 'x') + "\n" + bron;
+        schrijf("groot.c", groot);
+        const proef::Start krap{.grootsteBestand = 100'000};
+        EXPECT_EQ(storing("uit.c: kan niet geschreven worden: het bestand wordt groter dan mag"),
+                  draai({"groot.c", "-u", "uit.c"}, krap));
+        EXPECT_EQ(2, draai({"-t", "groot.c"}, krap).status);
+        EXPECT_EQ((Boom{{"groot.c", groot}}), leesBoom(""));
+        EXPECT_TRUE(fs::is_empty(tijdelijk_));
+    }
+}
+
+TEST_F(CliSlechteInvoer, MeldtEenGebrokenPijp) {
+    schrijf("a.c", std::string(1'000'000, 'x'));
+    std::array<int, 2> pijp{};
+    ASSERT_EQ(0, pipe2(pijp.data(), O_CLOEXEC));
+    close(pijp[0]);
+    const int niets = open("/dev/null", O_RDWR | O_CLOEXEC);
+    const int fout = open((alles_ / "fout").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    for (const Woorden& woorden : {Woorden{"a.c"}, Woorden{"--controle", "a.c"}, Woorden{"--help"}}) {
+        ASSERT_EQ(0, ftruncate(fout, 0));
+        lseek(fout, 0, SEEK_SET);
+        EXPECT_EQ(2, wacht(start(woorden, {}, niets, pijp[1], fout)));
+        EXPECT_EQ(
+            "knipselaar-cli: fout: standaarduitvoer: kan niet geschreven worden: de lezer van de pijp is "
+            "gestopt\n",
+            hulp::leesBestand(alles_ / "fout"));
+    }
+    for (const int kanaal : {pijp[1], niets, fout}) {
+        close(kanaal);
+    }
+}
+
+TEST_F(CliSlechteInvoer, MeldtEenVolleStandaarduitvoer) {
+    schrijf("a.c", bron);
+    const int vol = open("/dev/full", O_WRONLY | O_CLOEXEC);
+    const int niets = open("/dev/null", O_RDWR | O_CLOEXEC);
+    EXPECT_EQ(2, wacht(start({"a.c"}, {}, niets, vol, niets)));
+    close(vol);
+    close(niets);
+}

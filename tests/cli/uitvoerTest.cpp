@@ -1,0 +1,292 @@
+// Waar het knipsel heen gaat: de standaarduitvoer, een bestand, een directory, een hele boom of ter plaatse.
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "tests/cli/proef.h"
+
+namespace fs = std::filesystem;
+
+using hulp::Boom;
+using proef::bron;
+using proef::goed;
+using proef::knipsel;
+using proef::knipselX;
+using proef::storing;
+using proef::Uitkomst;
+
+namespace {
+
+class CliUitvoer : public proef::Cli {
+  protected:
+    mode_t geefRechten(const std::string& naam) const {
+        return static_cast<mode_t>(fs::status(map_ / naam).permissions());
+    }
+};
+
+}  // namespace
+
+TEST_F(CliUitvoer, KniptEenBestandNaarDeStandaarduitvoer) {
+    schrijf("a.c", bron);
+    EXPECT_EQ(goed(knipsel), draai({"a.c"}));
+    EXPECT_EQ((Boom{{"a.c", bron}}), leesBoom(""));
+}
+
+TEST_F(CliUitvoer, KniptDeStandaardinvoer) {
+    EXPECT_EQ(goed(knipselX), draai({"-v", "X", "-"}, {.invoer = bron}));
+    EXPECT_EQ(goed(), draai({"-"}));
+    EXPECT_EQ(goed("geen nieuwe regel"), draai({"-"}, {.invoer = "geen nieuwe regel"}));
+}
+
+TEST_F(CliUitvoer, KniptEenGroteStandaardinvoer) {
+    const std::string groot(3'000'000, 'x');
+    EXPECT_TRUE(goed(groot + "\n" + knipselX) == draai({"-vX", "-"}, {.invoer = groot + "\n" + bron}));
+}
+
+TEST_F(CliUitvoer, SchrijftNaarEenBestandMetDeRechtenVanDeBron) {
+    schrijf("a.c", bron);
+    for (const mode_t rechten : {0644U, 0755U, 0444U, 0600U}) {
+        chmod((map_ / "a.c").c_str(), rechten);
+        const std::string doel = "uit" + std::to_string(rechten);
+        EXPECT_EQ(goed(), draai({"a.c", "--uit", doel}));
+        EXPECT_EQ(knipsel, lees(doel));
+        EXPECT_EQ(rechten, geefRechten(doel));
+    }
+    EXPECT_EQ(goed(), draai({"-", "-u", "invoer.c"}, {.invoer = bron}));
+    EXPECT_EQ(0644U, geefRechten("invoer.c"));
+}
+
+TEST_F(CliUitvoer, OverschrijftAlleenEerdereUitvoerOfWatMag) {
+    schrijf("a.c", bron);
+    EXPECT_EQ(goed(), draai({"a.c", "-u", "b.c"}));
+    EXPECT_EQ(goed(), draai({"a.c", "-vX", "-u", "b.c"})) << "eigen uitvoer";
+    EXPECT_EQ(knipselX, lees("b.c"));
+    schrijf("b.c", "met de hand veranderd");
+    const std::string melding =
+        "b.c: bestaat al en is geen eerdere uitvoer van zo'n run; geef --overschrijf om het te vervangen";
+    EXPECT_EQ(storing(melding), draai({"a.c", "-u", "b.c"}));
+    EXPECT_EQ("met de hand veranderd", lees("b.c"));
+    EXPECT_EQ(goed(), draai({"a.c", "-u", "b.c", "--overschrijf"}));
+    EXPECT_EQ(knipsel, lees("b.c"));
+}
+
+TEST_F(CliUitvoer, EerdereUitvoerVanEenAndereSoortIsNietVanDezeRun) {
+    schrijf("bron/a.c", bron);
+    EXPECT_EQ(0, draai({"bron", "--naar", "uit"}).status);
+    EXPECT_EQ(2, draai({"-r", "bron", "--naar", "uit"}).status);
+    EXPECT_EQ(2, draai({"bron/a.c", "--uit", "uit/a.c"}).status);
+    EXPECT_EQ(0, draai({"bron", "--naar", "uit"}).status);
+}
+
+TEST_F(CliUitvoer, OverschrijftEenLinkAlleenWaarZijHeenWijst) {
+    schrijf("a.c", bron);
+    schrijf("elders/oud.c", "oud");
+    fs::create_symlink("elders/oud.c", map_ / "link.c");
+    EXPECT_EQ(goed(), draai({"-f", "a.c", "-u", "link.c"}));
+    EXPECT_EQ(
+        (Boom{{"a.c", bron}, {"elders", "/"}, {"elders/oud.c", knipsel}, {"link.c", "-> elders/oud.c"}}),
+        leesBoom(""));
+}
+
+TEST_F(CliUitvoer, KniptBestandenNaarEenDirectory) {
+    schrijf("a.c", bron);
+    schrijf("sub/b.h", bron);
+    schrijf("c.txt", bron);
+    EXPECT_EQ(goed("3 bestanden geknipt, 3 blokken\n"),
+              draai({"-vX", "a.c", "sub/b.h", "c.txt", "-n", "uit/diep"}));
+    EXPECT_EQ((Boom{{"diep", "/"}, {"diep/a.c", knipselX}, {"diep/b.h", knipselX}, {"diep/c.txt", knipselX}}),
+              leesBoom("uit"));
+}
+
+TEST_F(CliUitvoer, KniptEenDirectoryPlat) {
+    schrijf("bron/a.c", bron);
+    schrijf("bron/Makefile", "all:\n");
+    schrijf("bron/sub/b.c", bron);
+    EXPECT_EQ(goed("1 bestand geknipt, 1 blok\n"), draai({"bron", "--naar", "uit", "-vX"}));
+    EXPECT_EQ((Boom{{"a.c", knipselX}}), leesBoom("uit"));
+}
+
+TEST_F(CliUitvoer, KopieertEenHeleBoom) {
+    schrijf("bron/a.c", bron);
+    schrijf("bron/Makefile", "all:\n\tcc a.c\n");
+    schrijf("bron/LEESMIJ", "tekst zonder extensie");
+    schrijf("bron/sub/b.vhd", bron);
+    schrijf("bron/sub/plaatje.png", std::string("\x89PNG\0\xFF", 6));
+    fs::create_directory(map_ / "bron/leeg");
+    fs::create_symlink("sub/b.vhd", map_ / "bron/link.vhd");
+    fs::create_symlink("sub", map_ / "bron/linkdir");
+    EXPECT_EQ(goed("2 bestanden geknipt, 2 blokken, 5 overgenomen\n"),
+              draai({"-vX", "-r", "bron", "-n", "uit"}));
+    EXPECT_EQ((Boom{{"LEESMIJ", "tekst zonder extensie"},
+                    {"Makefile", "all:\n\tcc a.c\n"},
+                    {"a.c", knipselX},
+                    {"leeg", "/"},
+                    {"link.vhd", "-> sub/b.vhd"},
+                    {"linkdir", "-> sub"},
+                    {"sub", "/"},
+                    {"sub/b.vhd", knipselX},
+                    {"sub/plaatje.png", std::string("\x89PNG\0\xFF", 6)}}),
+              leesBoom("uit"));
+    EXPECT_EQ(0, draai({"-vX", "-r", "bron", "-n", "uit"}).status) << "nog eens over eigen uitvoer";
+}
+
+TEST_F(CliUitvoer, HoudtDeRechtenInEenBoom) {
+    schrijf("bron/a.c", bron);
+    schrijf("bron/doe.sh", "#!/bin/sh\n");
+    chmod((map_ / "bron/a.c").c_str(), 0444);
+    chmod((map_ / "bron/doe.sh").c_str(), 0755);
+    EXPECT_EQ(0, draai({"-r", "bron", "-n", "uit"}).status);
+    EXPECT_EQ(0444U, geefRechten("uit/a.c"));
+    EXPECT_EQ(0755U, geefRechten("uit/doe.sh"));
+}
+
+TEST_F(CliUitvoer, VolgtGeenLinkDeBoomUit) {
+    schrijf("buiten/geheim.c", bron);
+    schrijf("bron/a.c", bron);
+    fs::create_symlink("../buiten", map_ / "bron/weg");
+    fs::create_symlink("../buiten/geheim.c", map_ / "bron/geheim.c");
+    fs::create_symlink((map_ / "bron/a.c").string(), map_ / "bron/absoluut.c");
+    fs::create_symlink("nergens", map_ / "bron/dood.c");
+    const auto buiten = [](const std::string& naam) {
+        return "knipselaar-cli: waarschuwing: bron/" + naam +
+               ": is een link die buiten bron uitkomt; overgeslagen\n";
+    };
+    EXPECT_EQ(
+        (Uitkomst{.status = 0,
+                  .uit = "1 bestand geknipt, 1 blok\n",
+                  .fout = buiten("absoluut.c") + buiten("dood.c") + buiten("geheim.c") + buiten("weg")}),
+        draai({"-vX", "-r", "bron", "-n", "uit"}));
+    EXPECT_EQ((Boom{{"a.c", knipselX}}), leesBoom("uit"));
+    EXPECT_EQ(0, draai({"-vX", "-r", "-t", "bron"}).status);
+    EXPECT_EQ((Boom{{"geheim.c", bron}}), leesBoom("buiten"));
+    EXPECT_EQ(knipselX, lees("bron/a.c"));
+}
+
+TEST_F(CliUitvoer, SchrijftNietDoorEenLinkInDeBestemming) {
+    schrijf("bron/sub/a.c", bron);
+    fs::create_directories(map_ / "uit");
+    fs::create_directories(map_ / "elders");
+    fs::create_symlink("../elders", map_ / "uit/sub");
+    EXPECT_EQ(storing("uit/sub: is een link; haal haar weg, anders wordt er buiten uit geschreven"),
+              draai({"-r", "bron", "-n", "uit"}));
+    EXPECT_EQ((Boom{}), leesBoom("elders"));
+}
+
+TEST_F(CliUitvoer, KniptTerPlaatse) {
+    schrijf("a.c", bron);
+    chmod((map_ / "a.c").c_str(), 0755);
+    schrijf("vast.c", bron);
+    chmod((map_ / "vast.c").c_str(), 0444);
+    schrijf("zonder.c", "niets te knippen");
+    schrijf("LEESMIJ", bron);
+    EXPECT_EQ(goed("3 bestanden geknipt, 3 blokken, 1 zonder blok\n"),
+              draai({"-vX", "--ter-plaatse", "a.c", "vast.c", "zonder.c", "LEESMIJ"}));
+    EXPECT_EQ((Boom{{"LEESMIJ", knipselX},
+                    {"a.c", knipselX},
+                    {"vast.c", knipselX},
+                    {"zonder.c", "niets te knippen"}}),
+              leesBoom(""));
+    EXPECT_EQ(0755U, geefRechten("a.c"));
+    EXPECT_EQ(0444U, geefRechten("vast.c"));
+    EXPECT_TRUE(fs::is_empty(tijdelijk_));
+}
+
+TEST_F(CliUitvoer, KniptEenBoomTerPlaatseEnElkBestandEenmaal) {
+    schrijf("boom/a.c", bron);
+    schrijf("boom/sub/b.cpp", bron);
+    schrijf("boom/sub/c.txt", bron);
+    fs::create_symlink("a.c", map_ / "boom/link.c");
+    EXPECT_EQ(goed("2 bestanden geknipt, 2 blokken\n"),
+              draai({"-vX", "-t", "-r", "boom", "boom/a.c", "boom/link.c"}));
+    EXPECT_EQ((Boom{{"a.c", knipselX},
+                    {"link.c", "-> a.c"},
+                    {"sub", "/"},
+                    {"sub/b.cpp", knipselX},
+                    {"sub/c.txt", bron}}),
+              leesBoom("boom"));
+    EXPECT_EQ(goed("0 bestanden geknipt, 0 blokken, 1 zonder blok\n"), draai({"-t", "boom"}))
+        << "zonder -r plat";
+}
+
+TEST_F(CliUitvoer, LaatEenGenoemdeLinkTerPlaatseEenLink) {
+    schrijf("echt/a.c", bron);
+    fs::create_symlink("echt/a.c", map_ / "link.c");
+    EXPECT_EQ(0, draai({"-vX", "-t", "link.c"}).status);
+    EXPECT_EQ((Boom{{"echt", "/"}, {"echt/a.c", knipselX}, {"link.c", "-> echt/a.c"}}), leesBoom(""));
+}
+
+TEST_F(CliUitvoer, WerktOpElkeNaamInElkeLocale) {
+    const proef::Woorden namen{"met spatie.c", "één.c", "\xE9\xE9n.c", "-streep.c", "'aanhaling\".c"};
+    for (const std::string locale : {"C.UTF-8", "C", "nl_NL.UTF-8"}) {
+        const proef::Start start{.omgeving = {{"LC_ALL", locale}}};
+        for (const std::string& naam : namen) {
+            schrijf(naam, bron);
+            EXPECT_EQ(goed(knipselX), draai({"-v", "X", "--", naam}, start)) << locale << " " << naam;
+            EXPECT_EQ(goed(), draai({"-v", "X", "-f", "-u", "uit " + naam, "--", naam}, start))
+                << locale << " " << naam;
+            EXPECT_EQ(knipselX, lees("uit " + naam));
+            EXPECT_EQ(0, draai({"-v", "X", "-t", "--", naam}, start).status);
+            EXPECT_EQ(knipselX, lees(naam)) << locale << " " << naam;
+        }
+        for (const std::string& naam : namen) {
+            schrijf("b \xE9/" + naam, bron);
+        }
+        EXPECT_EQ(0, draai({"-v", "X", "-r", "b \xE9", "-f", "-n", "d \xE8 é"}, start).status) << locale;
+        for (const std::string& naam : namen) {
+            EXPECT_EQ(knipselX, lees("d \xE8 é/" + naam)) << locale;
+        }
+    }
+}
+
+TEST_F(CliUitvoer, WeigertTweeBronnenVoorEenBestemming) {
+    schrijf("een/a.c", bron);
+    schrijf("twee/a.c", bron);
+    EXPECT_EQ(storing("uit/a.c: zowel een/a.c als twee/a.c zou hier komen; geef ze een eigen directory"),
+              draai({"een/a.c", "twee/a.c", "-n", "uit"}));
+    EXPECT_FALSE(bestaat("uit"));
+}
+
+TEST_F(CliUitvoer, WeigertDezelfdeDirectoryOnderEenAndereNaam) {
+    schrijf("bron/a.c", bron);
+    fs::create_symlink("bron", map_ / "anders");
+    for (const std::string naar : {"bron", "anders", "./bron/../bron/"}) {
+        EXPECT_EQ(storing(naar + ": is dezelfde directory als bron; kies een andere, of geef --ter-plaatse"),
+                  draai({"-f", "bron", "-n", naar}));
+    }
+    EXPECT_EQ((Boom{{"a.c", bron}}), leesBoom("bron"));
+}
+
+TEST_F(CliUitvoer, WeigertDeBronAlsBestemming) {
+    schrijf("a.c", bron);
+    fs::create_hard_link(map_ / "a.c", map_ / "b.c");
+    for (const std::string doel : {"a.c", "./a.c", "b.c"}) {
+        EXPECT_EQ(
+            storing(doel + ": is hetzelfde bestand als de bron a.c; kies een andere bestemming, of geef "
+                           "--ter-plaatse"),
+            draai({"-f", "a.c", "-u", doel}));
+    }
+    EXPECT_EQ(2, draai({"-f", "a.c", "-n", "."}).status);
+    EXPECT_EQ(bron, lees("a.c"));
+}
+
+TEST_F(CliUitvoer, WeigertEenBestemmingInDeBronEnAndersom) {
+    schrijf("bron/sub/a.c", bron);
+    EXPECT_EQ(storing("bron/uit: ligt in de bron bron; kies een bestemming erbuiten"),
+              draai({"-r", "bron", "-n", "bron/uit"}));
+    EXPECT_EQ(storing("bron: daar ligt de bron bron/sub in; kies een andere bestemming"),
+              draai({"-r", "bron/sub", "-n", "bron"}));
+    EXPECT_EQ((Boom{{"sub", "/"}, {"sub/a.c", bron}}), leesBoom("bron"));
+    EXPECT_EQ(0, draai({"-r", "bron", "-n", "bron-student"}).status)
+        << "een naam die net zo begint ligt er niet in";
+}
+
+TEST_F(CliUitvoer, LaatEenBestandMetEenFoutStaanEnKniptDeAndere) {
+    schrijf("boom/a.c", bron);
+    schrijf("boom/fout.c", "//**** Student Begin ****//\n");
+    schrijf("boom/z.c", bron);
+    EXPECT_EQ((Uitkomst{.status = 1,
+                        .uit = "2 bestanden geknipt, 2 blokken, 1 met fouten\n",
+                        .fout = "boom/fout.c:1: fout: beginmarker zonder eindmarker\n"}),
+              draai({"-vX", "boom", "-n", "uit"}));
+    EXPECT_EQ((Boom{{"a.c", knipselX}, {"z.c", knipselX}}), leesBoom("uit"));
+}
