@@ -13,7 +13,7 @@
 #include <memory>
 #include <vector>
 
-#include "Knipselaar/kern/terPlaatse.h"
+#include "Knipselaar/kern/buurbestand.h"
 #include "KnipselaarCli/fout.h"
 #include "KnipselaarCli/onderbreking.h"
 
@@ -24,7 +24,7 @@ namespace {
 constexpr std::size_t leesBlok = 256 * 1024;
 constexpr std::size_t kleinsteRuimte =
     2;  // één om het einde mee te vinden, één voor wie er nog een byte achter wil
-constexpr std::size_t schrijfBlok = 256 * 1024;
+constexpr std::size_t schrijfBlok = 64 * 1024;
 constexpr mode_t gewoneRechten = 0777;
 constexpr const char* aantekening = "user.knipselaar";
 
@@ -43,13 +43,6 @@ class Kanaal {
     bool isOpen() const { return nummer_ >= 0; }
     int geefNummer() const { return nummer_; }
 
-    /// Sluit, en zegt of alles aankwam.
-    bool sluit() {
-        const int nummer = nummer_;
-        nummer_ = -1;
-        return close(nummer) == 0;
-    }
-
   private:
     int nummer_;
 };
@@ -59,7 +52,7 @@ class Kanaal {
 }
 
 /// Leest tot het einde, achter wat er al is.
-bool leesVerder(int kanaal, Bytes& bytes) {
+bool leesVerder(int kanaal, kern::Bytes& bytes) {
     for (;;) {
         const std::size_t lengte = bytes.geef().size();
         if (bytes.geefRuimte() - lengte < kleinsteRuimte) {
@@ -75,36 +68,6 @@ bool leesVerder(int kanaal, Bytes& bytes) {
         bytes.zetLengte(lengte + static_cast<std::size_t>(gelezen));
     }
 }
-
-/// Een nieuw bestand onder een tijdelijke, verborgen naam naast zijn bestemming; verdwijnt als het zijn naam
-/// niet krijgt.
-class NieuwBestand {
-  public:
-    explicit NieuwBestand(const std::string& bestemming)
-        : naam_(bestemming.substr(0, bestemming.rfind('/') + 1) + ".KnipselaarXXXXXX"),
-          kanaal_(mkostemp(naam_.data(), O_CLOEXEC)),
-          bestaat_(kanaal_.isOpen()) {}
-    NieuwBestand(const NieuwBestand&) = delete;
-    NieuwBestand& operator=(const NieuwBestand&) = delete;
-    ~NieuwBestand() {
-        if (bestaat_) {
-            unlink(naam_.c_str());
-        }
-    }
-
-    bool isOpen() const { return bestaat_; }
-    int geefKanaal() const { return kanaal_.geefNummer(); }
-
-    bool hernoem(const std::string& bestemming) {
-        bestaat_ = !kanaal_.sluit() || rename(naam_.c_str(), bestemming.c_str()) != 0;
-        return !bestaat_;
-    }
-
-  private:
-    std::string naam_;
-    Kanaal kanaal_;
-    bool bestaat_;
-};
 
 /// Het masker van de gebruiker is alleen te lezen door het te zetten; dat mag maar één draad doen.
 mode_t geefMasker() {
@@ -185,23 +148,24 @@ void schrijfBytes(int kanaal, std::string_view bytes) {
 }  // namespace
 
 void schrijfAlles(int kanaal, const Stukken& stukken) {
-    std::string blok;
+    std::array<char, schrijfBlok> plaats;  // NOLINT(cppcoreguidelines-pro-type-member-init): wordt gevuld
+    kern::Bytes blok = kern::Bytes::leen(plaats);
     stukken([&](std::string_view stuk) {
-        if (blok.size() + stuk.size() > schrijfBlok) {
-            schrijfBytes(kanaal, blok);
-            blok.clear();
+        if (blok.geef().size() + stuk.size() > schrijfBlok) {
+            schrijfBytes(kanaal, blok.geef());
+            blok.zetLengte(0);
         }
         if (stuk.size() > schrijfBlok) {
             schrijfBytes(kanaal, stuk);
         } else {
-            blok += stuk;
+            blok.voegToe(stuk);
         }
     });
-    schrijfBytes(kanaal, blok);
+    schrijfBytes(kanaal, blok.geef());
 }
 
 void schrijfUitvoer(const std::string& pad, const Stukken& stukken, mode_t rechten, Uitvoersoort soort) {
-    NieuwBestand nieuw(pad);
+    kern::Buurbestand nieuw(pad);
     if (!nieuw.isOpen()) {
         gooi(pad, "geschreven", errno);
     }
@@ -211,7 +175,7 @@ void schrijfUitvoer(const std::string& pad, const Stukken& stukken, mode_t recht
         throw Fout(pad + ": kan niet geschreven worden: " + fout.what());
     }
     tekenAan(nieuw.geefKanaal(), soort);
-    if (fchmod(nieuw.geefKanaal(), rechten & gewoneRechten & ~geefMasker()) != 0 || !nieuw.hernoem(pad)) {
+    if (fchmod(nieuw.geefKanaal(), rechten & gewoneRechten & ~geefMasker()) != 0 || !nieuw.neemPlaatsIn()) {
         gooi(pad, "geschreven", errno);
     }
 }
@@ -226,27 +190,22 @@ bool isEerdereUitvoer(const std::string& pad, Uitvoersoort soort) {
 }
 
 void vervangTerPlaatse(const std::string& pad, const Stukken& stukken) {
-    kern::TerPlaatse terPlaatse;
-    const std::string tijdelijk(terPlaatse.geefTijdelijk().GetFullPath().fn_str());
-    if (tijdelijk.empty()) {
-        throw Fout(pad +
-                   ": blijft zoals het is: er is geen tijdelijk bestand te maken; zet TMPDIR op een "
-                   "directory waar dat kan");
+    const std::unique_ptr<char, decltype(&std::free)> echt(realpath(pad.c_str(), nullptr), &std::free);
+    struct stat oud {};
+    if (echt == nullptr || stat(echt.get(), &oud) != 0) {
+        gooi(pad, "vervangen", errno);
+    }
+    kern::Buurbestand nieuw(echt.get());
+    if (!nieuw.isOpen()) {
+        throw Fout(pad + ": blijft zoals het is: ernaast is geen bestand te maken: " + noemReden(errno));
     }
     try {
-        Kanaal kanaal(open(tijdelijk.c_str(), O_WRONLY | O_CLOEXEC));
-        if (!kanaal.isOpen()) {
-            throw Fout(noemReden(errno));
-        }
-        schrijfAlles(kanaal.geefNummer(), stukken);
-        if (!kanaal.sluit()) {
-            throw Fout(noemReden(errno));
-        }
+        schrijfAlles(nieuw.geefKanaal(), stukken);
     } catch (const Fout& fout) {
-        throw Fout(pad + ": blijft zoals het is: " + tijdelijk + ": " + fout.what());
+        throw Fout(pad + ": blijft zoals het is: " + fout.what());
     }
-    const std::unique_ptr<char, decltype(&std::free)> echt(realpath(pad.c_str(), nullptr), &std::free);
-    if (echt == nullptr || !terPlaatse.vervang(echt.get())) {
+    nieuw.beginTeBewaren();
+    if (!nieuw.neemRechtenOver(oud) || !nieuw.neemPlaatsIn()) {
         gooi(pad, "vervangen", errno);
     }
 }

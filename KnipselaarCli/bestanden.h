@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "KnipselaarCli/bytes.h"
+#include "Knipselaar/kern/bytes.h"
 
 namespace cli {
 
@@ -23,7 +23,7 @@ using Ontvanger = std::function<void(std::string_view)>;
 using Stukken = std::function<void(const Ontvanger&)>;
 
 struct Inhoud {
-    Bytes bytes;
+    kern::Bytes bytes;
     mode_t rechten = 0;  ///< rwx voor eigenaar, groep en anderen
 };
 

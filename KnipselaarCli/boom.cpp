@@ -12,18 +12,16 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// De directory zegt het meestal zelf al; alleen anders wordt er naar het bestand gekeken.
 Soort bepaalSoort(const fs::directory_entry& deel) {
     std::error_code fout;
-    switch (deel.symlink_status(fout).type()) {
-        case fs::file_type::regular:
-            return Soort::bestand;
-        case fs::file_type::directory:
-            return Soort::directory;
-        case fs::file_type::symlink:
-            return Soort::link;
-        default:
-            return Soort::anders;
+    if (deel.is_symlink(fout)) {
+        return Soort::link;
     }
+    if (deel.is_regular_file(fout)) {
+        return Soort::bestand;
+    }
+    return deel.is_directory(fout) ? Soort::directory : Soort::anders;
 }
 
 bool hoortErbij(const Boomdeel& deel, const LoopWens& wens) {

@@ -34,7 +34,11 @@ bool isKort(const kern::Utf8Teken& teken) {
 Keuring keur(std::string_view bytes) {
     Keuring keuring;
     std::size_t plek = 0;
-    while ((plek += kern::telGewoneAscii(bytes.substr(plek))) < bytes.size()) {
+    // Wat geen UTF-8 is, is ISO 8859-1; dan tellen alleen de regeleinden nog.
+    const auto telGewone = [&keuring](std::string_view rest) {
+        return keuring.utf8 ? kern::telGewoneAscii(rest) : kern::telZonderEinden(rest);
+    };
+    while ((plek += telGewone(bytes.substr(plek))) < bytes.size()) {
         const char teken = bytes[plek];
         if (teken == '\r') {
             keuring.heeftCR = true;
@@ -169,7 +173,7 @@ Codering geefCodering(kern::BreedFormaat formaat) {
 
 }  // namespace
 
-Brontekst::Brontekst(Bytes inhoud, Lezing lezing)
+Brontekst::Brontekst(kern::Bytes inhoud, Lezing lezing)
     : inhoud_(std::move(inhoud)), lengte_(inhoud_.geef().size()) {
     inhoud_.voegToe('\n');
     if (const auto formaat = kern::herkenBreedFormaat(geefRuw())) {
@@ -260,7 +264,7 @@ void Brontekst::deelIn(std::string_view stuk, std::size_t begin) {
         regels_.pop_back();
         ruwe_.pop_back();
     }
-    tekst_ = Bytes(tekst);
+    tekst_ = kern::Bytes(tekst);
 }
 
 void Brontekst::leesBreed() {
@@ -287,7 +291,7 @@ void Brontekst::leesBreed() {
     } else {
         tekst += '\n';
     }
-    tekst_ = Bytes(tekst);
+    tekst_ = kern::Bytes(tekst);
 }
 
 std::string codeer(std::string_view utf8, Codering codering) {

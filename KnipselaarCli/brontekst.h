@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "KnipselaarCli/bytes.h"
+#include "Knipselaar/kern/bytes.h"
 
 namespace cli {
 
@@ -30,7 +30,7 @@ enum class Lezing {
 
 class Brontekst {
   public:
-    Brontekst(Bytes inhoud, Lezing lezing);
+    Brontekst(kern::Bytes inhoud, Lezing lezing);
     Brontekst(const Brontekst&) = delete;
     Brontekst& operator=(const Brontekst&) = delete;
     ~Brontekst() = default;
@@ -58,13 +58,13 @@ class Brontekst {
     void deelIn(std::string_view stuk, std::size_t begin);
     void beginRegel(std::size_t plek, std::size_t ruw);
 
-    Bytes inhoud_;          ///< met één "\n" achter de bytes van het bestand
+    kern::Bytes inhoud_;    ///< met één "\n" achter de bytes van het bestand
     std::size_t lengte_;    ///< bytes van het bestand
     std::size_t merk_ = 0;  ///< bytes van het merkteken
     bool direct_ = false;
     bool rauw_ = false;
     Codering codering_ = Codering::utf8;
-    Bytes tekst_;                      ///< als zij niet direct uit de inhoud te nemen is
+    kern::Bytes tekst_;                ///< als zij niet direct uit de inhoud te nemen is
     std::vector<std::size_t> regels_;  ///< waar elke regel van tekst_ begint
     std::vector<std::size_t> ruwe_;    ///< en waar in de ruwe bytes
 };

@@ -52,9 +52,23 @@ void Knipsel::geef(const std::function<void(std::string_view)>& uit) const {
         zetOm(uit);
         return;
     }
-    for (const std::string_view stuk : stukken_) {
-        uit(stuk);
+    std::size_t plek = 0;
+    for (std::size_t i = 0; i < vervangingen_.size(); ++i) {
+        const Blok& blok = ontleding_.blokken[i];
+        uit(geefBlijvend(plek, blok.begin.begin));
+        uit(vervangingen_[i]);
+        plek = blok.eind.eind;
     }
+    uit(geefBlijvend(plek, bron_.geefTekst().size()));
+}
+
+/// Een deel van de tekst zoals het in het knipsel komt.
+std::string_view Knipsel::geefBlijvend(std::size_t begin, std::size_t eind) const {
+    if (manier_ == Manier::venster) {
+        return bron_.geefTekst().substr(begin, eind - begin);
+    }
+    const std::size_t ruwBegin = begin == 0 ? 0 : bron_.naarRuw(begin);
+    return bron_.geefRuw().substr(ruwBegin, bron_.naarRuw(eind) - ruwBegin);
 }
 
 /// Laat de omzetter van de kern het hele bestand zien, in kleine delen die in de cache blijven, en geeft door
@@ -91,23 +105,10 @@ void Knipsel::zetOm(const std::function<void(std::string_view)>& uit) const {
     uit(eindigtMetBlok ? std::string_view() : std::string_view(omgezet));
 }
 
-void Knipsel::neem(std::string_view stuk) {
-    if (!stuk.empty()) {
-        stukken_.push_back(stuk);
-    }
-}
-
 void Knipsel::knipGetrouw(const KnipWens& wens) {
-    const std::string_view ruw = bron_.geefRuw();
-    std::size_t plek = 0;
     for (const Blok& blok : ontleding_.blokken) {
-        const std::size_t begin = bron_.naarRuw(blok.begin.begin);
-        neem(ruw.substr(plek, begin - plek));
         vervangingen_.push_back(blok.isLeeg() ? std::string_view() : maakVervanging(blok, wens));
-        neem(vervangingen_.back());
-        plek = bron_.naarRuw(blok.eind.eind);
     }
-    neem(ruw.substr(plek));
 }
 
 /// De vervangtekst in de codering en met het regeleinde van het bestand. Heeft het bestand na het blok niets
@@ -143,16 +144,10 @@ std::string_view Knipsel::maakVervanging(const Blok& blok, const KnipWens& wens)
 }
 
 void Knipsel::knipVenster(const KnipWens& wens) {
-    const std::string_view tekst = bron_.geefTekst();
     eigen_.push_back(std::string(wens.vervanging) + '\n');
-    std::size_t plek = 0;
     for (const Blok& blok : ontleding_.blokken) {
-        neem(tekst.substr(plek, blok.begin.begin - plek));
         vervangingen_.push_back(blok.isLeeg() ? std::string_view() : std::string_view(eigen_.back()));
-        neem(vervangingen_.back());
-        plek = blok.eind.eind;
     }
-    neem(tekst.substr(plek));
 }
 
 std::vector<Wijziging> Knipsel::geefWijzigingen() const {

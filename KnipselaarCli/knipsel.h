@@ -54,14 +54,13 @@ class Knipsel {
     void knipGetrouw(const KnipWens& wens);
     void knipVenster(const KnipWens& wens);
     std::string_view maakVervanging(const Blok& blok, const KnipWens& wens);
-    void neem(std::string_view stuk);
+    std::string_view geefBlijvend(std::size_t begin, std::size_t eind) const;
     void zetOm(const std::function<void(std::string_view)>& uit) const;
     void vergelijkRegels(kern::Regel deel, std::vector<Wijziging>& uit) const;
 
     const Brontekst& bron_;
     const Ontleding& ontleding_;
     Manier manier_;
-    std::vector<std::string_view> stukken_;
     std::vector<std::string_view> vervangingen_;  ///< per blok
     std::deque<std::string> eigen_;               ///< een deque: wat erin staat blijft op zijn plaats
     std::string vorigeInspringing_;               ///< van de laatste in eigen_, met het regeleinde dat volgde

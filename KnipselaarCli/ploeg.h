@@ -12,9 +12,9 @@
 
 namespace cli {
 
-/// Voert taak 0 tot aantal uit op hoogstens zoveel draden, en geeft elke uitslag op volgorde aan meld, in de
-/// draad van de aanroeper. Stopt met nieuwe taken zodra magVerder nee zegt of meld iets gooit; wat loopt
-/// wordt nog afgemaakt.
+/// Voert taak 0 tot aantal uit op hoogstens zoveel draden, die van de aanroeper meegerekend, en geeft elke
+/// uitslag op volgorde aan meld, in de draad van de aanroeper. Stopt met nieuwe taken zodra magVerder nee
+/// zegt of meld iets gooit; wat loopt wordt nog afgemaakt.
 template <typename Uitslag>
 class Ploeg {
   public:
@@ -27,18 +27,19 @@ class Ploeg {
     Ploeg& operator=(const Ploeg&) = delete;
     ~Ploeg() { stop_ = true; }
 
+    /// Gaat één keer.
     void werk(std::size_t draden, const Meld& meld) {
-        if (draden < 2) {
-            for (std::size_t i = 0; i < uitslagen_.size() && magVerder_(); ++i) {
-                meld(i, doe_(i));
-            }
-            return;
-        }
-        for (std::size_t i = 0; i < draden; ++i) {
+        const std::size_t helpers = draden < 2 ? 0 : draden - 1;
+        bezig_ = helpers;
+        for (std::size_t i = 0; i < helpers; ++i) {
             draden_.emplace_back([this] { werkMee(); });
         }
         for (std::size_t i = 0; i < uitslagen_.size(); ++i) {
-            const std::optional<Uitslag> uitslag = wachtOp(i, draden);
+            // Wie op een ander wacht, doet intussen zelf iets: een draad die niets anders doet dan melden,
+            // zou bij elk bestand een werkende van zijn plaats halen.
+            while (!isKlaar(i) && doeVolgende()) {
+            }
+            const std::optional<Uitslag> uitslag = wachtOp(i);
             if (!uitslag) {
                 return;
             }
@@ -48,24 +49,41 @@ class Ploeg {
 
   private:
     void werkMee() {
-        for (std::size_t i = volgende_++; i < uitslagen_.size() && !stop_ && magVerder_(); i = volgende_++) {
-            Uitslag uitslag = doe_(i);
-            const std::lock_guard slot(slot_);
-            uitslagen_[i] = std::move(uitslag);
-            if (i == verwacht_) {
-                klaar_.notify_one();
-            }
+        while (doeVolgende()) {
         }
         const std::lock_guard slot(slot_);
-        ++gestopt_;
+        --bezig_;
         klaar_.notify_one();
     }
 
+    /// Doet de volgende taak; nee als er geen meer is of komt.
+    bool doeVolgende() {
+        if (stop_ || !magVerder_()) {
+            return false;
+        }
+        const std::size_t i = volgende_++;
+        if (i >= uitslagen_.size()) {
+            return false;
+        }
+        Uitslag uitslag = doe_(i);
+        const std::lock_guard slot(slot_);
+        uitslagen_[i] = std::move(uitslag);
+        if (i == verwacht_) {
+            klaar_.notify_one();
+        }
+        return true;
+    }
+
+    bool isKlaar(std::size_t i) {
+        const std::lock_guard slot(slot_);
+        return uitslagen_[i].has_value();
+    }
+
     /// De uitslag van een taak; niets als geen draad haar meer doet.
-    std::optional<Uitslag> wachtOp(std::size_t i, std::size_t draden) {
+    std::optional<Uitslag> wachtOp(std::size_t i) {
         std::unique_lock slot(slot_);
         verwacht_ = i;
-        klaar_.wait(slot, [&] { return uitslagen_[i].has_value() || gestopt_ == draden; });
+        klaar_.wait(slot, [&] { return uitslagen_[i].has_value() || bezig_ == 0; });
         return std::exchange(uitslagen_[i], std::nullopt);
     }
 
@@ -77,7 +95,7 @@ class Ploeg {
     std::mutex slot_;
     std::condition_variable klaar_;
     std::size_t verwacht_ = 0;
-    std::size_t gestopt_ = 0;
+    std::size_t bezig_ = 0;             ///< draden behalve die van de aanroeper
     std::vector<std::jthread> draden_;  ///< het laatst, dus het eerst opgeruimd: ze gebruiken al het andere
 };
 

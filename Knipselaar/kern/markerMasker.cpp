@@ -1,5 +1,6 @@
 #include "Knipselaar/kern/markerMasker.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace kern {
@@ -32,10 +33,11 @@ MarkerMasker::MarkerMasker(const wxString& marker, Jokers jokers)
     : masker_("*" + marker + "*"),
       stukken_(jokers == Jokers::ja ? splitsOpJokers(marker) : std::vector{marker.utf8_string()}),
       heeftVraagteken_(jokers == Jokers::ja && marker.Contains("?")) {
-    for (const std::string& stuk : stukken_) {
-        if (stuk.size() > anker_.size()) {
-            anker_ = stuk;
-        }
+    const auto langste =
+        std::max_element(stukken_.begin(), stukken_.end(),
+                         [](const std::string& a, const std::string& b) { return a.size() < b.size(); });
+    if (langste != stukken_.end()) {
+        anker_ = Zoeker(*langste);
     }
 }
 
@@ -61,8 +63,8 @@ std::optional<Regel> MarkerMasker::zoekRegel(std::string_view regels, std::size_
     std::size_t begin = vanaf;
     while (begin < regels.size()) {
         // Van anker naar anker springen in plaats van regel voor regel vergelijken: de meeste regels van
-        // een bestand dragen het anker niet en worden zo alleen door memmem gezien.
-        const std::size_t sprong = zoek(regels.substr(begin), anker_);
+        // een bestand dragen het anker niet en worden zo alleen door de zoeker gezien.
+        const std::size_t sprong = anker_.zoek(regels.substr(begin));
         if (sprong == std::string_view::npos) {
             return std::nullopt;
         }

@@ -12,6 +12,8 @@
 #include <string_view>
 #include <vector>
 
+#include "Knipselaar/kern/zoeker.h"
+
 namespace kern {
 
 /// Plaats van een regel in een tekst, in bytes; eind ligt voorbij het regeleinde.
@@ -33,7 +35,7 @@ class MarkerMasker {
 
     /// Het langste letterlijke stuk van de marker, in UTF-8: staat in elke regel die past. Leeg als de marker
     /// alleen jokers heeft.
-    const std::string& geefAnker() const { return anker_; }
+    const std::string& geefAnker() const { return anker_.geefNaald(); }
 
     /// De eerste passende regel vanaf een regelbegin.
     /// @param regels  hele regels in UTF-8, elk gesloten door "\n". Een laatste regel zonder regeleinde
@@ -44,7 +46,7 @@ class MarkerMasker {
   private:
     wxString masker_;
     std::vector<std::string> stukken_;  ///< de letterlijke stukken tussen de jokers, in UTF-8
-    std::string anker_;                 ///< het langste stuk: komt in andere regels het minst voor
+    Zoeker anker_;                      ///< het langste stuk: komt in andere regels het minst voor
     bool heeftVraagteken_;
 };
 

@@ -11,8 +11,8 @@ namespace kern {
 
 namespace {
 
-// Het eerste blok is klein: de meeste bronbestanden passen erin, en een groot blok klaarleggen kost dan meer
-// dan het hele bestand knippen. Daarna verdubbelt het.
+// Het eerste blok is klein: een groot blok klaarleggen kost meer dan een gemiddeld bestand knippen. Daarna
+// verdubbelt het.
 constexpr std::size_t grootsteBlok = 256 * 1024;
 constexpr std::string_view utf8Merkteken = "\xEF\xBB\xBF";
 
@@ -24,24 +24,25 @@ bool isAfgebrokenMerkteken(std::string_view tekst) {
 
 }  // namespace
 
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): het lezen vult begin_
 TekstLezer::TekstLezer(wxInputStream& invoer) : invoer_(invoer) {}
 
 TekstLezer::~TekstLezer() = default;
 
 std::string_view TekstLezer::leesRegels() {
     if (gegeven_ > 0) {
-        std::memmove(buffer_.data(), buffer_.data() + gegeven_, vulling_ - gegeven_);
-        vulling_ -= gegeven_;
+        const std::size_t rest = tekst_.geef().size() - gegeven_;
+        std::memmove(tekst_.geefBegin(), tekst_.geefBegin() + gegeven_, rest);
+        tekst_.zetLengte(rest);
         gegeven_ = 0;
     }
     while (!klaar_) {
-        const std::size_t doorzocht = vulling_;
+        const std::size_t doorzocht = tekst_.geef().size();
         vulAan();
-        const std::string_view nieuw(buffer_.data() + doorzocht, vulling_ - doorzocht);
-        const std::size_t laatste = nieuw.rfind('\n');
+        const std::size_t laatste = tekst_.geef().substr(doorzocht).rfind('\n');
         if (laatste != std::string_view::npos) {
             gegeven_ = doorzocht + laatste + 1;
-            return {buffer_.data(), gegeven_};
+            return tekst_.geef().substr(0, gegeven_);
         }
     }
     return {};
@@ -52,11 +53,15 @@ void TekstLezer::vulAan() {
         leesBreed();
         return;
     }
-    if (buffer_.size() < vulling_ + blok_) {
-        buffer_.resize(std::max(2 * buffer_.size(), vulling_ + blok_));
+    std::size_t gelezen = 0;
+    if (invoer_.GetLastError() == wxSTREAM_NO_ERROR) {
+        const std::size_t vulling = tekst_.geef().size();
+        if (tekst_.geefRuimte() < vulling + blok_) {
+            tekst_.maakRuimte(std::max(2 * tekst_.geefRuimte(), vulling + blok_));
+        }
+        gelezen = leesBlok(invoer_, tekst_.geefBegin() + vulling, blok_);
+        blok_ = std::min(2 * blok_, grootsteBlok);
     }
-    const std::size_t gelezen = leesBlok(invoer_, buffer_.data() + vulling_, blok_);
-    blok_ = std::min(2 * blok_, grootsteBlok);
     if (!begonnen_) {
         begonnen_ = true;
         beginTekst(gelezen);
@@ -70,37 +75,30 @@ void TekstLezer::vulAan() {
 
 /// Neemt het eerste blok: haalt een UTF-8-merkteken af, of geeft een brede tekst uit handen.
 void TekstLezer::beginTekst(std::size_t gelezen) {
-    const std::string_view begin(buffer_.data(), gelezen);
+    const std::string_view begin(tekst_.geefBegin(), gelezen);
     if (const auto formaat = herkenBreedFormaat(begin)) {
         hersteller_ = std::make_unique<BreedHersteller>(begin, invoer_, *formaat);
         breed_ = std::make_unique<wxTextInputStream>(*hersteller_, " \t", wxConvAuto());
     } else if (begin.starts_with(utf8Merkteken)) {
         const std::size_t rest = gelezen - utf8Merkteken.size();
-        std::memmove(buffer_.data(), buffer_.data() + utf8Merkteken.size(), rest);
+        std::memmove(tekst_.geefBegin(), tekst_.geefBegin() + utf8Merkteken.size(), rest);
         voegRuwToe(rest);
     } else if (!isAfgebrokenMerkteken(begin)) {
         voegRuwToe(gelezen);
     }
 }
 
-/// Maakt ruwe bytes die achter de tekst in de buffer staan tot tekst. Meestal zijn ze dat al.
+/// Maakt ruwe bytes die achter de tekst staan tot tekst. Meestal zijn ze dat al.
 void TekstLezer::voegRuwToe(std::size_t gelezen) {
-    const std::string_view ruw(buffer_.data() + vulling_, gelezen);
+    const std::size_t vulling = tekst_.geef().size();
+    const std::string_view ruw(tekst_.geefBegin() + vulling, gelezen);
     if (omzetter_.isAlGoed(ruw)) {
-        vulling_ += gelezen;
+        tekst_.zetLengte(vulling + gelezen);
         return;
     }
     omgezet_.clear();
     omzetter_.zetOm(ruw, omgezet_);
-    voegToe(omgezet_);
-}
-
-void TekstLezer::voegToe(std::string_view tekst) {
-    if (buffer_.size() < vulling_ + tekst.size()) {
-        buffer_.resize(std::max(2 * buffer_.size(), vulling_ + tekst.size()));
-    }
-    std::copy(tekst.begin(), tekst.end(), buffer_.begin() + static_cast<std::ptrdiff_t>(vulling_));
-    vulling_ += tekst.size();
+    tekst_.voegToe(omgezet_);
 }
 
 void TekstLezer::sluitAf() {
@@ -108,20 +106,20 @@ void TekstLezer::sluitAf() {
     heelGelezen_ = invoer_.GetLastError() == wxSTREAM_EOF;
     omgezet_.clear();
     omzetter_.sluitAf(omgezet_);
-    voegToe(omgezet_);
+    tekst_.voegToe(omgezet_);
 }
 
 /// Haalt een blok regels bij de tekststroom van de toolkit. Vóór elke regel vragen of het einde bereikt is
 /// bepaalt of er na het laatste regeleinde nog een lege regel komt.
 void TekstLezer::leesBreed() {
-    const std::size_t genoeg = vulling_ + grootsteBlok;
-    while (vulling_ < genoeg) {
+    const std::size_t genoeg = tekst_.geef().size() + grootsteBlok;
+    while (tekst_.geef().size() < genoeg) {
         if (hersteller_->isUitgeput()) {
             klaar_ = true;
             heelGelezen_ = invoer_.GetLastError() == wxSTREAM_EOF;
             return;
         }
-        voegToe(breed_->ReadLine().utf8_string() + '\n');
+        tekst_.voegToe(breed_->ReadLine().utf8_string() + '\n');
     }
 }
 

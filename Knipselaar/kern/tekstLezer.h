@@ -7,12 +7,13 @@
 
 #include <wx/stream.h>
 
+#include <array>
 #include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
+#include "Knipselaar/kern/bytes.h"
 #include "Knipselaar/kern/regelOmzetter.h"
 
 class wxTextInputStream;
@@ -42,15 +43,16 @@ class TekstLezer {
     void vulAan();
     void beginTekst(std::size_t gelezen);
     void voegRuwToe(std::size_t gelezen);
-    void voegToe(std::string_view tekst);
     void sluitAf();
     void leesBreed();
 
     wxInputStream& invoer_;
-    std::vector<char> buffer_;
+    // De meeste bronbestanden passen in het eerste blok. In het object zelf kost het niets; van de heap zou
+    // een reeks bestanden het telkens nemen en teruggeven.
+    std::array<char, eersteBlok> begin_;
+    Bytes tekst_ = Bytes::leen(begin_);
     std::size_t blok_ = eersteBlok;  ///< bytes die de volgende keer gevraagd worden
-    std::size_t vulling_ = 0;        ///< bytes tekst vooraan in buffer_
-    std::size_t gegeven_ = 0;        ///< bytes daarvan die de aanroeper al heeft
+    std::size_t gegeven_ = 0;        ///< bytes van tekst_ die de aanroeper al heeft
     RegelOmzetter omzetter_;
     std::string omgezet_;
     std::unique_ptr<BreedHersteller> hersteller_;

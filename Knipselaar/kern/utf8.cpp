@@ -1,5 +1,6 @@
 #include "Knipselaar/kern/utf8.h"
 
+#include <bit>
 #include <cstring>
 
 namespace kern {
@@ -9,13 +10,65 @@ namespace {
 constexpr std::uint64_t enen = 0x0101010101010101U;
 constexpr std::uint64_t toppen = 0x8080808080808080U;
 
-/// Niet nul als een van de acht bytes nul is.
+/// Niet nul als een van de acht bytes nul is. De laagste byte waarvan de top gezet is, is er zeker zo een.
 constexpr std::uint64_t heeftNul(std::uint64_t woord) {
     return (woord - enen) & ~woord & toppen;
 }
 
-constexpr bool isGewoon(char teken) {
-    return static_cast<signed char>(teken) > 0 && teken != '\r';
+/// Welke van de acht bytes in het geheugen de eerste is met haar top gezet; nul waar dat zo niet te zien is.
+constexpr std::size_t geefEersteByte(std::uint64_t woord) {
+    constexpr int bitsPerByte = 8;
+    return std::endian::native == std::endian::little
+               ? static_cast<std::size_t>(std::countr_zero(woord) / bitsPerByte)
+               : 0;
+}
+
+/// Een byte die geen regel kan eindigen; een LF telt mee.
+struct ZonderEinde {
+    static constexpr bool past(char byte) { return byte != '\0' && byte != '\r'; }
+    static constexpr std::uint64_t zoekAndere(std::uint64_t woord) {
+        return heeftNul(woord) | heeftNul(woord ^ (enen * '\r'));
+    }
+};
+
+struct GewoneAscii {
+    static constexpr bool past(char byte) { return static_cast<signed char>(byte) > 0 && byte != '\r'; }
+    static constexpr std::uint64_t zoekAndere(std::uint64_t woord) {
+        return (woord & toppen) | ZonderEinde::zoekAndere(woord);
+    }
+};
+
+constexpr std::size_t vakGrootte = 32;
+
+/// Of elke byte van een heel vak past. Zonder sprongen, dan maakt de vertaler er vectorinstructies van.
+template <typename Soort>
+bool pastVak(const char* vak) {
+    unsigned char andere = 0;
+    for (std::size_t i = 0; i < vakGrootte; ++i) {
+        andere |= static_cast<unsigned char>(!Soort::past(vak[i]));
+    }
+    return andere == 0;
+}
+
+/// Aantal bytes aan het begin dat past: eerst per vak, dan per woord en het laatste per byte.
+template <typename Soort>
+std::size_t telPassende(std::string_view bytes) {
+    std::size_t plek = 0;
+    while (plek + vakGrootte <= bytes.size() && pastVak<Soort>(bytes.data() + plek)) {
+        plek += vakGrootte;
+    }
+    for (; plek + sizeof(std::uint64_t) <= bytes.size(); plek += sizeof(std::uint64_t)) {
+        std::uint64_t woord = 0;
+        std::memcpy(&woord, bytes.data() + plek, sizeof woord);
+        if (const std::uint64_t andere = Soort::zoekAndere(woord); andere != 0) {
+            plek += geefEersteByte(andere);
+            break;
+        }
+    }
+    while (plek < bytes.size() && Soort::past(bytes[plek])) {
+        ++plek;
+    }
+    return plek;
 }
 
 constexpr std::size_t reeksLengte(unsigned char eerste) {
@@ -85,19 +138,11 @@ void schrijfUtf8(std::uint32_t waarde, std::string& uit) {
 }
 
 std::size_t telGewoneAscii(std::string_view bytes) {
-    std::size_t plek = 0;
-    while (plek + sizeof(std::uint64_t) <= bytes.size()) {
-        std::uint64_t woord = 0;
-        std::memcpy(&woord, bytes.data() + plek, sizeof woord);
-        if (((woord & toppen) | heeftNul(woord) | heeftNul(woord ^ (enen * '\r'))) != 0) {
-            break;
-        }
-        plek += sizeof woord;
-    }
-    while (plek < bytes.size() && isGewoon(bytes[plek])) {
-        ++plek;
-    }
-    return plek;
+    return telPassende<GewoneAscii>(bytes);
+}
+
+std::size_t telZonderEinden(std::string_view bytes) {
+    return telPassende<ZonderEinde>(bytes);
 }
 
 bool isSchoneUtf8(std::string_view bytes) {

@@ -36,4 +36,7 @@ bool isSchoneUtf8(std::string_view bytes);
 /// Aantal bytes aan het begin dat gewone ASCII is: geen CR, geen NUL, geen hoge byte. Een LF telt mee.
 std::size_t telGewoneAscii(std::string_view bytes);
 
+/// Aantal bytes aan het begin zonder CR of NUL.
+std::size_t telZonderEinden(std::string_view bytes);
+
 }  // namespace kern

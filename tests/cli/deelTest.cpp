@@ -16,9 +16,9 @@ using namespace std::string_literals;
 using namespace std::string_view_literals;
 
 using cli::Brontekst;
-using cli::Bytes;
 using cli::Lezing;
 using cli::Manier;
+using kern::Bytes;
 
 namespace {
 

@@ -1,6 +1,5 @@
 #include "Knipselaar/kern/terPlaatse.h"
 
-#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -9,6 +8,7 @@
 #include <csignal>
 #include <cstdio>
 
+#include "tests/hulp/kleineSchijf.h"
 #include "tests/kern/batchProef.h"
 
 namespace fs = std::filesystem;
@@ -82,29 +82,8 @@ TEST_F(Veilig, LaatHetBestandStaanAlsHetTijdelijkeNietHeelWordt) {
     EXPECT_EQ((hulp::Boom{{"groot.c", groot}, {"klein.c", geknipt}}), hulp::leesBoom(boom_));
 }
 
-/// Een bestandssysteem van 300 kB; alleen root mag er een maken.
-class Schijf {
-  public:
-    explicit Schijf(const fs::path& plaats) : plaats_(plaats) {
-        fs::create_directories(plaats);
-        gelukt_ = mount("knipseltest", plaats.c_str(), "tmpfs", 0, "size=300k") == 0;
-    }
-    Schijf(const Schijf&) = delete;
-    Schijf& operator=(const Schijf&) = delete;
-    ~Schijf() {
-        if (gelukt_) {
-            umount2(plaats_.c_str(), MNT_DETACH);
-        }
-    }
-    bool isEr() const { return gelukt_; }
-
-  private:
-    fs::path plaats_;
-    bool gelukt_;
-};
-
 TEST_F(Veilig, LaatHetBestandStaanAlsErNaastGeenPlaatsIs) {
-    const Schijf schijf(boom_);
+    const hulp::KleineSchijf schijf(boom_);
     if (!schijf.isEr()) {
         GTEST_SKIP() << "alleen root kan een bestandssysteem aankoppelen";
     }
@@ -115,7 +94,7 @@ TEST_F(Veilig, LaatHetBestandStaanAlsErNaastGeenPlaatsIs) {
 }
 
 TEST_F(Veilig, LaatHetBestandStaanAlsDeTijdelijkeSchijfVolIs) {
-    const Schijf schijf(tijdelijk_);
+    const hulp::KleineSchijf schijf(tijdelijk_);
     if (!schijf.isEr()) {
         GTEST_SKIP() << "alleen root kan een bestandssysteem aankoppelen";
     }
@@ -190,7 +169,7 @@ TEST_F(Veilig, MaaktHetTijdelijkeBestandInDeTijdelijkeDirectory) {
 }
 
 TEST_F(Veilig, KomtOokTerPlaatseVanEenAnderBestandssysteem) {
-    const Schijf schijf(tijdelijk_);
+    const hulp::KleineSchijf schijf(tijdelijk_);
     if (!schijf.isEr()) {
         GTEST_SKIP() << "alleen root kan een bestandssysteem aankoppelen";
     }

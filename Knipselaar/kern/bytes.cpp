@@ -1,4 +1,4 @@
-#include "KnipselaarCli/bytes.h"
+#include "Knipselaar/kern/bytes.h"
 
 #include <sys/mman.h>
 
@@ -6,7 +6,7 @@
 #include <cstring>
 #include <new>
 
-namespace cli {
+namespace kern {
 
 namespace {
 
@@ -39,7 +39,7 @@ void Bytes::maakRuimte(std::size_t ruimte) {
     if (ruimte <= ruimte_) {
         return;
     }
-    std::unique_ptr<char, Vrijgever> nieuw(neemGeheugen(ruimte));
+    Eigendom nieuw(neemGeheugen(ruimte));
     if (lengte_ > 0) {
         std::memcpy(nieuw.get(), bytes_.get(), lengte_);
     }
@@ -59,4 +59,4 @@ void Bytes::voegToe(std::string_view bytes) {
     lengte_ += bytes.size();
 }
 
-}  // namespace cli
+}  // namespace kern

@@ -6,13 +6,23 @@
 #include <cstddef>
 #include <cstdlib>
 #include <memory>
+#include <span>
 #include <string_view>
 
-namespace cli {
+namespace kern {
 
 class Bytes {
   public:
     Bytes() = default;
+
+    /// Niets, met plaats voor de inhoud zolang die erin past. Zij blijft van de aanroeper en moet langer
+    /// leven.
+    static Bytes leen(std::span<char> plaats) {
+        Bytes bytes;
+        bytes.bytes_ = Eigendom(plaats.data(), Vrijgever{.geleend = true});
+        bytes.ruimte_ = plaats.size();
+        return bytes;
+    }
 
     /// Een kopie.
     explicit Bytes(std::string_view bytes);
@@ -32,12 +42,20 @@ class Bytes {
 
   private:
     struct Vrijgever {
-        void operator()(char* bytes) const { std::free(bytes); }  // NOLINT(cppcoreguidelines-no-malloc)
+        bool geleend;  ///< nee, als er niets over gezegd is
+
+        void operator()(char* bytes) const {
+            if (!geleend) {
+                std::free(bytes);  // NOLINT(cppcoreguidelines-no-malloc)
+            }
+        }
     };
 
-    std::unique_ptr<char, Vrijgever> bytes_;
+    using Eigendom = std::unique_ptr<char, Vrijgever>;
+
+    Eigendom bytes_;
     std::size_t lengte_ = 0;
     std::size_t ruimte_ = 0;
 };
 
-}  // namespace cli
+}  // namespace kern

@@ -1,0 +1,96 @@
+#include "Knipselaar/kern/buurbestand.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <string_view>
+
+#include "tests/hulp/bestanden.h"
+#include "tests/hulp/bestandsboom.h"
+
+namespace fs = std::filesystem;
+
+using hulp::Boom;
+using kern::Buurbestand;
+
+namespace {
+
+void schrijf(const Buurbestand& bestand, std::string_view tekst) {
+    ASSERT_EQ(static_cast<ssize_t>(tekst.size()), write(bestand.geefKanaal(), tekst.data(), tekst.size()));
+}
+
+class BuurbestandTest : public testing::Test {
+  protected:
+    /// Wat er in de directory staat, met de namen zonder hun toevallige deel.
+    Boom leesBoom() const {
+        Boom boom;
+        for (const auto& [naam, inhoud] : hulp::leesBoom(map_.pad())) {
+            boom[naam.substr(
+                0, naam.starts_with('.') ? std::string_view(".Knipselaar").size() : naam.size())] = inhoud;
+        }
+        return boom;
+    }
+
+    hulp::TijdelijkeMap map_;
+    fs::path doel_ = map_ / "a.c";
+};
+
+}  // namespace
+
+TEST_F(BuurbestandTest, StaatNaastZijnBestemmingTotHijHaarPlaatsInneemt) {
+    hulp::schrijfBestand(doel_, "oud");
+    Buurbestand nieuw(doel_.string());
+    ASSERT_TRUE(nieuw.isOpen());
+    schrijf(nieuw, "nieuw");
+    EXPECT_EQ((Boom{{"a.c", "oud"}, {".Knipselaar", "nieuw"}}), leesBoom());
+    nieuw.beginTeBewaren();
+    EXPECT_TRUE(nieuw.neemPlaatsIn());
+    EXPECT_EQ((Boom{{"a.c", "nieuw"}}), leesBoom());
+}
+
+TEST_F(BuurbestandTest, VerdwijntAlsHijGeenPlaatsKrijgt) {
+    hulp::schrijfBestand(doel_, "oud");
+    {
+        const Buurbestand nieuw(doel_.string());
+        schrijf(nieuw, "half");
+    }
+    EXPECT_EQ((Boom{{"a.c", "oud"}}), leesBoom());
+}
+
+TEST_F(BuurbestandTest, LaatEenDirectoryOpZijnPlaatsStaan) {
+    fs::create_directory(doel_);
+    {
+        Buurbestand nieuw(doel_.string());
+        EXPECT_FALSE(nieuw.neemPlaatsIn());
+        EXPECT_EQ(EISDIR, errno);
+    }
+    EXPECT_EQ((Boom{{"a.c", "/"}}), leesBoom());
+}
+
+TEST_F(BuurbestandTest, IsNietOpenWaarGeenDirectoryIs) {
+    Buurbestand nieuw((map_ / "weg/a.c").string());
+    EXPECT_EQ(ENOENT, errno);
+    EXPECT_FALSE(nieuw.isOpen());
+}
+
+TEST_F(BuurbestandTest, KomtZonderDirectoryInDeHuidige) {
+    const fs::path oud = fs::current_path();
+    fs::current_path(map_.pad());
+    Buurbestand nieuw("b.c");
+    EXPECT_TRUE(nieuw.neemPlaatsIn());
+    fs::current_path(oud);
+    EXPECT_EQ((Boom{{"b.c", ""}}), leesBoom());
+}
+
+TEST_F(BuurbestandTest, NeemtDeRechtenOver) {
+    Buurbestand nieuw(doel_.string());
+    struct stat van {};
+    ASSERT_EQ(0, fstat(nieuw.geefKanaal(), &van));
+    EXPECT_EQ(0600U, van.st_mode & 07777U);
+    van.st_mode = 0750;
+    EXPECT_TRUE(nieuw.neemRechtenOver(van));
+    struct stat na {};
+    ASSERT_EQ(0, fstat(nieuw.geefKanaal(), &na));
+    EXPECT_EQ(0750U, na.st_mode & 07777U);
+}
