@@ -60,7 +60,7 @@ open_beeldscherm() {
     mkdir -p "$werk/thuis"
     unset WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS GTK_THEME
     export HOME="$werk/thuis" LANG=nl_NL.UTF-8 GDK_BACKEND=x11 GSETTINGS_BACKEND=memory NO_AT_BRIDGE=1
-    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$werk/nummer" 2>/dev/null &
+    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset 3>"$werk/nummer" 2>/dev/null &
     processen+=($!)
     wacht_op "het virtuele beeldscherm start niet" test -s "$werk/nummer"
     DISPLAY=":$(cat "$werk/nummer")"

@@ -161,65 +161,119 @@ def meet_lastige_markers(werk):
     bron.unlink()
 
 
+class VerseSchijf:
+    """Een directory op een bestandssysteem dat voor elke meting nieuw is.
+
+    Op een schijf waar net duizend bestanden vervangen zijn, loopt ext4 bij elk nieuw bestand alle pas vrijgekomen
+    inodes langs; dan meet de ene meting vooral wat de vorige achterliet. Alleen root mag een bestandssysteem maken;
+    een ander krijgt elke keer een lege directory.
+    """
+
+    def __init__(self, werk):
+        self.plaats = werk / "schijf"
+        self.beeld = werk / "schijf.beeld"
+        self.plaats.mkdir()
+        self.aangekoppeld = False
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.koppel_af()
+
+    def koppel_af(self):
+        if self.aangekoppeld:
+            subprocess.run(["umount", self.plaats], check=True)
+            self.aangekoppeld = False
+
+    def vernieuw(self):
+        self.koppel_af()
+        shutil.rmtree(self.plaats)
+        self.plaats.mkdir()
+        if os.geteuid() == 0:
+            self.beeld.unlink(missing_ok=True)
+            with open(self.beeld, "wb") as beeld:
+                beeld.truncate(2**30)
+            subprocess.run(["/sbin/mkfs.ext4", "-q", "-F", self.beeld], check=True)
+            subprocess.run(["mount", "-o", "loop", self.beeld, self.plaats], check=True)
+            self.aangekoppeld = True
+
+
 def meet_directories(werk):
-    bron, doel, boom = werk / "map", werk / "doel", werk / "boom"
-    bron.mkdir()
-    for i in range(1000):
-        (bron / f"f{i:04}.c").write_text(maak_tekst(220, 10, zaad=i))
-    namen = [str(p) for p in sorted(bron.iterdir())]
-    kopie = [str(doel / pathlib.Path(naam).name) for naam in namen]
+    with VerseSchijf(werk) as schijf:
+        meet_directories_op(schijf, werk)
+
+
+def meet_directories_op(schijf, werk):
+    bron, doel, boom, tijdelijk = (schijf.plaats / naam for naam in ("map", "doel", "boom", "tijdelijk"))
+    teksten = {f"f{i:04}.c": maak_tekst(220, 10, zaad=i) for i in range(1000)}
+    namen = [str(bron / naam) for naam in teksten]
+    kopie = [str(doel / naam) for naam in teksten]
+    omgeving = dict(OMGEVING, TMPDIR=str(tijdelijk))
+
+    def voer_uit(*opdracht):
+        subprocess.run(opdracht, check=True, env=omgeving)
+
+    def vul(directory):
+        directory.mkdir(parents=True)
+        for naam, tekst in teksten.items():
+            (directory / naam).write_text(tekst)
 
     def leeg_doel():
-        shutil.rmtree(doel, ignore_errors=True)
+        schijf.vernieuw()
+        vul(bron)
         doel.mkdir()
+        tijdelijk.mkdir()
+        os.sync()
 
     def verse_boom():
-        shutil.rmtree(boom, ignore_errors=True)
-        shutil.copytree(bron, boom / "sub")
+        schijf.vernieuw()
+        vul(boom / "sub")
+        tijdelijk.mkdir()
+        os.sync()
 
     script = werk / "vlak.sed"
     script.write_text(f"/Student Begin/,/Student Eind/c\\\n{VERVANG}\n")
     sed_vlak = f'for f in {bron}/*.c; do sed -f {script} "$f" > {doel}/"${{f##*/}}"; done'
 
     def venster(*woorden):
-        uitvoer = subprocess.run([VENSTER, *map(str, woorden)], capture_output=True, text=True, check=True).stdout
+        uitvoer = subprocess.run([VENSTER, *map(str, woorden)], capture_output=True, text=True, check=True,
+                                 env=omgeving).stdout
         return int(uitvoer.split()[1]) / 1e6
 
     sed_i = ["sed", "-i", "-f", str(script)]
 
     def meet_sed_met_kopie():
         """Wat een docent typt: eerst kopiëren, dan sed op de kopie."""
-        subprocess.run(["cp", *namen, str(doel)], check=True)
-        subprocess.run([*sed_i, *kopie], check=True, env=OMGEVING)
+        voer_uit("cp", *namen, str(doel))
+        voer_uit(*sed_i, *kopie)
 
     def meet_sed():
         """Alleen sed, op een kopie die er al is: één proces dat dezelfde bestanden leest en schrijft."""
-        subprocess.run(["cp", *namen, str(doel)], check=True)
+        voer_uit("cp", *namen, str(doel))
         begin = time.perf_counter()
-        subprocess.run([*sed_i, *kopie], check=True, env=OMGEVING)
+        voer_uit(*sed_i, *kopie)
         return time.perf_counter() - begin
 
     def meet_sed_aaneen():
         """sed leest dezelfde bestanden en schrijft ze, wat geen opgaven zijn, achter elkaar in één bestand."""
         with open(doel / "alles", "wb") as uit:
-            subprocess.run(["sed", "-s", "-f", str(script), *namen], stdout=uit, check=True, env=OMGEVING)
+            subprocess.run(["sed", "-s", "-f", str(script), *namen], stdout=uit, check=True, env=omgeving)
 
     rij("1.000 bestanden van 11 KB naar een directory", meet({
-        "knipselaar": lambda: los(KNIP, "directory")(str(bron), str(doel)),
+        "knipselaar": lambda: voer_uit(KNIP, "directory", bron, doel),
         "sed": meet_sed,
-        "cp": lambda: subprocess.run(["cp", *namen, str(doel)], check=True),
+        "cp": lambda: voer_uit("cp", *namen, str(doel)),
         "cp en dan sed": meet_sed_met_kopie,
-        "sed per bestand": lambda: subprocess.run(["sh", "-c", sed_vlak], check=True, env=OMGEVING),
+        "sed per bestand": lambda: voer_uit("sh", "-c", sed_vlak),
         "sed aaneen": meet_sed_aaneen,
         "door het venster": lambda: venster("directory", bron, doel)}, leeg_doel), "1,0 x sed; venster 1,5")
-    boom_i = ["find", str(boom), "-name", "*.c", "-exec", *sed_i, "{}", "+"]
-    perl_i = lambda: subprocess.run(["sh", "-c", f"find {boom} -name '*.c' -exec perl -i -ne "
-                                     f"'BEGIN{{$r=qq(#error\\n)}} {PERL}' {{}} +"], check=True, env=OMGEVING)
+    alle = ["find", str(boom), "-name", "*.c", "-exec"]
     medianen = meet({
-        "knipselaar": lambda: subprocess.run([KNIP, "boom", boom], check=True),
-        "sed": lambda: subprocess.run(boom_i, check=True, env=OMGEVING),
-        "perl -i": perl_i,
-        "cli": lambda: subprocess.run([*CLI, "--stil", "--recursief", "--ter-plaatse", boom], check=True, env=OMGEVING),
+        "knipselaar": lambda: voer_uit(KNIP, "boom", boom),
+        "sed": lambda: voer_uit(*alle, *sed_i, "{}", "+"),
+        "perl -i": lambda: voer_uit(*alle, "perl", "-i", "-ne", f"BEGIN{{$r=qq(#error\n)}} {PERL}", "{}", "+"),
+        "cli": lambda: voer_uit(*CLI, "--stil", "--recursief", "--ter-plaatse", boom),
         "door het venster": lambda: venster("boom", boom)}, verse_boom)
     rij("1.000 bestanden van 11 KB ter plaatse", medianen, "1,0 x sed -i; venster 1,5")
     rij("hetzelfde met cli op alle kernen", {"knipselaar": medianen["cli"], "sed": medianen["sed"]}, "0,7 x sed -i")
@@ -258,8 +312,9 @@ def meet_geheugen(werk):
 def meet_start(werk):
     nummer = werk / "nummer"
     with open(nummer, "wb") as uit:
-        xvfb = subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
-                                stdout=uit, stderr=subprocess.DEVNULL)
+        # Zonder -noreset begint de server opnieuw zodra de enige klant weg is, en weigert hij dan even de volgende.
+        xvfb = subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp",
+                                 "-noreset"], stdout=uit, stderr=subprocess.DEVNULL)
     while not nummer.read_bytes().endswith(b"\n"):
         time.sleep(0.05)
     omgeving = dict(os.environ, DISPLAY=":" + nummer.read_text().strip(), HOME=str(werk), GDK_BACKEND="x11",
@@ -271,7 +326,8 @@ def meet_start(werk):
             kind = subprocess.Popen([programma], env=omgeving, stderr=subprocess.DEVNULL)
             while subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{titel}$"], env=omgeving,
                                  capture_output=True, check=False).returncode != 0:
-                pass
+                if kind.poll() is not None:
+                    raise RuntimeError(f"{programma} stopte met {kind.returncode} voor zijn venster er was")
             duur = time.perf_counter() - begin
             kind.kill()
             kind.wait()
@@ -296,7 +352,8 @@ def main():
     print("|---|---|---|---|---|---|")
     with tempfile.TemporaryDirectory() as map_naam:
         werk = pathlib.Path(map_naam)
-        for meting in (meet_bestanden, meet_lastige_markers, meet_directories, meet_editor, meet_geheugen, meet_start_cli, meet_start):
+        for meting in (meet_bestanden, meet_lastige_markers, meet_directories, meet_editor, meet_geheugen,
+                       meet_start_cli, meet_start):
             meting(werk)
 
 
