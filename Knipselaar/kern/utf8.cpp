@@ -18,9 +18,11 @@ constexpr std::uint64_t heeftNul(std::uint64_t woord) {
 /// Welke van de acht bytes in het geheugen de eerste is met haar top gezet; nul waar dat zo niet te zien is.
 constexpr std::size_t geefEersteByte(std::uint64_t woord) {
     constexpr int bitsPerByte = 8;
-    return std::endian::native == std::endian::little
-               ? static_cast<std::size_t>(std::countr_zero(woord) / bitsPerByte)
-               : 0;
+    if constexpr (std::endian::native == std::endian::little) {
+        return static_cast<std::size_t>(std::countr_zero(woord) / bitsPerByte);
+    } else {
+        return 0;
+    }
 }
 
 /// Een byte die geen regel kan eindigen; een LF telt mee.
