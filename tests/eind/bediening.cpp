@@ -4,6 +4,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <sstream>
+#include <utility>
 
 namespace fs = std::filesystem;
 
@@ -38,18 +39,29 @@ bool Bediening::isZichtbaar(const std::string& titel) {
     return !voerUit({"xdotool", "search", "--onlyvisible", "--name", titel}).empty();
 }
 
-std::string Bediening::wachtOpVenster(const std::string& titel) {
+namespace {
+
+/// Het nummer van het zichtbare venster met deze titel dat het laatst verscheen; leeg als het er niet is.
+std::string zoekVenster(const std::string& titel) {
+    std::istringstream gevonden(voerUit({"xdotool", "search", "--onlyvisible", "--name", titel}));
     std::string nummer;
-    const bool actief = hulp::wachtTot([&nummer, &titel] {
-        std::istringstream gevonden(voerUit({"xdotool", "search", "--onlyvisible", "--name", titel}));
-        std::string kandidaat;
-        while (gevonden >> kandidaat) {
-            nummer = kandidaat;
-        }
-        return !nummer.empty() && voerUit({"xdotool", "getactivewindow"}) == nummer + "\n";
-    });
-    EXPECT_TRUE(actief) << "geen actief venster " << titel;
+    std::string kandidaat;
+    while (gevonden >> kandidaat) {
+        nummer = kandidaat;
+    }
     return nummer;
+}
+
+bool isActief(const std::string& titel) {
+    const std::string nummer = zoekVenster(titel);
+    return !nummer.empty() && voerUit({"xdotool", "getactivewindow"}) == nummer + "\n";
+}
+
+}  // namespace
+
+std::string Bediening::wachtOpVenster(const std::string& titel) {
+    EXPECT_TRUE(hulp::wachtTot([&titel] { return isActief(titel); })) << "geen actief venster " << titel;
+    return zoekVenster(titel);
 }
 
 void Bediening::wachtTotWeg(const std::string& titel) {
@@ -57,15 +69,26 @@ void Bediening::wachtTotWeg(const std::string& titel) {
 }
 
 void Bediening::typPad(const std::string& titel, const fs::path& pad) {
+    constexpr int evenMs = 1500;
+    const auto isWeg = [&titel] { return !isZichtbaar(titel); };
     wachtOpVenster(titel);
-    druk("ctrl+a");
-    voerUit({"xdotool", "type", "--delay", "20", pad.string()});
-    druk("Return");
-    // De eerste Return kan nog de lijst met aanvullingen sluiten.
-    if (!hulp::wachtTot([&titel] { return !isZichtbaar(titel); }, 1500)) {
+    bool opnieuw = false;
+    // Op een drukke machine vult de dialoog nog aan terwijl er getypt wordt, en klopt het pad niet. Dan
+    // blijft zij staan, soms achter een melding, en gaat het nog eens.
+    EXPECT_TRUE(hulp::wachtTot([&] {
+        if (!std::exchange(opnieuw, true) || isActief(titel)) {
+            druk("ctrl+a");
+            voerUit({"xdotool", "type", "--delay", "20", pad.string()});
+            druk("Return");
+            // De eerste Return kan nog de lijst met aanvullingen sluiten.
+            if (hulp::wachtTot(isWeg, evenMs)) {
+                return true;
+            }
+        }
         druk("Return");
-    }
-    wachtTotWeg(titel);
+        return hulp::wachtTot(isWeg, 2 * evenMs);
+    })) << titel
+        << " blijft staan";
 }
 
 void Bediening::kiesPad(const std::string& titel, const fs::path& pad) {
