@@ -69,7 +69,7 @@ void Bediening::wachtTotWeg(const std::string& titel) {
 }
 
 void Bediening::typPad(const std::string& titel, const fs::path& pad) {
-    constexpr int evenMs = 1500;
+    constexpr int evenMs = 3000;
     const auto isWeg = [&titel] { return !isZichtbaar(titel); };
     wachtOpVenster(titel);
     bool opnieuw = false;
@@ -85,7 +85,10 @@ void Bediening::typPad(const std::string& titel, const fs::path& pad) {
                 return true;
             }
         }
-        druk("Return");
+        // Is zij intussen toch weg, dan zou een Return in het hoofdvenster op een knop drukken.
+        if (!isWeg()) {
+            druk("Return");
+        }
         return hulp::wachtTot(isWeg, 2 * evenMs);
     })) << titel
         << " blijft staan";
