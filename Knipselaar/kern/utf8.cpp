@@ -15,14 +15,13 @@ constexpr std::uint64_t heeftNul(std::uint64_t woord) {
     return (woord - enen) & ~woord & toppen;
 }
 
-/// Welke van de acht bytes in het geheugen de eerste is met haar top gezet; nul waar dat zo niet te zien is.
+/// Bewaart een machine de hoogste byte eerst, dan is uit de laagste gezette bit geen plaats af te leiden:
+/// elke plaats wordt daar nul, en de zoektocht gaat er byte voor byte verder.
+constexpr int bitsPerPlaats = std::endian::native == std::endian::little ? 8 : 64;
+
+/// De eerste van de acht bytes in het geheugen met haar top gezet; woord is niet nul.
 constexpr std::size_t geefEersteByte(std::uint64_t woord) {
-    constexpr int bitsPerByte = 8;
-    if constexpr (std::endian::native == std::endian::little) {
-        return static_cast<std::size_t>(std::countr_zero(woord) / bitsPerByte);
-    } else {
-        return 0;
-    }
+    return static_cast<std::size_t>(std::countr_zero(woord) / bitsPerPlaats);
 }
 
 /// Een byte die geen regel kan eindigen; een LF telt mee.
