@@ -1,8 +1,6 @@
 // De controle van de markers, op vaste gevallen: elke directory onder controles/ heeft een bestand "in" en de
 // meldingen en afloop die erbij horen.
 
-#include <algorithm>
-
 #include "tests/cli/proef.h"
 
 namespace fs = std::filesystem;
@@ -13,15 +11,6 @@ using proef::goed;
 using proef::Uitkomst;
 
 namespace {
-
-std::vector<std::string> vindGevallen() {
-    std::vector<std::string> namen;
-    for (const auto& map : fs::directory_iterator(CONTROLES)) {
-        namen.push_back(map.path().filename().string());
-    }
-    std::sort(namen.begin(), namen.end());
-    return namen;
-}
 
 class CliControle : public proef::Cli {};
 class CliControles : public proef::Cli, public testing::WithParamInterface<std::string> {};
@@ -48,11 +37,12 @@ TEST_P(CliControles, MeldtWatErAanDeMarkersSchort) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Controle, CliControles, testing::ValuesIn(vindGevallen()), [](const auto& info) {
-    std::string naam = info.param;
-    std::replace(naam.begin(), naam.end(), '-', '_');
-    return naam;
-});
+INSTANTIATE_TEST_SUITE_P(Controle, CliControles, testing::ValuesIn(hulp::somOp(CONTROLES)),
+                         [](const auto& info) {
+                             std::string naam = info.param;
+                             std::replace(naam.begin(), naam.end(), '-', '_');
+                             return naam;
+                         });
 
 TEST_F(CliControle, SchrijftNiets) {
     schrijf("boom/a.c", bron);

@@ -48,15 +48,6 @@ std::string naarUtf32(const std::u32string& tekst, bool grootEerst) {
     return bytes;
 }
 
-std::vector<std::string> vindGevallen() {
-    std::vector<std::string> namen;
-    for (const auto& map : fs::directory_iterator(TESTGEVALLEN)) {
-        namen.push_back(map.path().filename().string());
-    }
-    std::sort(namen.begin(), namen.end());
-    return namen;
-}
-
 class CliGevallen : public proef::Cli, public testing::WithParamInterface<std::string> {};
 
 }  // namespace
@@ -187,8 +178,9 @@ TEST_P(CliGevallen, AlsVensterIsWatDeKernErvanMaakt) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Gevallen, CliGevallen, testing::ValuesIn(vindGevallen()), [](const auto& info) {
-    std::string naam = info.param;
-    std::replace(naam.begin(), naam.end(), '-', '_');
-    return naam;
-});
+INSTANTIATE_TEST_SUITE_P(Gevallen, CliGevallen, testing::ValuesIn(hulp::somOp(TESTGEVALLEN)),
+                         [](const auto& info) {
+                             std::string naam = info.param;
+                             std::replace(naam.begin(), naam.end(), '-', '_');
+                             return naam;
+                         });

@@ -42,6 +42,14 @@ void schrijfBestand(const fs::path& pad, std::string_view inhoud) {
     }
 }
 
+std::vector<std::string> somOp(const fs::path& map) {
+    std::vector<std::string> namen;
+    for (const auto& deel : fs::directory_iterator(map)) {
+        namen.push_back(deel.path().filename());
+    }
+    return namen;
+}
+
 std::string toonBytes(std::string_view bytes) {
     std::string tekst;
     for (const char teken : bytes) {

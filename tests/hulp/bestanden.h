@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace hulp {
 
@@ -28,6 +29,9 @@ std::string leesBestand(const std::filesystem::path& pad);
 
 /// Schrijft precies deze bytes; wat er stond verdwijnt.
 void schrijfBestand(const std::filesystem::path& pad, std::string_view inhoud);
+
+/// De namen van wat er in een map staat, in de volgorde waarin het bestandssysteem ze opsomt.
+std::vector<std::string> somOp(const std::filesystem::path& map);
 
 /// Bytes als leesbare tekst, voor in een foutmelding.
 std::string toonBytes(std::string_view bytes);

@@ -4,9 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <vector>
-
 #include "Knipselaar/kern/bestandKnipper.h"
 #include "Knipselaar/kern/parserInstellingen.h"
 #include "tests/hulp/bestanden.h"
@@ -15,15 +12,6 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-std::vector<std::string> vindGevallen() {
-    std::vector<std::string> namen;
-    for (const auto& map : fs::directory_iterator(TESTGEVALLEN)) {
-        namen.push_back(map.path().filename().string());
-    }
-    std::sort(namen.begin(), namen.end());
-    return namen;
-}
 
 wxString leesOf(const fs::path& pad, const wxString& anders) {
     return fs::exists(pad) ? wxString::FromUTF8(hulp::leesBestand(pad)) : anders;
@@ -73,8 +61,9 @@ TEST_P(Gevallen, ZegtWaaromDeVariantenVerschillen) {
               fs::exists(map_ / "waarom"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Knippen, Gevallen, testing::ValuesIn(vindGevallen()), [](const auto& info) {
-    std::string naam = info.param;
-    std::replace(naam.begin(), naam.end(), '-', '_');
-    return naam;
-});
+INSTANTIATE_TEST_SUITE_P(Knippen, Gevallen, testing::ValuesIn(hulp::somOp(TESTGEVALLEN)),
+                         [](const auto& info) {
+                             std::string naam = info.param;
+                             std::replace(naam.begin(), naam.end(), '-', '_');
+                             return naam;
+                         });

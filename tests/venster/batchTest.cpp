@@ -29,7 +29,7 @@ TEST_F(VlakkeBatch, SchrijftHetHeleLogboek) {
     std::string bronLog = "Originele dir : " + bronPad() + "\n";
     std::string doelLog = "Student dir : " + doelPad() + "\n";
     long nummer = 1;
-    for (const std::string& naam : somOp(bron_)) {
+    for (const std::string& naam : hulp::somOp(bron_)) {
         const std::string extensie = fs::path(naam).extension();
         if (naam == "sub" || naam.starts_with('.')) {
             continue;
@@ -152,7 +152,7 @@ TEST_F(VlakkeBatch, VraagtOokBijEenAndereSchrijfwijze) {
 TEST_F(RecursieveBatch, SchrijftHetHeleLogboek) {
     hulp::maakBoom(doel_,
                    {{"sub/a.c", metBlok}, {"sub/x.txt", metBlok}, {"b.vhd", metBlok}, {".git/c.c", metBlok}});
-    const auto namen = somOp(doel_ / "sub");
+    const auto namen = hulp::somOp(doel_ / "sub");
     std::string bronLog = "In totaal 3 bestanden en directories gevonden in " + doelPad() + "\n";
     std::string doelLog;
     long nummer = 1;

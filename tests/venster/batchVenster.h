@@ -4,7 +4,6 @@
 // gebruiker een batch begint.
 
 #include <string>
-#include <vector>
 
 #include "tests/hulp/bestandsboom.h"
 #include "tests/venster/vensterTest.h"
@@ -46,15 +45,6 @@ class BatchTest : public VensterTest {
         kiesDoel(doel_);
         lid(&Inzage::bestandTypeKeuze)->SetSelection(bestandType);
         geefOpdracht(wxID_REPLACE);
-    }
-
-    /// De volgorde waarin het bestandssysteem een directory opsomt.
-    static std::vector<std::string> somOp(const std::filesystem::path& map) {
-        std::vector<std::string> namen;
-        for (const auto& deel : std::filesystem::directory_iterator(map)) {
-            namen.push_back(deel.path().filename());
-        }
-        return namen;
     }
 
     std::string bronPad() const { return bron_.string(); }
