@@ -22,8 +22,8 @@ namespace cli {
 namespace {
 
 constexpr std::size_t leesBlok = 256 * 1024;
-constexpr std::size_t kleinsteRuimte =
-    2;  // één om het einde mee te vinden, één voor wie er nog een byte achter wil
+/// Eén byte om het einde mee te vinden, en één voor wie er nog iets achter wil.
+constexpr std::size_t kleinsteRuimte = 2;
 constexpr std::size_t schrijfBlok = 64 * 1024;
 constexpr mode_t gewoneRechten = 0777;
 constexpr const char* aantekening = "user.knipselaar";
@@ -175,7 +175,7 @@ void schrijfUitvoer(const std::string& pad, const Stukken& stukken, mode_t recht
         throw Fout(pad + ": kan niet geschreven worden: " + fout.what());
     }
     tekenAan(nieuw.geefKanaal(), soort);
-    if (fchmod(nieuw.geefKanaal(), rechten & gewoneRechten & ~geefMasker()) != 0 || !nieuw.neemPlaatsIn()) {
+    if (fchmod(nieuw.geefKanaal(), rechten & gewoneRechten & ~geefMasker()) != 0 || !nieuw.ruil()) {
         gooi(pad, "geschreven", errno);
     }
 }

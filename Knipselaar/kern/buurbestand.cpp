@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <utility>
@@ -47,8 +48,33 @@ void Buurbestand::beginTeBewaren() const {
 }
 
 bool Buurbestand::neemPlaatsIn() {
-    bestaat_ = !sluit() || rename(naam_.c_str(), bestemming_.c_str()) != 0;
+    return sluit() && hernoem();
+}
+
+bool Buurbestand::ruil() {
+    if (!sluit()) {
+        return false;
+    }
+    if (!wisselNamen()) {
+        return hernoem();
+    }
+    bestaat_ = unlink(naam_.c_str()) != 0;
+    if (bestaat_) {
+        // Een directory laat zich wel ruilen, maar niet weghalen.
+        const int reden = errno;
+        wisselNamen();
+        errno = reden;
+    }
     return !bestaat_;
+}
+
+bool Buurbestand::hernoem() {
+    bestaat_ = rename(naam_.c_str(), bestemming_.c_str()) != 0;
+    return !bestaat_;
+}
+
+bool Buurbestand::wisselNamen() const {
+    return renameat2(AT_FDCWD, naam_.c_str(), AT_FDCWD, bestemming_.c_str(), RENAME_EXCHANGE) == 0;
 }
 
 bool Buurbestand::sluit() {

@@ -44,8 +44,16 @@ class Buurbestand {
     /// niet lukt; de bestemming is dan wat zij was.
     bool neemPlaatsIn();
 
+    /// Hetzelfde voor uitvoer die opnieuw te maken is: ruilt van naam met de bestemming en haalt haar dan
+    /// weg, of hernoemt waar niets te ruilen valt. ext4 schrijft wat bij een hernoeming een ander vervangt
+    /// eerst naar de schijf, bij een ruil niet. Dat scheelt bij een groot bestand een derde van de tijd; valt
+    /// de stroom uit, dan kan de bestemming leeg zijn, zoals elk bestand dat net geschreven is.
+    bool ruil();
+
   private:
     bool sluit();
+    bool hernoem();
+    bool wisselNamen() const;
 
     std::string bestemming_;
     std::string naam_;

@@ -36,17 +36,32 @@ class BuurbestandTest : public testing::Test {
     fs::path doel_ = map_ / "a.c";
 };
 
+enum class Weg { hernoemen, ruilen };
+
+/// Langs beide wegen naar de plaats van de bestemming.
+class BuurbestandPlaats : public BuurbestandTest, public testing::WithParamInterface<Weg> {
+  protected:
+    static bool neemPlaatsIn(Buurbestand& nieuw) {
+        return GetParam() == Weg::ruilen ? nieuw.ruil() : nieuw.neemPlaatsIn();
+    }
+};
+
 }  // namespace
 
-TEST_F(BuurbestandTest, StaatNaastZijnBestemmingTotHijHaarPlaatsInneemt) {
-    hulp::schrijfBestand(doel_, "oud");
-    Buurbestand nieuw(doel_.string());
-    ASSERT_TRUE(nieuw.isOpen());
-    schrijf(nieuw, "nieuw");
-    EXPECT_EQ((Boom{{"a.c", "oud"}, {".Knipselaar", "nieuw"}}), leesBoom());
-    nieuw.beginTeBewaren();
-    EXPECT_TRUE(nieuw.neemPlaatsIn());
-    EXPECT_EQ((Boom{{"a.c", "nieuw"}}), leesBoom());
+TEST_P(BuurbestandPlaats, IsVanDeBestemmingOfVanHetBuurbestand) {
+    for (const Boom& vooraf : {Boom{{"a.c", "oud"}}, Boom{{"a.c", "-> elders"}}, Boom{}}) {
+        hulp::maakBoom(map_.pad(), vooraf);
+        Buurbestand nieuw(doel_.string());
+        ASSERT_TRUE(nieuw.isOpen());
+        schrijf(nieuw, "nieuw");
+        Boom samen = vooraf;
+        samen[".Knipselaar"] = "nieuw";
+        EXPECT_EQ(samen, leesBoom());
+        nieuw.beginTeBewaren();
+        EXPECT_TRUE(neemPlaatsIn(nieuw));
+        EXPECT_EQ((Boom{{"a.c", "nieuw"}}), leesBoom());
+        fs::remove(doel_);
+    }
 }
 
 TEST_F(BuurbestandTest, VerdwijntAlsHijGeenPlaatsKrijgt) {
@@ -58,14 +73,15 @@ TEST_F(BuurbestandTest, VerdwijntAlsHijGeenPlaatsKrijgt) {
     EXPECT_EQ((Boom{{"a.c", "oud"}}), leesBoom());
 }
 
-TEST_F(BuurbestandTest, LaatEenDirectoryOpZijnPlaatsStaan) {
+TEST_P(BuurbestandPlaats, BlijftVanEenDirectory) {
     fs::create_directory(doel_);
+    hulp::schrijfBestand(doel_ / "b.c", "erin");
     {
         Buurbestand nieuw(doel_.string());
-        EXPECT_FALSE(nieuw.neemPlaatsIn());
+        EXPECT_FALSE(neemPlaatsIn(nieuw));
         EXPECT_EQ(EISDIR, errno);
     }
-    EXPECT_EQ((Boom{{"a.c", "/"}}), leesBoom());
+    EXPECT_EQ((Boom{{"a.c", "/"}, {"a.c/b.c", "erin"}}), leesBoom());
 }
 
 TEST_F(BuurbestandTest, IsNietOpenWaarGeenDirectoryIs) {
@@ -94,3 +110,8 @@ TEST_F(BuurbestandTest, NeemtDeRechtenOver) {
     ASSERT_EQ(0, fstat(nieuw.geefKanaal(), &na));
     EXPECT_EQ(0750U, na.st_mode & 07777U);
 }
+
+INSTANTIATE_TEST_SUITE_P(Wegen, BuurbestandPlaats, testing::Values(Weg::hernoemen, Weg::ruilen),
+                         [](const auto& info) {
+                             return std::string(info.param == Weg::ruilen ? "Ruilen" : "Hernoemen");
+                         });
