@@ -1,6 +1,7 @@
 #include "KnipselaarCli/knipsel.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "Knipselaar/kern/regelOmzetter.h"
 
@@ -33,30 +34,29 @@ std::string_view geefInspringing(std::string_view regel) {
 }  // namespace
 
 Knipsel::Knipsel(const Brontekst& bron, const Ontleding& ontleding, const KnipWens& wens)
-    : bron_(bron), ontleding_(ontleding), manier_(wens.manier) {
-    if (manier_ == Manier::getrouw) {
-        knipGetrouw(wens);
-    } else {
-        knipVenster(wens);
+    : bron_(bron), ontleding_(ontleding), wens_(wens) {
+    const auto& blokken = ontleding.blokken;
+    const auto vol = std::find_if_not(blokken.begin(), blokken.end(), std::mem_fn(&Blok::isLeeg));
+    if (vol != blokken.end()) {
+        geefVervanging(*vol);
     }
 }
 
-std::string Knipsel::geefInhoud() const {
+std::string Knipsel::geefInhoud() {
     std::string inhoud;
     geef([&inhoud](std::string_view stuk) { inhoud += stuk; });
     return inhoud;
 }
 
-void Knipsel::geef(const std::function<void(std::string_view)>& uit) const {
-    if (manier_ == Manier::venster && bron_.isRauw()) {
+void Knipsel::geef(const std::function<void(std::string_view)>& uit) {
+    if (wens_.manier == Manier::venster && bron_.isRauw()) {
         zetOm(uit);
         return;
     }
     std::size_t plek = 0;
-    for (std::size_t i = 0; i < vervangingen_.size(); ++i) {
-        const Blok& blok = ontleding_.blokken[i];
+    for (const Blok& blok : ontleding_.blokken) {
         uit(geefBlijvend(plek, blok.begin.begin));
-        uit(vervangingen_[i]);
+        uit(geefVervanging(blok));
         plek = blok.eind.eind;
     }
     uit(geefBlijvend(plek, bron_.geefTekst().size()));
@@ -64,7 +64,7 @@ void Knipsel::geef(const std::function<void(std::string_view)>& uit) const {
 
 /// Een deel van de tekst zoals het in het knipsel komt.
 std::string_view Knipsel::geefBlijvend(std::size_t begin, std::size_t eind) const {
-    if (manier_ == Manier::venster) {
+    if (wens_.manier == Manier::venster) {
         return bron_.geefTekst().substr(begin, eind - begin);
     }
     const std::size_t ruwBegin = begin == 0 ? 0 : bron_.naarRuw(begin);
@@ -73,7 +73,7 @@ std::string_view Knipsel::geefBlijvend(std::size_t begin, std::size_t eind) cons
 
 /// Laat de omzetter van de kern het hele bestand zien, in kleine delen die in de cache blijven, en geeft door
 /// wat buiten de blokken ligt.
-void Knipsel::zetOm(const std::function<void(std::string_view)>& uit) const {
+void Knipsel::zetOm(const std::function<void(std::string_view)>& uit) {
     constexpr std::size_t deel = std::size_t{128} * 1024;
     const std::string_view tekst = bron_.geefTekst();
     std::string_view rest = tekst.substr(0, tekst.size() - 1);  // zonder het regeleinde dat er niet in staat
@@ -93,10 +93,10 @@ void Knipsel::zetOm(const std::function<void(std::string_view)>& uit) const {
             uit(omgezet);
         }
     };
-    for (std::size_t i = 0; i < vervangingen_.size(); ++i) {
-        geefTot(ontleding_.blokken[i].begin.begin);
-        neemTot(ontleding_.blokken[i].eind.eind);
-        uit(vervangingen_[i]);
+    for (const Blok& blok : ontleding_.blokken) {
+        geefTot(blok.begin.begin);
+        neemTot(blok.eind.eind);
+        uit(geefVervanging(blok));
     }
     const bool eindigtMetBlok = plek == tekst.size();
     geefTot(tekst.size());
@@ -105,15 +105,23 @@ void Knipsel::zetOm(const std::function<void(std::string_view)>& uit) const {
     uit(eindigtMetBlok ? std::string_view() : std::string_view(omgezet));
 }
 
-void Knipsel::knipGetrouw(const KnipWens& wens) {
-    for (const Blok& blok : ontleding_.blokken) {
-        vervangingen_.push_back(blok.isLeeg() ? std::string_view() : maakVervanging(blok, wens));
+std::string_view Knipsel::geefVervanging(const Blok& blok) {
+    if (blok.isLeeg()) {
+        return {};
     }
+    return wens_.manier == Manier::venster ? geefVensterVervanging() : geefGetrouweVervanging(blok);
+}
+
+std::string_view Knipsel::geefVensterVervanging() {
+    if (eigen_.empty()) {
+        eigen_.push_back(std::string(wens_.vervanging) + '\n');
+    }
+    return eigen_.back();
 }
 
 /// De vervangtekst in de codering en met het regeleinde van het bestand. Heeft het bestand na het blok niets
 /// meer, ook geen regeleinde, dan krijgt de vervangtekst er ook geen.
-std::string_view Knipsel::maakVervanging(const Blok& blok, const KnipWens& wens) {
+std::string_view Knipsel::geefGetrouweVervanging(const Blok& blok) {
     const std::string_view ruw = bron_.geefRuw();
     const std::string_view tekst = bron_.geefTekst();
     const std::size_t begin = bron_.naarRuw(blok.begin.begin);
@@ -121,12 +129,12 @@ std::string_view Knipsel::maakVervanging(const Blok& blok, const KnipWens& wens)
     const std::string_view eigenEinde = geefRegeleinde(ruw.substr(begin, na - begin), bron_.geefCodering());
     const std::string_view regeleinde = eigenEinde.empty() ? "\n" : eigenEinde;
     const std::string_view inspringing =
-        wens.inspringen ? geefInspringing(tekst.substr(blok.begin.begin, blok.begin.eind - blok.begin.begin))
-                        : std::string_view();
+        wens_.inspringen ? geefInspringing(tekst.substr(blok.begin.begin, blok.begin.eind - blok.begin.begin))
+                         : std::string_view();
     if (eigen_.empty() || inspringing != vorigeInspringing_ || regeleinde != vorigRegeleinde_) {
         vorigeInspringing_ = inspringing;
         vorigRegeleinde_ = regeleinde;
-        const std::string regels = zetRegels(wens.vervanging, inspringing, regeleinde);
+        const std::string regels = zetRegels(wens_.vervanging, inspringing, regeleinde);
         try {
             eigen_.push_back(codeer(regels, bron_.geefCodering()));
         } catch (const CodeerFout& teken) {
@@ -143,22 +151,14 @@ std::string_view Knipsel::maakVervanging(const Blok& blok, const KnipWens& wens)
     return geheel.substr(0, geheel.size() - std::min(teVeel, geheel.size()));
 }
 
-void Knipsel::knipVenster(const KnipWens& wens) {
-    eigen_.push_back(std::string(wens.vervanging) + '\n');
-    for (const Blok& blok : ontleding_.blokken) {
-        vervangingen_.push_back(blok.isLeeg() ? std::string_view() : std::string_view(eigen_.back()));
-    }
-}
-
-std::vector<Wijziging> Knipsel::geefWijzigingen() const {
+std::vector<Wijziging> Knipsel::geefWijzigingen() {
     std::vector<Wijziging> uit;
     std::size_t plek = 0;
-    for (std::size_t i = 0; i < vervangingen_.size(); ++i) {
-        const Blok& blok = ontleding_.blokken[i];
+    for (const Blok& blok : ontleding_.blokken) {
         vergelijkRegels({plek, blok.begin.begin}, uit);
         uit.push_back({.begin = bron_.naarRuw(blok.begin.begin),
                        .eind = bron_.naarRuw(blok.eind.eind),
-                       .nieuw = vervangingen_[i]});
+                       .nieuw = geefVervanging(blok)});
         plek = blok.eind.eind;
     }
     vergelijkRegels({plek, bron_.geefTekst().size()}, uit);
@@ -167,7 +167,7 @@ std::vector<Wijziging> Knipsel::geefWijzigingen() const {
 
 /// De wijzigingen van een deel dat blijft: bij de manier "venster" de regels die er anders uit komen.
 void Knipsel::vergelijkRegels(kern::Regel deel, std::vector<Wijziging>& uit) const {
-    if (manier_ == Manier::getrouw) {
+    if (wens_.manier == Manier::getrouw) {
         return;
     }
     const std::string_view tekst = bron_.geefTekst();

@@ -33,37 +33,36 @@ struct Wijziging {
 
 class Knipsel {
   public:
-    /// De brontekst en de ontleding moeten langer leven. Gooit CodeerFout als de vervangtekst niet in de
-    /// codering van het bestand past.
+    /// De brontekst, de ontleding en de vervangtekst moeten langer leven. Gooit CodeerFout als de
+    /// vervangtekst niet in de codering van het bestand past.
     Knipsel(const Brontekst& bron, const Ontleding& ontleding, const KnipWens& wens);
     Knipsel(const Knipsel&) = delete;
     Knipsel& operator=(const Knipsel&) = delete;
     ~Knipsel() = default;
 
     /// Geeft wat er overblijft, op volgorde.
-    void geef(const std::function<void(std::string_view)>& uit) const;
+    void geef(const std::function<void(std::string_view)>& uit);
 
     /// Alle stukken achter elkaar.
-    std::string geefInhoud() const;
+    std::string geefInhoud();
 
     /// De wijzigingen die van het bestand het knipsel maken, op volgorde. Geldig zolang het knipsel er is.
     /// Bij de manier "venster" alleen na de lezing "volledig".
-    std::vector<Wijziging> geefWijzigingen() const;
+    std::vector<Wijziging> geefWijzigingen();
 
   private:
-    void knipGetrouw(const KnipWens& wens);
-    void knipVenster(const KnipWens& wens);
-    std::string_view maakVervanging(const Blok& blok, const KnipWens& wens);
+    std::string_view geefVervanging(const Blok& blok);
+    std::string_view geefVensterVervanging();
+    std::string_view geefGetrouweVervanging(const Blok& blok);
     std::string_view geefBlijvend(std::size_t begin, std::size_t eind) const;
-    void zetOm(const std::function<void(std::string_view)>& uit) const;
+    void zetOm(const std::function<void(std::string_view)>& uit);
     void vergelijkRegels(kern::Regel deel, std::vector<Wijziging>& uit) const;
 
     const Brontekst& bron_;
     const Ontleding& ontleding_;
-    Manier manier_;
-    std::vector<std::string_view> vervangingen_;  ///< per blok
-    std::deque<std::string> eigen_;               ///< een deque: wat erin staat blijft op zijn plaats
-    std::string vorigeInspringing_;               ///< van de laatste in eigen_, met het regeleinde dat volgde
+    KnipWens wens_;
+    std::deque<std::string> eigen_;  ///< vervangingen; een deque: wat erin staat blijft op zijn plaats
+    std::string vorigeInspringing_;  ///< van de laatste in eigen_, met het regeleinde dat volgde
     std::string vorigRegeleinde_;
 };
 

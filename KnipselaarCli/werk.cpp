@@ -74,7 +74,7 @@ class Knipbeurt {
             uitslag_.stof = verzamelStof(bron.geefTekst(), ontleding.blokken, opties_.bewijsLengte);
         }
         try {
-            const Knipsel knipsel(
+            Knipsel knipsel(
                 bron, ontleding,
                 {.manier = opties_.manier, .inspringen = opties_.inspringen, .vervanging = geefVervanging()});
             verwerk(bron, ontleding, knipsel, rechten);
@@ -86,7 +86,7 @@ class Knipbeurt {
         }
     }
 
-    void verwerk(const Brontekst& bron, const Ontleding& ontleding, const Knipsel& knipsel, mode_t rechten) {
+    void verwerk(const Brontekst& bron, const Ontleding& ontleding, Knipsel& knipsel, mode_t rechten) {
         if (opties_.json || opties_.opdracht == Opdracht::droog) {
             tel(bron, ontleding, knipsel);
         }
@@ -103,7 +103,7 @@ class Knipbeurt {
         }
     }
 
-    void tel(const Brontekst& bron, const Ontleding& ontleding, const Knipsel& knipsel) {
+    void tel(const Brontekst& bron, const Ontleding& ontleding, Knipsel& knipsel) {
         uitslag_.regelsErin = telTekst(bron.geefTekst());
         if (opties_.manier == Manier::venster) {
             uitslag_.regelsEruit = telRegels(knipsel.geefInhoud());
@@ -122,7 +122,7 @@ class Knipbeurt {
         uitslag_.regelsEruit = uitslag_.regelsErin - weg + vervangen * erbij;
     }
 
-    void schrijf(const Knipsel& knipsel, mode_t rechten) {
+    void schrijf(Knipsel& knipsel, mode_t rechten) {
         if (isOnderbroken()) {
             throw Fout(noemReden(EINTR));
         }

@@ -1,27 +1,18 @@
 #include "Knipselaar/kern/markerMasker.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace kern {
 
 namespace {
 
-/// Plaats van naald in hooi, of npos. memmem blijft ook bij bijna-treffers lineair; std::string_view::find
-/// doet dat niet.
-std::size_t zoek(std::string_view hooi, std::string_view naald) {
-    const void* plek = memmem(hooi.data(), hooi.size(), naald.data(), naald.size());
-    return plek == nullptr ? std::string_view::npos
-                           : static_cast<std::size_t>(static_cast<const char*>(plek) - hooi.data());
-}
-
-std::vector<std::string> splitsOpJokers(const wxString& marker) {
-    std::vector<std::string> stukken;
+std::vector<Zoeker> splitsOpJokers(const wxString& marker) {
+    std::vector<Zoeker> stukken;
     const std::string tekst = marker.utf8_string();
     std::size_t begin = 0;
     while ((begin = tekst.find_first_not_of("*?", begin)) != std::string::npos) {
         const std::size_t eind = tekst.find_first_of("*?", begin);
-        stukken.push_back(tekst.substr(begin, eind - begin));
+        stukken.emplace_back(tekst.substr(begin, eind - begin));
         begin = eind == std::string::npos ? tekst.size() : eind;
     }
     return stukken;
@@ -31,27 +22,34 @@ std::vector<std::string> splitsOpJokers(const wxString& marker) {
 
 MarkerMasker::MarkerMasker(const wxString& marker, Jokers jokers)
     : masker_("*" + marker + "*"),
-      stukken_(jokers == Jokers::ja ? splitsOpJokers(marker) : std::vector{marker.utf8_string()}),
+      stukken_(jokers == Jokers::ja ? splitsOpJokers(marker) : std::vector{Zoeker(marker.utf8_string())}),
       heeftVraagteken_(jokers == Jokers::ja && marker.Contains("?")) {
-    const auto langste =
-        std::max_element(stukken_.begin(), stukken_.end(),
-                         [](const std::string& a, const std::string& b) { return a.size() < b.size(); });
+    const auto langste = std::max_element(
+        stukken_.begin(), stukken_.end(),
+        [](const Zoeker& a, const Zoeker& b) { return a.geefNaald().size() < b.geefNaald().size(); });
     if (langste != stukken_.end()) {
-        anker_ = Zoeker(*langste);
+        anker_ = *langste;
     }
 }
 
 // Een regel kan alleen passen als alle stukken er op volgorde in staan. Zonder "?" is dat ook genoeg; met
 // "?" beslist de toolkit, die er eigen regels voor heeft (een "?" direct na een "*" telt bijvoorbeeld niet).
 bool MarkerMasker::past(std::string_view regel) const {
-    std::string_view rest = regel;
-    for (const std::string& stuk : stukken_) {
-        const std::size_t plek = zoek(rest, stuk);
+    return heeftStukken(regel) && pastVerder(regel);
+}
+
+bool MarkerMasker::heeftStukken(std::string_view regel) const {
+    for (const Zoeker& stuk : stukken_) {
+        const std::size_t plek = stuk.zoek(regel);
         if (plek == std::string_view::npos) {
             return false;
         }
-        rest.remove_prefix(plek + stuk.size());
+        regel.remove_prefix(plek + stuk.geefNaald().size());
     }
+    return true;
+}
+
+bool MarkerMasker::pastVerder(std::string_view regel) const {
     // De toolkit vergelijkt tot aan een NUL en komt dan nooit aan het einde van de regel.
     if (regel.find('\0') != std::string_view::npos) {
         return false;
@@ -78,7 +76,10 @@ std::optional<Regel> MarkerMasker::zoekRegel(std::string_view regels, std::size_
         if (einde == std::string_view::npos) {
             return std::nullopt;
         }
-        if (past(regels.substr(begin, einde - begin))) {
+        const std::string_view regel = regels.substr(begin, einde - begin);
+        // Een anker met een regeleinde erin loopt door op de volgende regel.
+        const bool ankerGenoeg = stukken_.size() <= 1 && einde - anker >= geefAnker().size();
+        if ((ankerGenoeg || heeftStukken(regel)) && pastVerder(regel)) {
             return Regel{begin, einde + 1};
         }
         begin = einde + 1;

@@ -44,9 +44,15 @@ class MarkerMasker {
     std::optional<Regel> zoekRegel(std::string_view regels, std::size_t vanaf) const;
 
   private:
+    /// Of alle stukken op volgorde in de regel staan.
+    bool heeftStukken(std::string_view regel) const;
+
+    /// Of een regel waar alle stukken in staan ook echt past.
+    bool pastVerder(std::string_view regel) const;
+
     wxString masker_;
-    std::vector<std::string> stukken_;  ///< de letterlijke stukken tussen de jokers, in UTF-8
-    Zoeker anker_;                      ///< het langste stuk: komt in andere regels het minst voor
+    std::vector<Zoeker> stukken_;  ///< de letterlijke stukken tussen de jokers, in UTF-8
+    Zoeker anker_;                 ///< het langste stuk: komt in andere regels het minst voor
     bool heeftVraagteken_;
 };
 
