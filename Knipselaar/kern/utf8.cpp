@@ -1,72 +1,43 @@
 #include "Knipselaar/kern/utf8.h"
 
-#include <bit>
-#include <cstring>
+#include <experimental/simd>
 
 namespace kern {
 
 namespace {
 
-constexpr std::uint64_t enen = 0x0101010101010101U;
-constexpr std::uint64_t toppen = 0x8080808080808080U;
+namespace simd = std::experimental;
 
-/// Niet nul als een van de acht bytes nul is. De laagste byte waarvan de top gezet is, is er zeker zo een.
-constexpr std::uint64_t heeftNul(std::uint64_t woord) {
-    return (woord - enen) & ~woord & toppen;
-}
+/// Zoveel bytes als de machine in één stap bekijkt.
+using Vak = simd::native_simd<signed char>;
 
-/// Bewaart een machine de hoogste byte eerst, dan is uit de laagste gezette bit geen plaats af te leiden:
-/// elke plaats wordt daar nul, en de zoektocht gaat er byte voor byte verder.
-constexpr int bitsPerPlaats = std::endian::native == std::endian::little ? 8 : 64;
-
-/// De eerste van de acht bytes in het geheugen met haar top gezet; woord is niet nul.
-constexpr std::size_t geefEersteByte(std::uint64_t woord) {
-    return static_cast<std::size_t>(std::countr_zero(woord) / bitsPerPlaats);
-}
-
-/// Een byte die geen regel kan eindigen; een LF telt mee.
-struct ZonderEinde {
-    static constexpr bool past(char byte) { return byte != '\0' && byte != '\r'; }
-    static constexpr std::uint64_t zoekAndere(std::uint64_t woord) {
-        return heeftNul(woord) | heeftNul(woord ^ (enen * '\r'));
+/// Een byte die een regel kan eindigen; een LF hoort daar niet bij.
+struct MogelijkEinde {
+    template <typename Byte>
+    static auto past(const Byte& byte) {
+        return byte == '\0' || byte == '\r';
     }
 };
 
-struct GewoneAscii {
-    static constexpr bool past(char byte) { return static_cast<signed char>(byte) > 0 && byte != '\r'; }
-    static constexpr std::uint64_t zoekAndere(std::uint64_t woord) {
-        return (woord & toppen) | ZonderEinde::zoekAndere(woord);
+/// Een byte waar iets mee moet gebeuren, of dat nu een regeleinde is of een deel van een ander teken.
+struct GeenGewoneAscii {
+    template <typename Byte>
+    static auto past(const Byte& byte) {
+        return byte <= '\0' || byte == '\r';
     }
 };
 
-constexpr std::size_t vakGrootte = 32;
-
-/// Of elke byte van een heel vak past. Zonder sprongen, dan maakt de vertaler er vectorinstructies van.
+/// Aantal bytes voor de eerste van deze soort: per vak, en het laatste per byte.
 template <typename Soort>
-bool pastVak(const char* vak) {
-    unsigned char andere = 0;
-    for (std::size_t i = 0; i < vakGrootte; ++i) {
-        andere |= static_cast<unsigned char>(!Soort::past(vak[i]));
-    }
-    return andere == 0;
-}
-
-/// Aantal bytes aan het begin dat past: eerst per vak, dan per woord en het laatste per byte.
-template <typename Soort>
-std::size_t telPassende(std::string_view bytes) {
+std::size_t telTot(std::string_view bytes) {
     std::size_t plek = 0;
-    while (plek + vakGrootte <= bytes.size() && pastVak<Soort>(bytes.data() + plek)) {
-        plek += vakGrootte;
-    }
-    for (; plek + sizeof(std::uint64_t) <= bytes.size(); plek += sizeof(std::uint64_t)) {
-        std::uint64_t woord = 0;
-        std::memcpy(&woord, bytes.data() + plek, sizeof woord);
-        if (const std::uint64_t andere = Soort::zoekAndere(woord); andere != 0) {
-            plek += geefEersteByte(andere);
-            break;
+    for (; plek + Vak::size() <= bytes.size(); plek += Vak::size()) {
+        const auto gevonden = Soort::past(Vak(bytes.data() + plek, simd::element_aligned));
+        if (simd::any_of(gevonden)) {
+            return plek + static_cast<std::size_t>(simd::find_first_set(gevonden));
         }
     }
-    while (plek < bytes.size() && Soort::past(bytes[plek])) {
+    while (plek < bytes.size() && !Soort::past(static_cast<signed char>(bytes[plek]))) {
         ++plek;
     }
     return plek;
@@ -139,11 +110,11 @@ void schrijfUtf8(std::uint32_t waarde, std::string& uit) {
 }
 
 std::size_t telGewoneAscii(std::string_view bytes) {
-    return telPassende<GewoneAscii>(bytes);
+    return telTot<GeenGewoneAscii>(bytes);
 }
 
 std::size_t telZonderEinden(std::string_view bytes) {
-    return telPassende<ZonderEinde>(bytes);
+    return telTot<MogelijkEinde>(bytes);
 }
 
 bool isSchoneUtf8(std::string_view bytes) {
