@@ -36,7 +36,8 @@ Keuring keur(std::string_view bytes) {
     std::size_t plek = 0;
     // Wat geen UTF-8 is, is ISO 8859-1; dan tellen alleen de regeleinden nog.
     const auto telGewone = [&keuring](std::string_view rest) {
-        return keuring.utf8 ? kern::telGewoneAscii(rest) : kern::telZonderEinden(rest);
+        const kern::CrLf crLf = keuring.heeftCR ? kern::CrLf::teltMee : kern::CrLf::eindigt;
+        return keuring.utf8 ? kern::telGewoneAscii(rest, crLf) : kern::telZonderEinden(rest, crLf);
     };
     while ((plek += telGewone(bytes.substr(plek))) < bytes.size()) {
         const char teken = bytes[plek];

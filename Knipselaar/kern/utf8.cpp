@@ -11,36 +11,44 @@ namespace simd = std::experimental;
 /// Zoveel bytes als de machine in één stap bekijkt.
 using Vak = simd::native_simd<signed char>;
 
-/// Een byte die een regel kan eindigen; een LF hoort daar niet bij.
-struct MogelijkEinde {
-    template <typename Byte>
-    static auto past(const Byte& byte) {
-        return byte == '\0' || byte == '\r';
-    }
-};
+enum class Bytesoort { ascii, elke };
 
-/// Een byte waar iets mee moet gebeuren, of dat nu een regeleinde is of een deel van een ander teken.
-struct GeenGewoneAscii {
-    template <typename Byte>
-    static auto past(const Byte& byte) {
-        return byte <= '\0' || byte == '\r';
+/// Of het tellen bij deze byte ophoudt; van een vak: bij welke.
+template <Bytesoort soort, CrLf crLf, typename Byte>
+auto eindigtBij(const Byte& byte, const Byte& volgende) {
+    const auto anders = soort == Bytesoort::ascii ? byte <= '\0' : byte == '\0';
+    if constexpr (crLf == CrLf::teltMee) {
+        return anders || (byte == '\r' && volgende != '\n');
+    } else {
+        return anders || byte == '\r';
     }
-};
+}
 
-/// Aantal bytes voor de eerste van deze soort: per vak, en het laatste per byte.
-template <typename Soort>
-std::size_t telTot(std::string_view bytes) {
+/// Aantal bytes voor die waar het tellen ophoudt: per vak zolang er nog een byte op volgt, dan per byte.
+template <Bytesoort soort, CrLf crLf>
+std::size_t telTotEinde(std::string_view bytes) {
     std::size_t plek = 0;
-    for (; plek + Vak::size() <= bytes.size(); plek += Vak::size()) {
-        const auto gevonden = Soort::past(Vak(bytes.data() + plek, simd::element_aligned));
+    for (; plek + Vak::size() < bytes.size(); plek += Vak::size()) {
+        const char* begin = bytes.data() + plek;
+        const auto gevonden =
+            eindigtBij<soort, crLf>(Vak(begin, simd::element_aligned), Vak(begin + 1, simd::element_aligned));
         if (simd::any_of(gevonden)) {
             return plek + static_cast<std::size_t>(simd::find_first_set(gevonden));
         }
     }
-    while (plek < bytes.size() && !Soort::past(static_cast<signed char>(bytes[plek]))) {
+    const auto geef = [bytes](std::size_t waar) {
+        return static_cast<signed char>(waar < bytes.size() ? bytes[waar] : '\0');
+    };
+    while (plek < bytes.size() && !eindigtBij<soort, crLf>(geef(plek), geef(plek + 1))) {
         ++plek;
     }
     return plek;
+}
+
+template <Bytesoort soort>
+std::size_t telTotEinde(std::string_view bytes, CrLf crLf) {
+    return crLf == CrLf::teltMee ? telTotEinde<soort, CrLf::teltMee>(bytes)
+                                 : telTotEinde<soort, CrLf::eindigt>(bytes);
 }
 
 constexpr std::size_t reeksLengte(unsigned char eerste) {
@@ -109,12 +117,12 @@ void schrijfUtf8(std::uint32_t waarde, std::string& uit) {
     uit += static_cast<char>(0x80U | (waarde & 0x3FU));
 }
 
-std::size_t telGewoneAscii(std::string_view bytes) {
-    return telTot<GeenGewoneAscii>(bytes);
+std::size_t telGewoneAscii(std::string_view bytes, CrLf crLf) {
+    return telTotEinde<Bytesoort::ascii>(bytes, crLf);
 }
 
-std::size_t telZonderEinden(std::string_view bytes) {
-    return telTot<MogelijkEinde>(bytes);
+std::size_t telZonderEinden(std::string_view bytes, CrLf crLf) {
+    return telTotEinde<Bytesoort::elke>(bytes, crLf);
 }
 
 bool isSchoneUtf8(std::string_view bytes) {

@@ -33,10 +33,13 @@ void schrijfUtf8(std::uint32_t waarde, std::string& uit);
 /// Of alle bytes hele, geldige tekens in hun kortste vorm zijn en er geen CR of NUL bij is.
 bool isSchoneUtf8(std::string_view bytes);
 
+/// Of een CR direct voor een LF het tellen beëindigt, zoals elke andere CR.
+enum class CrLf { eindigt, teltMee };
+
 /// Aantal bytes aan het begin dat gewone ASCII is: geen CR, geen NUL, geen hoge byte. Een LF telt mee.
-std::size_t telGewoneAscii(std::string_view bytes);
+std::size_t telGewoneAscii(std::string_view bytes, CrLf crLf = CrLf::eindigt);
 
 /// Aantal bytes aan het begin zonder CR of NUL.
-std::size_t telZonderEinden(std::string_view bytes);
+std::size_t telZonderEinden(std::string_view bytes, CrLf crLf = CrLf::eindigt);
 
 }  // namespace kern

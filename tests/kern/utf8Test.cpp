@@ -13,6 +13,14 @@ std::size_t telEenvoudig(const std::string& bytes, const Past& past) {
     return static_cast<std::size_t>(std::find_if_not(bytes.begin(), bytes.end(), past) - bytes.begin());
 }
 
+/// Zonder CR waar een LF op volgt; die telt mee als gewone byte.
+std::string maakGewoon(std::string bytes) {
+    for (std::size_t plek = bytes.find("\r\n"); plek != std::string::npos; plek = bytes.find("\r\n")) {
+        bytes[plek] = ' ';
+    }
+    return bytes;
+}
+
 bool isZonderEinde(char byte) {
     return byte != '\0' && byte != '\r';
 }
@@ -49,6 +57,33 @@ TEST(Utf8, TeltDeEersteVanTweeAndereBytes) {
                     ASSERT_EQ(telEenvoudig(bytes, isGewoneAscii), kern::telGewoneAscii(bytes));
                     ASSERT_EQ(telEenvoudig(bytes, isZonderEinde), kern::telZonderEinden(bytes));
                 }
+            }
+        }
+    }
+}
+
+// Elk paar bytes op elke plaats, met de LF van een CR LF in hetzelfde stuk, in het volgende en voorbij het
+// einde.
+TEST(Utf8, TeltEenCrLfAlleenMeeAlsDatGevraagdIs) {
+    constexpr std::size_t lengte = 40;
+    for (const char eerste : {'\r', '\n', '\0', '\x80', 'a'}) {
+        for (const char tweede : {'\n', '\r', '\0', '\xFF', 'b'}) {
+            for (std::size_t plek = 0; plek < lengte; ++plek) {
+                std::string bytes(lengte, ' ');
+                bytes[plek] = eerste;
+                if (plek + 1 < lengte) {
+                    bytes[plek + 1] = tweede;
+                }
+                const std::string gewoon = maakGewoon(bytes);
+                ASSERT_EQ(telEenvoudig(gewoon, isGewoneAscii),
+                          kern::telGewoneAscii(bytes, kern::CrLf::teltMee))
+                    << plek;
+                ASSERT_EQ(telEenvoudig(gewoon, isZonderEinde),
+                          kern::telZonderEinden(bytes, kern::CrLf::teltMee))
+                    << plek;
+                ASSERT_EQ(telEenvoudig(bytes, isGewoneAscii),
+                          kern::telGewoneAscii(bytes, kern::CrLf::eindigt))
+                    << plek;
             }
         }
     }
