@@ -127,15 +127,17 @@ def meet_bestanden(werk):
         ("hetzelfde in ISO 8859-1", "latin-1", "\n", 0.5, "0,6 x sed"),
     ]
     for naam, codering, regeleinde, accenten, doel in gevallen:
-        bron, uit = werk / "bron.c", werk / "uit.c"
+        bron = werk / "bron.c"
         bron.write_bytes(maak_tekst(230_000, 10_000, regeleinde, accenten).encode(codering))
-        kandidaten = {k: (lambda f=f: f(str(bron), str(uit))) for k, f in PER_BESTAND.items()}
+        # Elk maakt zijn eigen uitvoer opnieuw: wie die van zijn voorganger vervangt, wacht ook op wat die nog naar de
+        # schijf aan het schrijven is.
+        kandidaten = {k: (lambda f=f, k=k: f(str(bron), str(werk / f"{k}.uit.c"))) for k, f in PER_BESTAND.items()}
         if codering == "utf-8" and regeleinde == "\n" and not accenten:
             ifdef = werk / "ifdef.c"
             ifdef.write_text(bron.read_text().replace(f"    {BEGIN}", "#ifdef OPLOSSING")
                              .replace(f"    {EIND}", "#endif"))
-            kandidaten["unifdef"] = lambda: subprocess.run(["unifdef", "-UOPLOSSING", "-o", str(uit), str(ifdef)],
-                                                           check=False)
+            kandidaten["unifdef"] = lambda: subprocess.run(["unifdef", "-UOPLOSSING", "-o", str(werk / "unifdef.uit.c"),
+                                                            str(ifdef)], check=False)
             medianen = meet(kandidaten)
             rij(naam, medianen, doel)
             rij("hetzelfde tegen cp", {k: medianen[k] for k in ("knipselaar", "cp")}, "2,5 x cp", "cp")
