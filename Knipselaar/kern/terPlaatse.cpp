@@ -32,6 +32,10 @@ bool schrijf(int kanaal, const char* bytes, std::size_t aantal) {
     return true;
 }
 
+bool isZelfdeEigenaar(const struct stat& een, const struct stat& ander) {
+    return een.st_uid == ander.st_uid && een.st_gid == ander.st_gid;
+}
+
 bool kopieerInhoud(wxFile& bron, int kanaal) {
     std::array<char, blokGrootte> blok;  // NOLINT(cppcoreguidelines-pro-type-member-init): Read vult hem
     for (;;) {
@@ -73,7 +77,8 @@ bool TerPlaatse::vervang(const std::string& echt) {
 bool TerPlaatse::hernoem(int knipsel, const struct stat& oud, const std::string& echt) {
     struct stat nieuw {};
     const bool gelukt = fstat(knipsel, &nieuw) == 0 && nieuw.st_dev == oud.st_dev &&
-                        neemEigenaarOver(knipsel, oud) && fchmod(knipsel, oud.st_mode & alleRechten) == 0 &&
+                        (isZelfdeEigenaar(nieuw, oud) || neemEigenaarOver(knipsel, oud)) &&
+                        fchmod(knipsel, oud.st_mode & alleRechten) == 0 &&
                         rename(tijdelijk_.GetFullPath().fn_str(), echt.c_str()) == 0;
     if (gelukt) {
         tijdelijk_.Clear();
