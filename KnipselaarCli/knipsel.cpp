@@ -35,6 +35,7 @@ std::string_view geefInspringing(std::string_view regel) {
 
 Knipsel::Knipsel(const Brontekst& bron, const Ontleding& ontleding, const KnipWens& wens)
     : bron_(bron), ontleding_(ontleding), wens_(wens) {
+    // Past de vervangtekst niet, dan moet dat blijken voor er iets geschreven is.
     const auto& blokken = ontleding.blokken;
     const auto vol = std::find_if_not(blokken.begin(), blokken.end(), std::mem_fn(&Blok::isLeeg));
     if (vol != blokken.end()) {
