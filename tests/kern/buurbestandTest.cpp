@@ -22,6 +22,14 @@ void schrijf(const Buurbestand& bestand, std::string_view tekst) {
 
 class BuurbestandTest : public testing::Test {
   protected:
+    static struct stat geefGegevens(const Buurbestand& bestand) {
+        struct stat gegevens {};
+        EXPECT_EQ(0, fstat(bestand.geefKanaal(), &gegevens));
+        return gegevens;
+    }
+
+    static mode_t geefRechten(const Buurbestand& bestand) { return geefGegevens(bestand).st_mode & 07777U; }
+
     /// Wat er in de directory staat, met de namen zonder hun toevallige deel.
     Boom leesBoom() const {
         Boom boom;
@@ -100,15 +108,27 @@ TEST_F(BuurbestandTest, KomtZonderDirectoryInDeHuidige) {
 }
 
 TEST_F(BuurbestandTest, NeemtDeRechtenOver) {
-    Buurbestand nieuw(doel_.string());
-    struct stat van {};
-    ASSERT_EQ(0, fstat(nieuw.geefKanaal(), &van));
-    EXPECT_EQ(0600U, van.st_mode & 07777U);
-    van.st_mode = 0750;
+    const Buurbestand nieuw(doel_.string());
+    struct stat van = geefGegevens(nieuw);
+    EXPECT_EQ(0600U, geefRechten(nieuw));
+    van.st_mode = 06750;
     EXPECT_TRUE(nieuw.neemRechtenOver(van));
-    struct stat na {};
-    ASSERT_EQ(0, fstat(nieuw.geefKanaal(), &na));
-    EXPECT_EQ(0750U, na.st_mode & 07777U);
+    EXPECT_EQ(06750U, geefRechten(nieuw));
+}
+
+TEST_F(BuurbestandTest, NeemtVanEenVreemdeEigenaarGeenBijzondereRechtenOver) {
+    const Buurbestand nieuw(doel_.string());
+    struct stat van = geefGegevens(nieuw);
+    van.st_uid = 0;
+    van.st_gid = 0;
+    van.st_mode = 06750;
+    constexpr uid_t niemand = 65534;
+    const bool isRoot = geteuid() == 0;
+    ASSERT_TRUE(!isRoot || (fchown(nieuw.geefKanaal(), niemand, niemand) == 0 && seteuid(niemand) == 0));
+    EXPECT_TRUE(nieuw.neemRechtenOver(van));
+    ASSERT_TRUE(!isRoot || seteuid(0) == 0);
+    EXPECT_EQ(0750U, geefRechten(nieuw));
+    EXPECT_NE(0U, geefGegevens(nieuw).st_uid);
 }
 
 INSTANTIATE_TEST_SUITE_P(Wegen, BuurbestandPlaats, testing::Values(Weg::hernoemen, Weg::ruilen),
