@@ -99,6 +99,11 @@ TEST_F(CliGetrouw, WeigertEenVervangtekstDieNietInDeCoderingPast) {
         draai({"-b", "BEGIN", "-e", "EIND", "-v", "10 €", "a.c"}));
     EXPECT_EQ(1, draai({"-b", "BEGIN", "-e", "EIND", "-v", "10 €", "-t", "a.c"}).status);
     EXPECT_EQ("\xE9\nBEGIN\nx\nEIND\n", lees("a.c"));
+    // Ook van een groot bestand is dan nog niets geschreven.
+    schrijf("groot.c", std::string(1'000'000, '\xE9') + "\nBEGIN\nEIND\nBEGIN\nx\nEIND\n");
+    const Uitkomst groot = draai({"-b", "BEGIN", "-e", "EIND", "-v", "10 €", "groot.c"});
+    EXPECT_EQ(1, groot.status);
+    EXPECT_EQ("", groot.uit);
 }
 
 TEST_F(CliGetrouw, VindtMarkersBuitenAsciiInElkeCodering) {

@@ -43,6 +43,64 @@ TEST_F(CliUitvoer, KniptEenGroteStandaardinvoer) {
     EXPECT_TRUE(goed(groot + "\n" + knipselX) == draai({"-vX", "-"}, {.invoer = groot + "\n" + bron}));
 }
 
+namespace {
+
+/// Een groot bestand met veel blokken, met hier en daar lange stukken en grote blokken, en wat ervan wordt.
+struct Groot {
+    std::string bron;
+    std::string getrouw;
+    std::string venster;
+};
+
+Groot maakGroot(const std::string& regeleinde, const std::string& teken) {
+    Groot groot;
+    for (int i = 0; i < 6'000; ++i) {
+        const int aantal = i % 2'000 == 1'000 ? 3'000 : 1;
+        for (int j = 0; j < aantal; ++j) {
+            const std::string voor = "regel " + std::to_string(i) + "." + std::to_string(j) + " ";
+            groot.bron += voor + teken + regeleinde;
+            groot.getrouw += voor + teken + regeleinde;
+            groot.venster += voor + "é\n";
+        }
+        if (i % 7 == 3) {
+            groot.bron += "BEGIN" + regeleinde;
+            for (int j = 0; j < aantal; ++j) {
+                groot.bron += "geheim" + regeleinde;
+            }
+            groot.bron += "EIND" + regeleinde;
+            groot.getrouw += "X" + regeleinde;
+            groot.venster += "X\n";
+        }
+    }
+    // Na een losse CR komt er geen lege laatste regel.
+    groot.venster += regeleinde == "\r" ? "" : "\n";
+    return groot;
+}
+
+}  // namespace
+
+TEST_F(CliUitvoer, KniptGroteBestandenMetVeelBlokken) {
+    for (const char* regeleinde : {"\n", "\r\n", "\r"}) {
+        for (const char* teken : {"é", "\xE9"}) {
+            const Groot groot = maakGroot(regeleinde, teken);
+            schrijf("a.c", groot.bron);
+            const proef::Woorden woorden{"-bBEGIN", "-eEIND", "-vX", "a.c"};
+            const auto met = [&woorden](proef::Woorden extra) {
+                extra.insert(extra.end(), woorden.begin(), woorden.end());
+                return extra;
+            };
+            EXPECT_TRUE(goed(groot.getrouw) == draai(woorden));
+            EXPECT_TRUE(goed(groot.venster) == draai(met({"--als-venster"})));
+            EXPECT_EQ(goed(), draai(met({"-f", "-u", "uit.c"})));
+            EXPECT_TRUE(groot.getrouw == lees("uit.c"));
+            EXPECT_EQ(goed(), draai(met({"--als-venster", "-f", "-u", "uit.c"})));
+            EXPECT_TRUE(groot.venster == lees("uit.c"));
+            EXPECT_EQ(0, draai(met({"-t"})).status);
+            EXPECT_TRUE(groot.getrouw == lees("a.c"));
+        }
+    }
+}
+
 TEST_F(CliUitvoer, SchrijftNaarEenBestandMetDeRechtenVanDeBron) {
     schrijf("a.c", bron);
     for (const mode_t rechten : {0644U, 0755U, 0444U, 0600U}) {

@@ -40,14 +40,17 @@ TEST_F(Veilig, HoudtDeEigenaar) {
     if (geteuid() != 0) {
         GTEST_SKIP() << "alleen root kan een bestand weggeven";
     }
-    hulp::schrijfBestand(boom_ / "a.c", origineel);
-    ASSERT_EQ(0, chown((boom_ / "a.c").c_str(), 1234, 5678));
-    knipBoom();
-    struct stat gegevens {};
-    ASSERT_EQ(0, stat((boom_ / "a.c").c_str(), &gegevens));
-    EXPECT_EQ(1234U, gegevens.st_uid);
-    EXPECT_EQ(5678U, gegevens.st_gid);
-    EXPECT_EQ(geknipt, hulp::leesBestand(boom_ / "a.c"));
+    for (const auto& [eigenaar, groep] :
+         std::vector<std::pair<uid_t, gid_t>>{{1234, 5678}, {1234, 0}, {0, 5678}, {0, 0}}) {
+        hulp::schrijfBestand(boom_ / "a.c", origineel);
+        ASSERT_EQ(0, chown((boom_ / "a.c").c_str(), eigenaar, groep));
+        knipBoom();
+        struct stat gegevens {};
+        ASSERT_EQ(0, stat((boom_ / "a.c").c_str(), &gegevens));
+        EXPECT_EQ(eigenaar, gegevens.st_uid);
+        EXPECT_EQ(groep, gegevens.st_gid);
+        EXPECT_EQ(geknipt, hulp::leesBestand(boom_ / "a.c"));
+    }
 }
 
 TEST_F(Veilig, LaatHetOrigineelHeelZolangHetKnippenDuurt) {
