@@ -15,22 +15,22 @@ ruim_op() {
 }
 trap ruim_op EXIT
 
-# Of een opdracht binnen een aantal tienden van seconden slaagt. $1 is dat aantal, de rest is de opdracht.
+# Of een opdracht binnen een aantal seconden slaagt. $1 is dat aantal, de rest is de opdracht. Een poging die dan
+# loopt wordt afgemaakt.
 slaagt_binnen() {
-    local grens=$1 poging
+    local einde=$((SECONDS + $1))
     shift
-    for ((poging = 0; poging < grens; poging++)); do
-        "$@" >/dev/null 2>&1 && return
+    until "$@" >/dev/null 2>&1; do
+        ((SECONDS < einde)) || return 1
         sleep 0.1
     done
-    return 1
 }
 
 # Wacht tot een opdracht slaagt. $1 is wat er anders gemeld wordt.
 wacht_op() {
     local melding=$1
     shift
-    slaagt_binnen 200 "$@" || stop "$melding"
+    slaagt_binnen 30 "$@" || stop "$melding"
 }
 
 # Het nummer van het zichtbare venster met deze titel.
@@ -50,8 +50,8 @@ kies_pad() {
     xdotool key ctrl+a
     xdotool type --delay 20 "$2"
     xdotool key Return
-    # De eerste Return kan nog de lijst met aanvullingen sluiten.
-    slaagt_binnen 15 venster_weg "$1" || xdotool key Return
+    # De eerste Return kan nog de lijst met aanvullingen sluiten. Een tweede mag niet in het venster terechtkomen.
+    slaagt_binnen 5 venster_weg "$1" || ! venster_actief "$1" || xdotool key Return
     wacht_op "de dialoog '$1' blijft staan" venster_weg "$1"
 }
 
@@ -77,14 +77,22 @@ lijkt_op() {
     [ "$verschil" -lt 50 ] 2>/dev/null
 }
 
+# Maakt een afdruk van het venster $1 in het bestand $2, als dat venster er is. Zonder nummer zou import op een klik
+# met de muis wachten.
+druk_af() {
+    local nummer
+    nummer=$(venster_nummer "$1")
+    [ -n "$nummer" ] && import -window "$nummer" "$2"
+}
+
 # Of het venster met deze titel een tijd stilstaat: ook een schuifbalk is dan uitgefaded. De afdruk is nu.png.
 staat_stil() {
     local blik
-    import -window "$(venster_nummer "$1")" "$werk/nu.png"
+    druk_af "$1" "$werk/nu.png" || return
     for ((blik = 0; blik < 8; blik++)); do
         mv "$werk/nu.png" "$werk/net.png"
         sleep 0.1
-        import -window "$(venster_nummer "$1")" "$werk/nu.png"
+        druk_af "$1" "$werk/nu.png" || return
         lijkt_op "$werk/net.png" "$werk/nu.png" || return
     done
 }
