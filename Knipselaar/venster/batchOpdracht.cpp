@@ -17,12 +17,32 @@
 
 namespace {
 
+/// Laat een editor zijn schuifbalk pas bijwerken als er niets meer bij komt. De toolkit rekent hem anders bij
+/// elke regel opnieuw uit, en dat kost meer dan al het andere dat het venster voor een bestand doet.
+class Schuifrust {
+  public:
+    explicit Schuifrust(wxStyledTextCtrl& editor) : editor_(editor) {
+        editor_.SetUseVerticalScrollBar(false);
+    }
+    Schuifrust(const Schuifrust&) = delete;
+    Schuifrust& operator=(const Schuifrust&) = delete;
+    ~Schuifrust() { editor_.SetUseVerticalScrollBar(true); }
+
+  private:
+    wxStyledTextCtrl& editor_;
+};
+
 /// Knipt voor een venster: leest zijn bediening bij elk bestand opnieuw en schrijft in zijn editors.
 class VensterBatch : public kern::BatchOpdracht {
   public:
     VensterBatch(const wxChoice& bestandType, wxStyledTextCtrl& bronLog, wxStyledTextCtrl& doelLog,
                  std::function<kern::KnipUitslag(const wxFileName&, const wxFileName&)> knip)
-        : bestandType_(bestandType), bronLog_(bronLog), doelLog_(doelLog), knip_(std::move(knip)) {}
+        : bestandType_(bestandType),
+          bronLog_(bronLog),
+          doelLog_(doelLog),
+          bronRust_(bronLog),
+          doelRust_(doelLog),
+          knip_(std::move(knip)) {}
 
     bool isGekozen(const wxFileName& bestand) override {
         return kern::isBestandGekozen(bestand.GetExt(), bestandType_.GetSelection());
@@ -47,6 +67,8 @@ class VensterBatch : public kern::BatchOpdracht {
     wxStyledTextCtrl& doelLog_;
 
   private:
+    Schuifrust bronRust_;
+    Schuifrust doelRust_;
     std::function<kern::KnipUitslag(const wxFileName&, const wxFileName&)> knip_;
 };
 

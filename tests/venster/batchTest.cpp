@@ -68,6 +68,23 @@ TEST_F(VlakkeBatch, NeemtBijAlleBestandenAlles) {
               hulp::leesBoom(doel_));
 }
 
+TEST_F(VlakkeBatch, LaatEenLangLogboekSchuiven) {
+    constexpr int aantal = 200;
+    for (int i = 0; i < aantal; ++i) {
+        hulp::schrijfBestand(bron_ / (std::to_string(i) + ".c"), metBlok);
+    }
+    knipDirectory();
+    for (wxStyledTextCtrl* editor : {origineel(), aangepast()}) {
+        EXPECT_TRUE(laatLopenTot([editor] { return editor->GetScrollRange(wxVERTICAL) > aantal; }));
+        EXPECT_LT(editor->GetScrollThumb(wxVERTICAL), aantal);
+        editor->ScrollToEnd();
+        EXPECT_TRUE(laatLopenTot([editor] {
+            return editor->GetScrollPos(wxVERTICAL) == editor->GetFirstVisibleLine() &&
+                   editor->GetFirstVisibleLine() > 0;
+        }));
+    }
+}
+
 TEST_F(VlakkeBatch, MeldtEenLegeBron) {
     hulp::maakBoom(bron_, {{"sub/a.c", metBlok}, {".verborgen.c", metBlok}});
     const auto melding = beantwoordMelding(wxID_OK, [this] {
