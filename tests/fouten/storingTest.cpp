@@ -2,6 +2,7 @@
 // past. Wat er ook misgaat: het programma loopt gewoon af, elk origineel is heel en niets blijft achter.
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -122,6 +123,7 @@ class Storing : public testing::Test {
         for (const auto& [pad, inhoud] : begin) {
             if (isOrigineel(pad)) {
                 chmod640(wereld_ / pad);
+                geefWeg(wereld_ / pad);
             }
         }
     }
@@ -173,6 +175,11 @@ class Storing : public testing::Test {
   private:
     static bool isOrigineel(const std::string& pad) {
         return !pad.starts_with("doel") && !begin.at(pad).starts_with("-> ") && begin.at(pad) != "/";
+    }
+
+    /// Van een ander, zodat ook het overnemen van de eigenaar mis kan gaan. Alleen root kan dat.
+    static void geefWeg(const fs::path& pad) {
+        EXPECT_TRUE(geteuid() != 0 || chown(pad.c_str(), 1234, 5678) == 0) << pad;
     }
 
     static void chmod640(const fs::path& pad) {

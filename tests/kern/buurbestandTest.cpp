@@ -92,6 +92,17 @@ TEST_P(BuurbestandPlaats, BlijftVanEenDirectory) {
     EXPECT_EQ((Boom{{"a.c", "/"}, {"a.c/b.c", "erin"}}), leesBoom());
 }
 
+TEST_P(BuurbestandPlaats, BlijftVanDeBestemmingAlsHetBuurbestandNietHeelIs) {
+    hulp::schrijfBestand(doel_, "oud");
+    {
+        Buurbestand nieuw(doel_.string());
+        ASSERT_EQ(0, close(nieuw.geefKanaal())) << "dan mislukt het sluiten straks";
+        EXPECT_FALSE(neemPlaatsIn(nieuw));
+        EXPECT_EQ(EBADF, errno);
+    }
+    EXPECT_EQ((Boom{{"a.c", "oud"}}), leesBoom());
+}
+
 TEST_F(BuurbestandTest, IsNietOpenWaarGeenDirectoryIs) {
     Buurbestand nieuw((map_ / "weg/a.c").string());
     EXPECT_EQ(ENOENT, errno);
