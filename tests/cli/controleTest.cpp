@@ -1,6 +1,8 @@
 // De controle van de markers, op vaste gevallen: elke directory onder controles/ heeft een bestand "in" en de
 // meldingen en afloop die erbij horen.
 
+#include <algorithm>
+
 #include "tests/cli/proef.h"
 
 namespace fs = std::filesystem;

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "Knipselaar/kern/bestandKnipper.h"
 #include "Knipselaar/kern/parserInstellingen.h"
 #include "tests/hulp/bestanden.h"

@@ -7,6 +7,8 @@
 
 #include <csignal>
 #include <cstdio>
+#include <utility>
+#include <vector>
 
 #include "tests/hulp/kleineSchijf.h"
 #include "tests/kern/batchProef.h"
