@@ -38,7 +38,7 @@ std::size_t telTekens(std::string_view tekst) {
 
 }  // namespace
 
-Bewijsstof verzamelStof(std::string_view tekst, std::span<const Blok> blokken, std::size_t lengte) {
+Bewijsstof verzamelStof(std::string_view tekst, std::span<const kern::Blok> blokken, std::size_t lengte) {
     Bewijsstof stof;
     std::size_t nummer = 1;
     std::size_t plek = 0;
@@ -58,7 +58,7 @@ Bewijsstof verzamelStof(std::string_view tekst, std::span<const Blok> blokken, s
         stof.weg.push_back({.regel = nr, .tekst = std::string(regel)});
     };
     const auto marker = [](std::size_t, std::string_view) {};
-    for (const Blok& blok : blokken) {
+    for (const kern::Blok& blok : blokken) {
         neem(blok.begin.begin, gebleven);
         neem(blok.begin.eind, marker);
         neem(blok.eind.begin, weg);
@@ -116,7 +116,7 @@ void Bewijs::leesBestandNa(const std::string& pad, std::vector<Bewijsvondst>& vo
 }
 
 bool Bewijs::draagtMarker(std::string_view regel) const {
-    return std::any_of(paren_.begin(), paren_.end(), [regel](const Markerpaar& paar) {
+    return std::any_of(paren_.begin(), paren_.end(), [regel](const kern::Markerpaar& paar) {
         return paar.begin.past(regel) || paar.eind.past(regel);
     });
 }

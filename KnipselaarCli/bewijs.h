@@ -28,7 +28,7 @@ struct Bewijsstof {
 };
 
 /// @param lengte  regels van meer dan zoveel tekens tellen, de blanco tekens eromheen niet meegerekend.
-Bewijsstof verzamelStof(std::string_view tekst, std::span<const Blok> blokken, std::size_t lengte);
+Bewijsstof verzamelStof(std::string_view tekst, std::span<const kern::Blok> blokken, std::size_t lengte);
 
 /// Een plaats in de bestemming waar iets staat dat er niet hoort.
 struct Bewijsvondst {
@@ -39,7 +39,7 @@ struct Bewijsvondst {
 
 class Bewijs {
   public:
-    Bewijs(std::span<const Markerpaar> paren, std::size_t lengte) : paren_(paren), lengte_(lengte) {}
+    Bewijs(std::span<const kern::Markerpaar> paren, std::size_t lengte) : paren_(paren), lengte_(lengte) {}
 
     /// Voegt de stof van een bestand toe.
     void neem(const std::string& bron, Bewijsstof stof);
@@ -55,7 +55,7 @@ class Bewijs {
     void leesBestandNa(const std::string& pad, std::vector<Bewijsvondst>& vondsten) const;
     bool draagtMarker(std::string_view regel) const;
 
-    std::span<const Markerpaar> paren_;
+    std::span<const kern::Markerpaar> paren_;
     std::size_t lengte_;
     std::unordered_map<std::string, std::string> weg_;  ///< met de plaats waar de regel wegviel
     std::unordered_set<std::string> toegelaten_;

@@ -113,7 +113,7 @@ class Run {
     Teksten teksten_;
     Plan plan_;
     Verslag verslag_{opties_};
-    Bewijs bewijs_{teksten_.paren, opties_.bewijsLengte};
+    Bewijs bewijs_{teksten_.markers.geefParen(), opties_.bewijsLengte};
 };
 
 Afloop voerUit(const std::vector<std::string>& woorden) {

@@ -1,9 +1,10 @@
 #pragma once
 
-// Wat een run tegenhoudt, en hoe het systeem het noemt.
+// Wat een run tegenhoudt.
 
 #include <stdexcept>
-#include <string>
+
+#include "Knipselaar/kern/reden.h"
 
 namespace cli {
 
@@ -17,7 +18,6 @@ class Fout : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// De reden bij een foutnummer van het systeem, in het Nederlands; onbekende in het Engels van het systeem.
-std::string noemReden(int foutnummer);
+using kern::noemReden;
 
 }  // namespace cli

@@ -37,7 +37,7 @@ Knipsel::Knipsel(const Brontekst& bron, const Ontleding& ontleding, const KnipWe
     : bron_(bron), ontleding_(ontleding), wens_(wens) {
     // Past de vervangtekst niet, dan moet dat blijken voor er iets geschreven is.
     const auto& blokken = ontleding.blokken;
-    const auto vol = std::find_if_not(blokken.begin(), blokken.end(), std::mem_fn(&Blok::isLeeg));
+    const auto vol = std::find_if_not(blokken.begin(), blokken.end(), std::mem_fn(&kern::Blok::isLeeg));
     if (vol != blokken.end()) {
         geefVervanging(*vol);
     }
@@ -55,7 +55,7 @@ void Knipsel::geef(const std::function<void(std::string_view)>& uit) {
         return;
     }
     std::size_t plek = 0;
-    for (const Blok& blok : ontleding_.blokken) {
+    for (const kern::Blok& blok : ontleding_.blokken) {
         uit(geefBlijvend(plek, blok.begin.begin));
         uit(geefVervanging(blok));
         plek = blok.eind.eind;
@@ -94,7 +94,7 @@ void Knipsel::zetOm(const std::function<void(std::string_view)>& uit) {
             uit(omgezet);
         }
     };
-    for (const Blok& blok : ontleding_.blokken) {
+    for (const kern::Blok& blok : ontleding_.blokken) {
         geefTot(blok.begin.begin);
         neemTot(blok.eind.eind);
         uit(geefVervanging(blok));
@@ -106,7 +106,7 @@ void Knipsel::zetOm(const std::function<void(std::string_view)>& uit) {
     uit(eindigtMetBlok ? std::string_view() : std::string_view(omgezet));
 }
 
-std::string_view Knipsel::geefVervanging(const Blok& blok) {
+std::string_view Knipsel::geefVervanging(const kern::Blok& blok) {
     if (blok.isLeeg()) {
         return {};
     }
@@ -122,7 +122,7 @@ std::string_view Knipsel::geefVensterVervanging() {
 
 /// De vervangtekst in de codering en met het regeleinde van het bestand. Heeft het bestand na het blok niets
 /// meer, ook geen regeleinde, dan krijgt de vervangtekst er ook geen.
-std::string_view Knipsel::geefGetrouweVervanging(const Blok& blok) {
+std::string_view Knipsel::geefGetrouweVervanging(const kern::Blok& blok) {
     const std::string_view ruw = bron_.geefRuw();
     const std::string_view tekst = bron_.geefTekst();
     const std::size_t begin = bron_.naarRuw(blok.begin.begin);
@@ -155,7 +155,7 @@ std::string_view Knipsel::geefGetrouweVervanging(const Blok& blok) {
 std::vector<Wijziging> Knipsel::geefWijzigingen() {
     std::vector<Wijziging> uit;
     std::size_t plek = 0;
-    for (const Blok& blok : ontleding_.blokken) {
+    for (const kern::Blok& blok : ontleding_.blokken) {
         vergelijkRegels({plek, blok.begin.begin}, uit);
         uit.push_back({.begin = bron_.naarRuw(blok.begin.begin),
                        .eind = bron_.naarRuw(blok.eind.eind),

@@ -51,9 +51,9 @@ class Knipsel {
     std::vector<Wijziging> geefWijzigingen();
 
   private:
-    std::string_view geefVervanging(const Blok& blok);
+    std::string_view geefVervanging(const kern::Blok& blok);
     std::string_view geefVensterVervanging();
-    std::string_view geefGetrouweVervanging(const Blok& blok);
+    std::string_view geefGetrouweVervanging(const kern::Blok& blok);
     std::string_view geefBlijvend(std::size_t begin, std::size_t eind) const;
     void zetOm(const std::function<void(std::string_view)>& uit);
     void vergelijkRegels(kern::Regel deel, std::vector<Wijziging>& uit) const;

@@ -66,7 +66,7 @@ kern::MarkerMasker maakMasker(const std::string& marker, bool letterlijk) {
     return kern::MarkerMasker(wxString::FromUTF8(marker), letterlijk ? kern::Jokers::nee : kern::Jokers::ja);
 }
 
-void vulParen(const TekstKeuze& keuze, const kern::ParserInstellingen& instellingen, Teksten& teksten) {
+void vulMarkers(const TekstKeuze& keuze, const kern::ParserInstellingen& instellingen, Teksten& teksten) {
     std::vector<std::string> begin = keuze.begin;
     std::vector<std::string> eind = keuze.eind;
     if (begin.empty() && eind.empty()) {
@@ -77,14 +77,16 @@ void vulParen(const TekstKeuze& keuze, const kern::ParserInstellingen& instellin
         throw Fout("er zijn " + std::to_string(begin.size()) + " beginmarkers en " +
                    std::to_string(eind.size()) + " eindmarkers; geef bij elke --begin een --eind");
     }
+    std::vector<kern::Markerpaar> paren;
     for (std::size_t i = 0; i < begin.size(); ++i) {
         keurMarker(begin[i], "beginmarker", keuze.letterlijk);
         keurMarker(eind[i], "eindmarker", keuze.letterlijk);
-        teksten.paren.push_back(
+        paren.push_back(
             {.begin = maakMasker(begin[i], keuze.letterlijk), .eind = maakMasker(eind[i], keuze.letterlijk)});
         teksten.markersGewoon = teksten.markersGewoon && isGewoon(begin[i], keuze.letterlijk) &&
                                 isGewoon(eind[i], keuze.letterlijk);
     }
+    teksten.markers = kern::MarkerReeks(std::move(paren), kern::Bijna::nee);
 }
 
 void vulVervanging(const TekstKeuze& keuze, const kern::ParserInstellingen& instellingen, Teksten& teksten) {
@@ -123,7 +125,7 @@ Teksten bepaalTeksten(const TekstKeuze& keuze) {
     const kern::ParserInstellingen instellingen =
         keuze.zonderInstellingen ? geefStandaard() : leesInstellingen();
     Teksten teksten;
-    vulParen(keuze, instellingen, teksten);
+    vulMarkers(keuze, instellingen, teksten);
     vulVervanging(keuze, instellingen, teksten);
     return teksten;
 }

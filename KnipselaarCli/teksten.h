@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Knipselaar/kern/markerMasker.h"
+#include "Knipselaar/kern/markerReeks.h"
 
 namespace cli {
 
@@ -19,15 +19,9 @@ inline constexpr std::size_t aantalTalen = 3;
 /// De taal van een bestand, naar zijn extensie.
 Taal kiesTaal(std::string_view pad);
 
-/// Een beginmarker met de eindmarker die erbij hoort.
-struct Markerpaar {
-    kern::MarkerMasker begin;
-    kern::MarkerMasker eind;
-};
-
 /// De markers en vervangteksten van een run; alle teksten in UTF-8.
 struct Teksten {
-    std::vector<Markerpaar> paren;
+    kern::MarkerReeks markers;
     std::array<std::string, aantalTalen> vervanging;
     /// Of alle markers in de ruwe bytes van elke smalle codering te herkennen zijn.
     bool markersGewoon = true;

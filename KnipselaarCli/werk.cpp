@@ -36,7 +36,7 @@ class Knipbeurt {
     Uitslag voerUit() {
         Inhoud inhoud = leesInhoud(taak_.bron);
         const Brontekst bron(std::move(inhoud.bytes), kiesLezing());
-        const Ontleding ontleding = ontleed(bron.geefTekst(), teksten_.paren);
+        const Ontleding ontleding = ontleed(bron.geefTekst(), teksten_.markers);
         uitslag_.blokken = ontleding.blokken.size();
         uitslag_.meldingen = ontleding.meldingen;
         if (opties_.streng) {
@@ -110,7 +110,7 @@ class Knipbeurt {
             return;
         }
         std::size_t weg = 0;
-        for (const Blok& blok : ontleding.blokken) {
+        for (const kern::Blok& blok : ontleding.blokken) {
             weg += telRegels(bron.geefTekst().substr(blok.begin.begin, blok.eind.eind - blok.begin.begin));
         }
         const std::string& vervanging = geefVervanging();
@@ -118,7 +118,7 @@ class Knipbeurt {
             telRegels(vervanging) + (vervanging.empty() || vervanging.ends_with('\n') ? 0 : 1);
         const auto vervangen =
             static_cast<std::size_t>(std::count_if(ontleding.blokken.begin(), ontleding.blokken.end(),
-                                                   [](const Blok& blok) { return !blok.isLeeg(); }));
+                                                   [](const kern::Blok& blok) { return !blok.isLeeg(); }));
         uitslag_.regelsEruit = uitslag_.regelsErin - weg + vervangen * erbij;
     }
 

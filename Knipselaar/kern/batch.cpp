@@ -3,6 +3,7 @@
 #include <wx/dir.h>
 #include <wx/log.h>
 
+#include <optional>
 #include <string>
 #include <unordered_set>
 
@@ -36,17 +37,43 @@ class Beurten {
   public:
     explicit Beurten(const wxString& boom) : wortel_(geefEchtPad(boom)) {}
 
-    /// Of dit echte pad in de boom ligt en nog niet aan de beurt was; daarna was het dat wel. Van een boom
-    /// die zelf niet te vinden is ligt niets binnen.
-    bool neem(const std::string& echt) {
+    /// Waarom dit echte pad niet aan de beurt mag; niets als het in de boom ligt en nog niet aan de beurt
+    /// was. Daarna was het dat wel. Van een boom die zelf niet te vinden is ligt niets binnen.
+    std::optional<Overslag> neem(const std::string& echt) {
         const bool binnen = wortel_ == "/" || (!wortel_.empty() && echt.starts_with(wortel_ + "/"));
-        return binnen && geweest_.insert(echt).second;
+        if (!binnen) {
+            return Overslag::buitenBoom;
+        }
+        return geweest_.insert(echt).second ? std::nullopt : std::optional(Overslag::alGeweest);
     }
 
   private:
     std::string wortel_;
     std::unordered_set<std::string> geweest_;
 };
+
+std::optional<Overslag> keurVlak(const wxFileName& bron, const wxFileName& doel, bool zelfdeDirectory,
+                                 BatchOpdracht& opdracht) {
+    if (!opdracht.isGekozen(bron)) {
+        return Overslag::nietGekozen;
+    }
+    const bool zouLegen = !zelfdeDirectory && isZelfdePlaats(bron.GetFullPath(), doel.GetFullPath());
+    return zouLegen ? std::optional(Overslag::bronZelf) : std::nullopt;
+}
+
+/// Knipt één bestand ter plaatse.
+/// @param echt  het echte pad, of leeg als het bestand nergens te vinden is; dan wordt er niets vervangen.
+Afloop knipTerPlaatse(const wxFileName& bestand, const std::string& echt, TerPlaatse& terPlaatse,
+                      BatchOpdracht& opdracht) {
+    Afloop afloop;
+    afloop.terPlaatse = true;
+    afloop.tijdelijkReden = terPlaatse.geefReden();
+    afloop.knip = opdracht.knip(bestand, terPlaatse.geefTijdelijk());
+    if (afloop.knip.isGelukt() && !echt.empty() && !terPlaatse.vervang(echt)) {
+        afloop.vervangReden = terPlaatse.geefReden();
+    }
+    return afloop;
+}
 
 }  // namespace
 
@@ -82,14 +109,14 @@ void knipDirectory(const wxString& bron, const wxString& bestemming, const std::
     for (const wxString& naam : namen) {
         const wxFileName bronBestand(bron, naam);
         const wxFileName doelBestand(bestemming, naam);
-        const bool zouLegen =
-            !zelfdeDirectory && isZelfdePlaats(bronBestand.GetFullPath(), doelBestand.GetFullPath());
-        if (!opdracht.isGekozen(bronBestand) || zouLegen) {
-            opdracht.meldOvergeslagen(nummer, bronBestand);
+        if (const auto overslag = keurVlak(bronBestand, doelBestand, zelfdeDirectory, opdracht)) {
+            opdracht.meldOvergeslagen(nummer, bronBestand, *overslag);
             continue;
         }
-        opdracht.knip(bronBestand, doelBestand);
+        Afloop afloop;
+        afloop.knip = opdracht.knip(bronBestand, doelBestand);
         opdracht.meldVerwerkt(nummer, bronBestand, doelBestand);
+        opdracht.meldAfloop(afloop);
         ++nummer;
     }
 }
@@ -103,15 +130,19 @@ void knipBoom(const wxString& boom, const std::vector<wxString>& paden, BatchOpd
         // Een pad dat nergens heen wijst wordt gemeld als verwerkt, maar nooit vervangen: ook als het daarna
         // wel te vinden is, kan het al aan de beurt geweest zijn of buiten de boom liggen.
         const std::string echt = geefEchtPad(pad);
-        if (!opdracht.isGekozen(bestand) || (!echt.empty() && !beurten.neem(echt))) {
-            opdracht.meldOvergeslagen(nummer, bestand);
+        std::optional<Overslag> overslag;
+        if (!opdracht.isGekozen(bestand)) {
+            overslag = Overslag::nietGekozen;
+        } else if (!echt.empty()) {
+            overslag = beurten.neem(echt);
+        }
+        if (overslag) {
+            opdracht.meldOvergeslagen(nummer, bestand, *overslag);
             continue;
         }
         TerPlaatse terPlaatse;
         opdracht.meldVerwerkt(nummer, bestand, bestand);
-        if (opdracht.knip(bestand, terPlaatse.geefTijdelijk()).isGelukt() && !echt.empty()) {
-            terPlaatse.vervang(echt);
-        }
+        opdracht.meldAfloop(knipTerPlaatse(bestand, echt, terPlaatse, opdracht));
     }
 }
 

@@ -6,11 +6,30 @@
 
 #include <wx/filename.h>
 
+#include <string>
 #include <vector>
 
 #include "Knipselaar/kern/bestandKnipper.h"
 
 namespace kern {
+
+/// Waarom een bestand niet aan de beurt komt.
+enum class Overslag {
+    nietGekozen,  ///< de opdrachtgever koos het niet
+    bronZelf,     ///< de bestemming is het bronbestand zelf en zou leeg raken
+    alGeweest,    ///< het was via een andere naam al aan de beurt
+    buitenBoom    ///< het ligt via een link buiten de boom
+};
+
+/// Hoe het met een bestand afliep.
+struct Afloop {
+    KnipUitslag knip;
+    bool terPlaatse = false;
+    std::string tijdelijkReden;  ///< waarom er geen tijdelijk bestand te maken was; leeg als het lukte
+    std::string vervangReden;    ///< waarom het knipsel de plaats van het bestand niet innam
+
+    bool isGelukt() const { return knip.isGelukt() && tijdelijkReden.empty() && vervangReden.empty(); }
+};
 
 /// Wat een batch van zijn opdrachtgever nodig heeft.
 class BatchOpdracht {
@@ -27,10 +46,13 @@ class BatchOpdracht {
     virtual KnipUitslag knip(const wxFileName& bron, const wxFileName& bestemming) = 0;
 
     /// Een bestand blijft zoals het is.
-    virtual void meldOvergeslagen(long nummer, const wxFileName& bestand) = 0;
+    virtual void meldOvergeslagen(long nummer, const wxFileName& bestand, Overslag reden) = 0;
 
     /// Een bestand is aan de beurt; ter plaatse zijn bron en bestemming hetzelfde. Zegt niet of het lukte.
     virtual void meldVerwerkt(long nummer, const wxFileName& bron, const wxFileName& bestemming) = 0;
+
+    /// Hoe het afliep met het bestand dat als laatste aan de beurt was.
+    virtual void meldAfloop(const Afloop& afloop) = 0;
 };
 
 /// De namen van de gewone en bijzondere bestanden in een directory, zonder verborgen bestanden, in de

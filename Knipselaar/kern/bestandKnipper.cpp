@@ -6,6 +6,11 @@
 #include <wx/log.h>
 #include <wx/wfstream.h>
 
+#include <cerrno>
+#include <utility>
+
+#include "Knipselaar/kern/reden.h"
+
 namespace kern {
 
 namespace {
@@ -14,27 +19,36 @@ constexpr int geenBestand = -1;
 
 enum class Inhoud { houden, legen };
 
-/// Geeft alleen een gewoon bestand door, zo nodig geleegd; al het andere gaat meteen weer dicht.
-int houdGewoonBestand(int bestand, Inhoud inhoud) {
+/// Een bestand dat openging, of waarom niet.
+struct Opening {
+    int bestand = geenBestand;
+    std::string reden;
+};
+
+/// Houdt alleen een gewoon bestand open, zo nodig geleegd; al het andere gaat meteen weer dicht.
+Opening houdGewoonBestand(int bestand, Inhoud inhoud) {
     struct stat gegevens {};
-    const bool gewoon = bestand != geenBestand && fstat(bestand, &gegevens) == 0 && S_ISREG(gegevens.st_mode);
-    const bool goed =
-        gewoon && (inhoud == Inhoud::houden || gegevens.st_size == 0 || ftruncate(bestand, 0) == 0);
-    if (bestand != geenBestand && !goed) {
-        close(bestand);
+    if (bestand == geenBestand || fstat(bestand, &gegevens) != 0) {
+        return {.reden = noemReden(errno)};
     }
-    return goed ? bestand : geenBestand;
+    const bool gewoon = S_ISREG(gegevens.st_mode);
+    if (gewoon && (inhoud == Inhoud::houden || gegevens.st_size == 0 || ftruncate(bestand, 0) == 0)) {
+        return {.bestand = bestand, .reden = {}};
+    }
+    std::string reden = gewoon ? noemReden(errno) : "is geen gewoon bestand";
+    close(bestand);
+    return {.reden = std::move(reden)};
 }
 
 // O_NONBLOCK: op een pijp zonder tegenpartij zou open anders voor altijd wachten. Voor gewone bestanden
 // betekent de vlag niets.
 
-int openBron(const wxFileName& pad) {
+Opening openBron(const wxFileName& pad) {
     return houdGewoonBestand(open(pad.GetFullPath().fn_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC),
                              Inhoud::houden);
 }
 
-int openDoel(const wxFileName& pad) {
+Opening openDoel(const wxFileName& pad) {
     constexpr int vlaggen = O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     constexpr mode_t rechten = 0666;
     const wxString naam = pad.GetFullPath();
@@ -46,21 +60,39 @@ int openDoel(const wxFileName& pad) {
     return houdGewoonBestand(bestand, Inhoud::legen);
 }
 
+/// Waarom een bestand dat openging niet heel gelezen of geschreven is; leeg als het lukte of al gezegd is.
+void vulReden(bool gelukt, const wxFile& bestand, std::string& reden) {
+    if (!gelukt && reden.empty() && bestand.GetLastError() != 0) {
+        reden = noemReden(bestand.GetLastError());
+    }
+}
+
 }  // namespace
 
-KnipUitslag knipBestand(const wxFileName& bron, const wxFileName& doel, const KnipTeksten& teksten) {
+KnipUitslag knipBestand(const wxFileName& bron, const wxFileName& doel, const KnipMal& mal,
+                        Nakijken nakijken) {
     const wxLogNull geenMeldingen;
     KnipUitslag uitslag;
-    wxFileInputStream origStroom(openBron(bron));
+    Opening vanBron = openBron(bron);
+    wxFileInputStream origStroom(vanBron.bestand);
     wxASSERT(origStroom.IsOk());
-    wxFileOutputStream uitStroom(openDoel(doel));
+    Opening vanDoel = openDoel(doel);
+    wxFileOutputStream uitStroom(vanDoel.bestand);
     wxASSERT(uitStroom.IsOk());
 
     if (origStroom.IsOk()) {
-        uitslag = knipStroom(origStroom, uitStroom, teksten);
+        uitslag = knipStroom(origStroom, uitStroom, mal, nakijken);
     }
     uitslag.doelHeelGeschreven = uitStroom.Close() && uitslag.doelHeelGeschreven;
+    uitslag.bronReden = std::move(vanBron.reden);
+    uitslag.doelReden = std::move(vanDoel.reden);
+    vulReden(uitslag.bronHeelGelezen, *origStroom.GetFile(), uitslag.bronReden);
+    vulReden(uitslag.doelHeelGeschreven, *uitStroom.GetFile(), uitslag.doelReden);
     return uitslag;
+}
+
+KnipUitslag knipBestand(const wxFileName& bron, const wxFileName& doel, const KnipTeksten& teksten) {
+    return knipBestand(bron, doel, KnipMal(teksten));
 }
 
 }  // namespace kern

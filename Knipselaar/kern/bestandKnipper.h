@@ -13,7 +13,9 @@ namespace kern {
 ///
 /// Gaat de bron niet open, dan wordt het doel toch gemaakt of leeggemaakt. Wat bestaat en geen gewoon bestand
 /// is (een directory, een pijp, een apparaat, een link die nergens heen wijst) gaat niet open en blijft zoals
-/// het is. Meldt zelf niets; de uitslag zegt of het lukte.
+/// het is. Meldt zelf niets; de uitslag zegt of het lukte, en zo niet waarom.
+KnipUitslag knipBestand(const wxFileName& bron, const wxFileName& doel, const KnipMal& mal,
+                        Nakijken nakijken = Nakijken::nee);
 KnipUitslag knipBestand(const wxFileName& bron, const wxFileName& doel, const KnipTeksten& teksten);
 
 }  // namespace kern

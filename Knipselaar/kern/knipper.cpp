@@ -2,26 +2,24 @@
 
 namespace kern {
 
-Knipper::Knipper(const KnipTeksten& teksten, std::string_view achterVervanging)
-    : begin_(teksten.beginMarker),
-      eind_(teksten.eindMarker),
-      vervanging_(teksten.vervangtekst.utf8_string()) {
+Knipper::Knipper(const KnipMal& mal, std::string_view achterVervanging)
+    : mal_(mal), vervanging_(mal.geefVervanging()) {
     vervanging_ += achterVervanging;
 }
 
 void Knipper::knip(std::string_view regels, const Uitvoer& uit) {
     std::size_t plek = 0;
     while (plek < regels.size()) {
-        const MarkerMasker& masker = filter_.isInBlok() ? eind_ : begin_;
+        const MarkerMasker& masker = filter_.isInBlok() ? mal_.geefPaar().eind : mal_.geefPaar().begin;
         const auto marker = masker.zoekRegel(regels, plek);
         const std::size_t reeksEinde = marker ? marker->begin : regels.size();
         if (reeksEinde > plek) {
             switch (filter_.beoordeel(false)) {
                 case Lot::houden:
-                    uit(regels.substr(plek, reeksEinde - plek));
+                    uit(regels.substr(plek, reeksEinde - plek), Lot::houden);
                     break;
                 case Lot::vervangen:
-                    uit(vervanging_);
+                    uit(vervanging_, Lot::vervangen);
                     break;
                 case Lot::weglaten:
                     break;
@@ -34,10 +32,20 @@ void Knipper::knip(std::string_view regels, const Uitvoer& uit) {
     }
 }
 
+Geknipt knipTekst(std::string_view tekst, const KnipMal& mal) {
+    Geknipt geknipt;
+    Knipper(mal, "").knip(tekst, [&geknipt](std::string_view stuk, Lot lot) {
+        const std::size_t begin = geknipt.tekst.size();
+        geknipt.tekst += stuk;
+        if (lot == Lot::vervangen) {
+            geknipt.vervangingen.push_back({.begin = begin, .eind = geknipt.tekst.size()});
+        }
+    });
+    return geknipt;
+}
+
 std::string knipTekst(std::string_view tekst, const KnipTeksten& teksten) {
-    std::string resultaat;
-    Knipper(teksten, "").knip(tekst, [&resultaat](std::string_view stuk) { resultaat += stuk; });
-    return resultaat;
+    return knipTekst(tekst, KnipMal(teksten)).tekst;
 }
 
 }  // namespace kern

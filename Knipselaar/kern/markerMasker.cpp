@@ -21,7 +21,8 @@ std::vector<Zoeker> splitsOpJokers(const wxString& marker) {
 }  // namespace
 
 MarkerMasker::MarkerMasker(const wxString& marker, Jokers jokers)
-    : masker_("*" + marker + "*"),
+    : marker_(marker),
+      masker_("*" + marker + "*"),
       stukken_(jokers == Jokers::ja ? splitsOpJokers(marker) : std::vector{Zoeker(marker.utf8_string())}),
       heeftVraagteken_(jokers == Jokers::ja && marker.Contains("?")) {
     const auto langste = std::max_element(

@@ -29,6 +29,12 @@ class MarkerMasker {
   public:
     explicit MarkerMasker(const wxString& marker, Jokers jokers = Jokers::ja);
 
+    /// De marker, met zijn jokers.
+    const wxString& geefMarker() const { return marker_; }
+
+    /// Of elke regel past, omdat de marker leeg is of alleen uit "*" bestaat.
+    bool pastOpElkeRegel() const { return geefAnker().empty() && !heeftVraagteken_; }
+
     /// Of een regel past.
     /// @param regel  één regel in UTF-8 zonder regeleinde.
     bool past(std::string_view regel) const;
@@ -50,6 +56,7 @@ class MarkerMasker {
     /// Of een regel waar alle stukken in staan ook echt past.
     bool pastVerder(std::string_view regel) const;
 
+    wxString marker_;
     wxString masker_;
     std::vector<Zoeker> stukken_;  ///< de letterlijke stukken tussen de jokers, in UTF-8
     Zoeker anker_;                 ///< het langste stuk: komt in andere regels het minst voor

@@ -5,15 +5,24 @@
 
 namespace kern {
 
-KnipUitslag knipStroom(wxInputStream& bron, wxOutputStream& doel, const KnipTeksten& teksten) {
+KnipUitslag knipStroom(wxInputStream& bron, wxOutputStream& doel, const KnipMal& mal, Nakijken nakijken) {
     TekstLezer lezer(bron);
     TekstSchrijver schrijver(doel);
-    Knipper knipper(teksten, "\n");
-    const auto schrijf = [&schrijver](std::string_view stuk) { schrijver.schrijf(stuk); };
+    Knipper knipper(mal, "\n");
+    Ontleder ontleder(
+        mal.geefMarkers(), [](const Blok&) {}, grootsteAantalBevindingen);
+    const auto schrijf = [&schrijver](std::string_view stuk, Lot) { schrijver.schrijf(stuk); };
     for (auto regels = lezer.leesRegels(); !regels.empty(); regels = lezer.leesRegels()) {
         knipper.knip(regels, schrijf);
+        if (nakijken == Nakijken::ja) {
+            ontleder.neem(regels);
+        }
     }
-    return {.bronHeelGelezen = lezer.isHeelGelezen(), .doelHeelGeschreven = schrijver.maakAf()};
+    KnipUitslag uitslag;
+    uitslag.bronHeelGelezen = lezer.isHeelGelezen();
+    uitslag.doelHeelGeschreven = schrijver.maakAf();
+    uitslag.bevindingen = ontleder.maakAf();
+    return uitslag;
 }
 
 }  // namespace kern

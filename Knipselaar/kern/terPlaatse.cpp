@@ -11,6 +11,7 @@
 #include <string>
 
 #include "Knipselaar/kern/buurbestand.h"
+#include "Knipselaar/kern/reden.h"
 
 namespace kern {
 
@@ -54,6 +55,7 @@ bool kopieerInhoud(wxFile& bron, int kanaal) {
 TerPlaatse::TerPlaatse() {
     const wxLogNull geenMeldingen;
     tijdelijk_.AssignTempFileName("Knipselaar");
+    onthoudReden(tijdelijk_.IsOk());
 }
 
 TerPlaatse::~TerPlaatse() {
@@ -65,11 +67,24 @@ TerPlaatse::~TerPlaatse() {
 bool TerPlaatse::vervang(const std::string& echt) {
     const wxLogNull geenMeldingen;
     struct stat oud {};
-    if (stat(echt.c_str(), &oud) != 0 || !S_ISREG(oud.st_mode)) {
+    if (!onthoudReden(stat(echt.c_str(), &oud) == 0)) {
+        return false;
+    }
+    if (!S_ISREG(oud.st_mode)) {
+        reden_ = "is geen gewoon bestand";
         return false;
     }
     wxFile knipsel(tijdelijk_.GetFullPath(), wxFile::read);
-    return knipsel.IsOpened() && (hernoem(knipsel.fd(), oud, echt) || kopieer(knipsel, oud, echt));
+    return onthoudReden(knipsel.IsOpened()) &&
+           (hernoem(knipsel.fd(), oud, echt) || kopieer(knipsel, oud, echt));
+}
+
+/// De reden staat in errno zolang er na de fout niets meer gedaan is.
+bool TerPlaatse::onthoudReden(bool gelukt) {
+    if (!gelukt) {
+        reden_ = noemReden(errno);
+    }
+    return gelukt;
 }
 
 /// Verhuist het tijdelijke bestand zelf. Dat gaat niet naar een ander bestandssysteem, en wie eigenaar en
@@ -88,8 +103,8 @@ bool TerPlaatse::hernoem(int knipsel, const struct stat& oud, const std::string&
 
 bool TerPlaatse::kopieer(wxFile& knipsel, const struct stat& oud, const std::string& echt) {
     Buurbestand nieuw(echt);
-    return nieuw.isOpen() && kopieerInhoud(knipsel, nieuw.geefKanaal()) && nieuw.neemRechtenOver(oud) &&
-           nieuw.neemPlaatsIn();
+    return onthoudReden(nieuw.isOpen() && kopieerInhoud(knipsel, nieuw.geefKanaal()) &&
+                        nieuw.neemRechtenOver(oud) && nieuw.neemPlaatsIn());
 }
 
 }  // namespace kern

@@ -25,6 +25,9 @@ class TerPlaatse {
 
     const wxFileName& geefTijdelijk() const { return tijdelijk_; }
 
+    /// Waarom het tijdelijke bestand er niet kwam, of waarom vervang niet lukte; leeg zolang alles lukt.
+    const std::string& geefReden() const { return reden_; }
+
     /// Zet de inhoud van het tijdelijke bestand op de plaats van een bestaand gewoon bestand; dat kan één
     /// keer. Rechten, eigenaar en groep blijven. Geeft false, en laat het bestand zoals het was, als er iets
     /// niet lukt.
@@ -33,9 +36,11 @@ class TerPlaatse {
 
   private:
     bool hernoem(int knipsel, const struct stat& oud, const std::string& echt);
-    static bool kopieer(wxFile& knipsel, const struct stat& oud, const std::string& echt);
+    bool kopieer(wxFile& knipsel, const struct stat& oud, const std::string& echt);
+    bool onthoudReden(bool gelukt);
 
     wxFileName tijdelijk_;
+    std::string reden_;
 };
 
 }  // namespace kern

@@ -9,10 +9,12 @@
 #include <wx/stc/stc.h>
 
 #include "Knipselaar/kern/batch.h"
+#include "Knipselaar/kern/batchVerslag.h"
 #include "Knipselaar/kern/keuzes.h"
 #include "Knipselaar/kern/logregels.h"
 #include "Knipselaar/kern/paden.h"
 #include "Knipselaar/venster/identificaties.h"
+#include "Knipselaar/venster/merken.h"
 #include "Knipselaar/venster/parserVenster.h"
 
 namespace {
@@ -31,6 +33,13 @@ class Schuifrust {
   private:
     wxStyledTextCtrl& editor_;
 };
+
+/// Zet bijschriften onder de laatste regel van een logboek. Achter haar regeleinde begint al de volgende.
+void zetOnderLaatsteRegel(wxStyledTextCtrl& log, const std::vector<kern::Bijschrift>& bijschriften) {
+    if (!bijschriften.empty()) {
+        merken::zetBijschriften(log, log.GetLineCount() - 2, bijschriften);
+    }
+}
 
 /// Knipt voor een venster: leest zijn bediening bij elk bestand opnieuw en schrijft in zijn editors.
 class VensterBatch : public kern::BatchOpdracht {
@@ -52,13 +61,29 @@ class VensterBatch : public kern::BatchOpdracht {
         return knip_(bron, bestemming);
     }
 
-    void meldOvergeslagen(long nummer, const wxFileName& bestand) override {
+    void meldOvergeslagen(long nummer, const wxFileName& bestand, kern::Overslag reden) override {
         bronLog_.AppendText(kern::regelOvergeslagen(nummer, bestand.GetFullPath()));
+        zetOnderLaatsteRegel(bronLog_, kern::beschrijfOverslag(reden));
+        telling_.neemOvergeslagen();
     }
 
     void meldVerwerkt(long nummer, const wxFileName& bron, const wxFileName& bestemming) override {
         bronLog_.AppendText(kern::regelOrigineel(nummer, bron.GetFullName()));
         doelLog_.AppendText(kern::regelStudent(nummer, bestemming.GetFullName()));
+    }
+
+    void meldAfloop(const kern::Afloop& afloop) override {
+        const kern::BatchBijschriften bijschriften = kern::beschrijfAfloop(afloop);
+        zetOnderLaatsteRegel(bronLog_, bijschriften.bron);
+        zetOnderLaatsteRegel(doelLog_, bijschriften.bestemming);
+        telling_.neem(afloop);
+    }
+
+    /// Zet onder beide logboeken wat er van de batch kwam.
+    void vatSamen() {
+        for (wxStyledTextCtrl* log : {&bronLog_, &doelLog_}) {
+            merken::zetBijschriften(*log, log->GetLineCount() - 1, {telling_.geefSamenvatting()});
+        }
     }
 
   protected:
@@ -70,6 +95,7 @@ class VensterBatch : public kern::BatchOpdracht {
     Schuifrust bronRust_;
     Schuifrust doelRust_;
     std::function<kern::KnipUitslag(const wxFileName&, const wxFileName&)> knip_;
+    kern::BatchTelling telling_;
 };
 
 /// Ter plaatse noemt het logboek hele paden en laat het met kleur zien wat er voorkwam.
@@ -77,9 +103,9 @@ class TerPlaatseBatch : public VensterBatch {
   public:
     using VensterBatch::VensterBatch;
 
-    void meldOvergeslagen(long nummer, const wxFileName& bestand) override {
+    void meldOvergeslagen(long nummer, const wxFileName& bestand, kern::Overslag reden) override {
         bronLog_.SetBackgroundColour(wxColour("RED"));
-        VensterBatch::meldOvergeslagen(nummer, bestand);
+        VensterBatch::meldOvergeslagen(nummer, bestand, reden);
     }
 
     void meldVerwerkt(long nummer, const wxFileName& bron, const wxFileName& bestemming) override {
@@ -90,6 +116,12 @@ class TerPlaatseBatch : public VensterBatch {
 };
 
 }  // namespace
+
+/// Knipt één bestand, en geeft een batch hoe het ging.
+kern::KnipUitslag ParserVenster::knipVoorBatch(const wxFileName& bron, const wxFileName& bestemming) {
+    bewerkBestand(bron, bestemming);
+    return std::move(uitslag_);
+}
 
 void ParserVenster::verwerkDirectory() {
     // Naar zichzelf geknipt raakt elk bestand leeg; dat mag alleen als de gebruiker het wil.
@@ -108,8 +140,9 @@ void ParserVenster::verwerkDirectory() {
         return;
     }
     VensterBatch batch(*bestandTypeKeuze, *origineelEditor, *aangepastEditor,
-                       [this](const auto& bron, const auto& doel) { return knipBestand(bron, doel); });
+                       [this](const auto& bron, const auto& doel) { return knipVoorBatch(bron, doel); });
     kern::knipDirectory(origineelPad, aangepastPad, namen, batch);
+    batch.vatSamen();
 }
 
 void ParserVenster::verwerkDirectoryRecursief() {
@@ -118,8 +151,9 @@ void ParserVenster::verwerkDirectoryRecursief() {
     const auto paden = kern::lijstBoom(aangepastPad);
     origineelEditor->AppendText(kern::regelTotaal(static_cast<long>(paden.size()), aangepastPad));
     TerPlaatseBatch batch(*bestandTypeKeuze, *origineelEditor, *aangepastEditor,
-                          [this](const auto& bron, const auto& doel) { return knipBestand(bron, doel); });
+                          [this](const auto& bron, const auto& doel) { return knipVoorBatch(bron, doel); });
     kern::knipBoom(aangepastPad, paden, batch);
+    batch.vatSamen();
 }
 
 void ParserVenster::verwerkDirHandler(wxFileDirPickerEvent& event) {

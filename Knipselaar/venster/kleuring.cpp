@@ -7,6 +7,7 @@
 #include <array>
 
 #include "Knipselaar/kern/keuzes.h"
+#include "Knipselaar/venster/markeerder.h"
 #include "Knipselaar/venster/parserVenster.h"
 #include "Knipselaar/venster/stijlTabellen.h"
 
@@ -121,6 +122,7 @@ void ParserVenster::kleurVoorHuidigBestand() {
     for (auto* editor : editors) {
         zetVouwen(editor);
     }
+    markeerder_->herstelStijlen();
 }
 
 void ParserVenster::onScrollLeft(wxStyledTextEvent& /*event*/) {

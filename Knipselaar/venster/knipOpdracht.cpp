@@ -8,6 +8,7 @@
 
 #include "Knipselaar/kern/bestandKnipper.h"
 #include "Knipselaar/kern/keuzes.h"
+#include "Knipselaar/venster/markeerder.h"
 #include "Knipselaar/venster/parserVenster.h"
 
 namespace {
@@ -52,13 +53,26 @@ kern::KnipTeksten ParserVenster::geefKnipTeksten() const {
             .vervangtekst = vervangTekst->GetValue()};
 }
 
+/// De teksten van nu, klaargemaakt. Zolang de gebruiker niets verandert is dat dezelfde mal.
+const kern::KnipMal& ParserVenster::geefMal() {
+    const kern::KnipTeksten teksten = geefKnipTeksten();
+    if (!mal_ || mal_->geefTeksten() != teksten) {
+        mal_.emplace(teksten);
+    }
+    return *mal_;
+}
+
 void ParserVenster::bewerkBestand() {
     origineelEditor->ConvertEOLs(wxSTC_EOL_LF);
     aangepastEditor->ClearAll();
     const std::string_view origineel(origineelEditor->GetCharacterPointer(),
                                      static_cast<std::size_t>(origineelEditor->GetTextLength()));
-    const std::string resultaat = kern::knipTekst(origineel, geefKnipTeksten());
-    aangepastEditor->AppendTextRaw(resultaat.data(), static_cast<int>(resultaat.size()));
+    const kern::Geknipt geknipt = kern::knipTekst(origineel, geefMal());
+    aangepastEditor->AppendTextRaw(geknipt.tekst.data(), static_cast<int>(geknipt.tekst.size()));
+    markeerder_->merkResultaat(geknipt, {.pad = huidigBestand.GetFullPath(),
+                                         .naam = huidigBestand.GetFullName(),
+                                         .teksten = geefMal().geefTeksten(),
+                                         .origineel = std::string(origineel)});
     volgOrigineel();
 }
 
@@ -73,9 +87,5 @@ void ParserVenster::volgOrigineel() {
 }
 
 void ParserVenster::bewerkBestand(const wxFileName& bron, const wxFileName& bestemming) {
-    knipBestand(bron, bestemming);
-}
-
-kern::KnipUitslag ParserVenster::knipBestand(const wxFileName& bron, const wxFileName& bestemming) {
-    return kern::knipBestand(bron, bestemming, geefKnipTeksten());
+    uitslag_ = kern::knipBestand(bron, bestemming, geefMal(), kern::Nakijken::ja);
 }

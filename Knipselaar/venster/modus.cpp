@@ -7,9 +7,11 @@
 #include <wx/stc/stc.h>
 
 #include "Knipselaar/kern/keuzes.h"
+#include "Knipselaar/venster/markeerder.h"
 #include "Knipselaar/venster/parserVenster.h"
 
 void ParserVenster::parserModeHandler(wxCommandEvent& /*event*/) {
+    markeerder_->vergeet();
     origineelEditor->ClearAll();
     aangepastEditor->ClearAll();
     origineelGeladen = false;

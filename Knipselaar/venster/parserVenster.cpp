@@ -17,6 +17,7 @@
 #include "Knipselaar/kern/keuzes.h"
 #include "Knipselaar/knipselaar.h"
 #include "Knipselaar/venster/identificaties.h"
+#include "Knipselaar/venster/markeerder.h"
 #include "Knipselaar/venster/modeKeuze.h"
 #include "Knipselaar/venster/toegankelijkheid.h"
 #include "Knipselaar/venster/volgEditor.h"
@@ -118,6 +119,7 @@ void ParserVenster::maakTeksten() {
     auto* rechts = new VolgEditor(paneel, ID_AANGEPAST, wxDefaultPosition, wxDefaultSize, 0);
     aangepastEditor = rechts;
     VolgEditor::koppel(*links, *rechts);
+    markeerder_ = std::make_unique<Markeerder>(*links, *rechts);
     vervangTekst = new wxTextCtrl(paneel, ID_VERVANGTEKST, kern::standaardVervangtekst(), wxDefaultPosition,
                                   wxDefaultSize, wxTE_MULTILINE | wxTE_RICH2 | wxHSCROLL);
 }

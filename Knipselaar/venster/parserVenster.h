@@ -5,16 +5,20 @@
 // komen in de constructor uit de opslag van de toepassing en gaan er in de destructor weer in.
 //
 // De bronnen zijn verdeeld naar taak: parserVenster.cpp (opbouw, levensloop), indeling.cpp (sizers),
-// toegankelijkheid.cpp, bestandsOpdrachten.cpp, knipOpdracht.cpp, batchOpdracht.cpp, modus.cpp en
-// kleuring.cpp.
+// toegankelijkheid.cpp, bestandsOpdrachten.cpp, knipOpdracht.cpp, batchOpdracht.cpp, modus.cpp,
+// kleuring.cpp en markering.cpp.
 
 #include <wx/filename.h>
 #include <wx/frame.h>
+
+#include <memory>
+#include <optional>
 
 #include "Knipselaar/kern/bestandKnipper.h"
 #include "Knipselaar/kern/knipper.h"
 #include "Knipselaar/kern/parserInstellingen.h"
 
+class Markeerder;
 class wxButton;
 class wxChoice;
 class wxConfigBase;
@@ -55,11 +59,13 @@ class ParserVenster : public wxFrame {
     void onMarginClick(wxStyledTextEvent& event);
     void verwerkDirHandler(wxFileDirPickerEvent& event);
 
+    /// Werkt bij wat de editors laten zien, als het venster niets te doen heeft.
+    void OnInternalIdle() override;
+
     /// Knipt de tekst van origineelEditor naar aangepastEditor. De regeleinden van het origineel worden LF.
     void bewerkBestand();
 
     /// Knipt het ene bestand naar het andere; meldt niets.
-    void volgOrigineel();
     void bewerkBestand(const wxFileName& bron, const wxFileName& bestemming);
 
     /// De algemene opmaak van een editor: marges, vouwtekens, regelterugloop. Wist alle kleuren.
@@ -103,6 +109,9 @@ class ParserVenster : public wxFrame {
     bool bronGekozen = false;
     bool bestemmingGekozen = false;
 
+    /// Zet een stap in wat de editors laten zien. Geeft of er daarna nog meer te doen is.
+    bool werkMerkenBij();
+
   private:
     void maakMenu();
     void maakTeksten();
@@ -118,10 +127,16 @@ class ParserVenster : public wxFrame {
     bool kiesOrigineel();
     void kleurVoorHuidigBestand();
     kern::KnipTeksten geefKnipTeksten() const;
-    kern::KnipUitslag knipBestand(const wxFileName& bron, const wxFileName& bestemming);
+    const kern::KnipMal& geefMal();
+    kern::KnipUitslag knipVoorBatch(const wxFileName& bron, const wxFileName& bestemming);
     void verwerkDirectory();
     void verwerkDirectoryRecursief();
     void volgEditor(wxStyledTextCtrl* leider, wxStyledTextCtrl* volger);
+    void volgOrigineel();
+
+    std::optional<kern::KnipMal> mal_;  ///< van de laatste knipbeurt
+    kern::KnipUitslag uitslag_;         ///< van het laatste bestand dat geknipt is
+    std::unique_ptr<Markeerder> markeerder_;
 
     wxDECLARE_EVENT_TABLE();
 };

@@ -3,9 +3,16 @@
 void VolgEditor::koppel(VolgEditor& een, VolgEditor& ander) {
     een.partner_ = &ander;
     ander.partner_ = &een;
+    // Alleen veranderde tekst telt; van elk merk op een regel een gebeurtenis maken kost meer dan het merk.
+    for (VolgEditor* editor : {&een, &ander}) {
+        editor->SetModEventMask(wxSTC_MOD_INSERTTEXT | wxSTC_MOD_DELETETEXT);
+    }
 }
 
 bool VolgEditor::TryBefore(wxEvent& event) {
+    if (event.GetEventType() == wxEVT_STC_MODIFIED) {
+        ++versie_;
+    }
     if (event.GetEventType() == wxEVT_STC_PAINTED && partner_ != nullptr) {
         if (!isVerschoven() && partner_->isVerschoven()) {
             return true;

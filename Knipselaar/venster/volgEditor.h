@@ -15,6 +15,9 @@ class VolgEditor : public wxStyledTextCtrl {
     /// Maakt twee editors elkaars partner. Ze moeten even lang leven.
     static void koppel(VolgEditor& een, VolgEditor& ander);
 
+    /// Een getal dat bij elke verandering van de tekst anders wordt.
+    long geefVersie() const { return versie_; }
+
   protected:
     bool TryBefore(wxEvent& event) override;
 
@@ -22,5 +25,6 @@ class VolgEditor : public wxStyledTextCtrl {
     bool isVerschoven() const { return GetFirstVisibleLine() != getekendeRegel_; }
 
     VolgEditor* partner_ = nullptr;
+    long versie_ = 0;
     int getekendeRegel_ = 0;  ///< de bovenste regel bij de laatste tekening die het venster zag
 };

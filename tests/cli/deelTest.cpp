@@ -35,7 +35,7 @@ std::string leesMetKern(const std::string& inhoud) {
 std::string knipMetKern(const std::string& inhoud, const kern::KnipTeksten& teksten) {
     wxMemoryInputStream stroom(inhoud.data(), inhoud.size());
     wxMemoryOutputStream uit;
-    kern::knipStroom(stroom, uit, teksten);
+    kern::knipStroom(stroom, uit, kern::KnipMal(teksten));
     std::string resultaat(uit.GetSize(), '\0');
     uit.CopyTo(resultaat.data(), resultaat.size());
     return resultaat;
@@ -73,8 +73,9 @@ class Tekstmaker {
     std::mt19937 toeval_{7};  // NOLINT(cert-msc51-cpp): elke loop van de test maakt dezelfde teksten
 };
 
-std::vector<cli::Markerpaar> maakPaar() {
-    return {{.begin = kern::MarkerMasker("B{"), .eind = kern::MarkerMasker("B}")}};
+kern::MarkerReeks maakMarkers() {
+    return kern::MarkerReeks({{.begin = kern::MarkerMasker("B{"), .eind = kern::MarkerMasker("B}")}},
+                             kern::Bijna::nee);
 }
 
 }  // namespace
@@ -119,13 +120,13 @@ TEST(CliDeel, WijstElkeRegelHaarEigenBytesToe) {
 
 TEST(CliDeel, LeestZuinigDezelfdeBlokken) {
     Tekstmaker maker;
-    const auto paren = maakPaar();
+    const auto markers = maakMarkers();
     for (int i = 0; i < 50'000; ++i) {
         const std::string inhoud = maker.maak();
         const Brontekst zuinig(Bytes(inhoud), Lezing::zuinig);
         const Brontekst volledig(Bytes(inhoud), Lezing::volledig);
-        const cli::Ontleding een = cli::ontleed(zuinig.geefTekst(), paren);
-        const cli::Ontleding ander = cli::ontleed(volledig.geefTekst(), paren);
+        const cli::Ontleding een = cli::ontleed(zuinig.geefTekst(), markers);
+        const cli::Ontleding ander = cli::ontleed(volledig.geefTekst(), markers);
         ASSERT_EQ(ander.meldingen, een.meldingen) << hulp::toonBytes(inhoud);
         const cli::KnipWens wens{.manier = Manier::getrouw, .inspringen = true, .vervanging = "X\nY"};
         ASSERT_EQ(cli::Knipsel(volledig, ander, wens).geefInhoud(),
@@ -136,13 +137,13 @@ TEST(CliDeel, LeestZuinigDezelfdeBlokken) {
 
 TEST(CliDeel, KniptZoalsDeKern) {
     Tekstmaker maker;
-    const auto paren = maakPaar();
+    const auto markers = maakMarkers();
     int geknipt = 0;
     for (int i = 0; i < 50'000; ++i) {
         const std::string inhoud = maker.maakRegels(i % 3 == 0 ? "\n" : i % 3 == 1 ? "\r\n" : "\r");
         // Uit de ruwe bytes wordt pas bij het schrijven wat de kern ervan maakt.
         const Brontekst bron(Bytes(inhoud), i % 2 == 0 ? Lezing::tekst : Lezing::zuinig);
-        const cli::Ontleding ontleding = cli::ontleed(bron.geefTekst(), paren);
+        const cli::Ontleding ontleding = cli::ontleed(bron.geefTekst(), markers);
         if (ontleding.heeftFout()) {
             continue;
         }
@@ -156,12 +157,12 @@ TEST(CliDeel, KniptZoalsDeKern) {
 
 TEST(CliDeel, GetrouwLeestAlsHetVenster) {
     Tekstmaker maker;
-    const auto paren = maakPaar();
+    const auto markers = maakMarkers();
     int geknipt = 0;
     for (int i = 0; i < 50'000; ++i) {
         const std::string inhoud = maker.maakRegels(i % 3 == 0 ? "\n" : i % 3 == 1 ? "\r\n" : "\r");
         const Brontekst bron(Bytes(inhoud), Lezing::zuinig);
-        const cli::Ontleding ontleding = cli::ontleed(bron.geefTekst(), paren);
+        const cli::Ontleding ontleding = cli::ontleed(bron.geefTekst(), markers);
         // Valt de enige byte weg die geen UTF-8 is, dan leest wat overblijft anders dan het hele bestand.
         const bool gemengd =
             inhoud.find('\xE9') != std::string::npos && inhoud.find("é") != std::string::npos;

@@ -30,7 +30,7 @@ std::string leesRegels(std::string_view inhoud) {
 
 std::string knip(wxInputStream& bron, const kern::KnipTeksten& teksten) {
     wxMemoryOutputStream doel;
-    fuzz::eis(kern::knipStroom(bron, doel, teksten).isGelukt(), "knippen lukt");
+    fuzz::eis(kern::knipStroom(bron, doel, kern::KnipMal(teksten)).isGelukt(), "knippen lukt");
     std::string resultaat(doel.GetSize(), '\0');
     doel.CopyTo(resultaat.data(), resultaat.size());
     return resultaat;

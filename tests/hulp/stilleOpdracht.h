@@ -9,21 +9,23 @@ namespace hulp {
 
 class StilleOpdracht : public kern::BatchOpdracht {
   public:
-    explicit StilleOpdracht(const kern::KnipTeksten& teksten) : teksten_(teksten) {}
+    explicit StilleOpdracht(const kern::KnipTeksten& teksten) : mal_(teksten) {}
 
     bool isGekozen(const wxFileName& bestand) override {
         constexpr int bekendeTalen = 0;
         return kern::isBestandGekozen(bestand.GetExt(), bekendeTalen);
     }
     kern::KnipUitslag knip(const wxFileName& bron, const wxFileName& bestemming) override {
-        return kern::knipBestand(bron, bestemming, teksten_);
+        return kern::knipBestand(bron, bestemming, mal_);
     }
-    void meldOvergeslagen(long /*nummer*/, const wxFileName& /*bestand*/) override {}
+    void meldOvergeslagen(long /*nummer*/, const wxFileName& /*bestand*/, kern::Overslag /*reden*/) override {
+    }
     void meldVerwerkt(long /*nummer*/, const wxFileName& /*bron*/,
                       const wxFileName& /*bestemming*/) override {}
+    void meldAfloop(const kern::Afloop& /*afloop*/) override {}
 
   private:
-    kern::KnipTeksten teksten_;
+    kern::KnipMal mal_;
 };
 
 }  // namespace hulp

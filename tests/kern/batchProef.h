@@ -37,13 +37,19 @@ class Opdracht : public kern::BatchOpdracht {
         }
         return kern::knipBestand(bron, bestemming, teksten);
     }
-    void meldOvergeslagen(long nummer, const wxFileName& bestand) override { meld("over", nummer, bestand); }
+    void meldOvergeslagen(long nummer, const wxFileName& bestand, kern::Overslag reden) override {
+        meld("over", nummer, bestand);
+        overslagen.push_back(reden);
+    }
     void meldVerwerkt(long nummer, const wxFileName& bron, const wxFileName& bestemming) override {
         meld("knip", nummer, bron);
         EXPECT_EQ(bron.GetFullName(), bestemming.GetFullName());
     }
+    void meldAfloop(const kern::Afloop& afloop) override { aflopen.push_back(afloop); }
 
     std::vector<std::string> gemeld;
+    std::vector<kern::Overslag> overslagen;
+    std::vector<kern::Afloop> aflopen;
     std::function<void()> voorElkeKnip;
 
   private:

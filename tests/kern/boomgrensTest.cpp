@@ -15,11 +15,15 @@ class Opdracht : public kern::BatchOpdracht {
   public:
     bool isGekozen(const wxFileName& /*bestand*/) override { return true; }
     kern::KnipUitslag knip(const wxFileName& bron, const wxFileName& bestemming) override {
-        return kern::knipBestand(bron, bestemming, {"BEGIN", "EIND", "WERK"});
+        return kern::knipBestand(bron, bestemming, kern::KnipTeksten{"BEGIN", "EIND", "WERK"});
     }
-    void meldOvergeslagen(long /*nummer*/, const wxFileName& /*bestand*/) override { ++overgeslagen; }
+    void meldOvergeslagen(long /*nummer*/, const wxFileName& /*bestand*/, kern::Overslag reden) override {
+        EXPECT_EQ(kern::Overslag::buitenBoom, reden);
+        ++overgeslagen;
+    }
     void meldVerwerkt(long /*nummer*/, const wxFileName& /*bron*/,
                       const wxFileName& /*bestemming*/) override {}
+    void meldAfloop(const kern::Afloop& /*afloop*/) override {}
 
     int overgeslagen = 0;
 };

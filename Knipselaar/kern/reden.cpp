@@ -1,9 +1,9 @@
-#include "KnipselaarCli/fout.h"
+#include "Knipselaar/kern/reden.h"
 
 #include <cerrno>
 #include <system_error>
 
-namespace cli {
+namespace kern {
 
 std::string noemReden(int foutnummer) {
     switch (foutnummer) {
@@ -36,4 +36,4 @@ std::string noemReden(int foutnummer) {
     }
 }
 
-}  // namespace cli
+}  // namespace kern

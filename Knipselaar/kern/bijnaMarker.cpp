@@ -1,0 +1,116 @@
+#include "Knipselaar/kern/bijnaMarker.h"
+
+#include <algorithm>
+
+namespace kern {
+
+namespace {
+
+constexpr unsigned char eersteNietAscii = 0x80;
+
+/// De tekens die er voor de gelijkenis niet toe doen, zolang ze ASCII zijn.
+constexpr std::string_view bijzaken = " \t\v\f\r/*-#";
+
+constexpr std::array<bool, 256> maakBijzaakTabel() {
+    std::array<bool, 256> tabel{};
+    for (const char teken : bijzaken) {
+        tabel.at(static_cast<unsigned char>(teken)) = true;
+    }
+    return tabel;
+}
+
+constexpr std::array<bool, 256> bijzaakTabel = maakBijzaakTabel();
+
+constexpr bool isBijzaak(char teken) {
+    return bijzaakTabel[static_cast<unsigned char>(teken)];
+}
+
+constexpr bool isAscii(char teken) {
+    return static_cast<unsigned char>(teken) < eersteNietAscii;
+}
+
+constexpr char maakKlein(char teken) {
+    return teken >= 'A' && teken <= 'Z' ? static_cast<char>(teken - 'A' + 'a') : teken;
+}
+
+/// Kleine letters, zonder bijzaken. Een vaste spatie is ook een blanco teken; tekstverwerkers zetten haar.
+std::string geefHoofdzaak(const wxString& tekst) {
+    const wxUniChar vasteSpatie(0xA0);
+    wxString hoofdzaak;
+    for (const wxUniChar teken : tekst.Lower()) {
+        if (teken != vasteSpatie && !(teken.IsAscii() && isBijzaak(static_cast<char>(teken.GetValue())))) {
+            hoofdzaak += teken;
+        }
+    }
+    return hoofdzaak.utf8_string();
+}
+
+}  // namespace
+
+BijnaMarker::BijnaMarker(const wxString& marker) : kern_(geefHoofdzaak(marker)) {
+    if (kern_.find_first_not_of('?') == std::string::npos) {
+        kern_.clear();
+    }
+}
+
+bool BijnaMarker::lijkt(std::string_view regel) const {
+    std::size_t plek = 0;
+    for (const char teken : regel) {
+        if (isBijzaak(teken)) {
+            continue;
+        }
+        if (!isAscii(teken)) {
+            return !kern_.empty() && geefHoofdzaak(wxString::FromUTF8(regel.data(), regel.size())) == kern_;
+        }
+        if (plek == kern_.size() || kern_[plek] != maakKlein(teken)) {
+            return false;
+        }
+        ++plek;
+    }
+    return plek == kern_.size() && plek > 0;
+}
+
+BijnaZoeker::BijnaZoeker(std::vector<BijnaMarker> markers) : markers_(std::move(markers)) {
+    for (const BijnaMarker& marker : markers_) {
+        const std::string& hoofdzaak = marker.geefKern();
+        if (hoofdzaak.empty()) {
+            continue;
+        }
+        for (unsigned byte = 0; byte < kanBegin_.size(); ++byte) {
+            const char teken = static_cast<char>(byte);
+            kanBegin_.at(byte) =
+                kanBegin_.at(byte) || !isAscii(teken) || maakKlein(teken) == hoofdzaak.front();
+        }
+    }
+}
+
+std::optional<Regel> BijnaZoeker::zoekRegel(std::string_view regels, std::size_t vanaf) const {
+    for (std::size_t begin = vanaf; begin < regels.size();) {
+        std::size_t plek = begin;
+        while (plek < regels.size() && isBijzaak(regels[plek])) {
+            ++plek;
+        }
+        const std::size_t einde = regels.find('\n', plek);
+        if (einde == std::string_view::npos) {
+            break;
+        }
+        if (kanBegin_[static_cast<unsigned char>(regels[plek])] &&
+            geefMarker(regels.substr(begin, einde - begin))) {
+            return Regel{begin, einde + 1};
+        }
+        begin = einde + 1;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::size_t> BijnaZoeker::geefMarker(std::string_view regel) const {
+    const auto marker = std::find_if(markers_.begin(), markers_.end(), [regel](const BijnaMarker& kandidaat) {
+        return kandidaat.lijkt(regel);
+    });
+    if (marker == markers_.end()) {
+        return std::nullopt;
+    }
+    return static_cast<std::size_t>(marker - markers_.begin());
+}
+
+}  // namespace kern

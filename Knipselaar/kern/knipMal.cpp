@@ -1,0 +1,11 @@
+#include "Knipselaar/kern/knipMal.h"
+
+namespace kern {
+
+KnipMal::KnipMal(const KnipTeksten& teksten)
+    : teksten_(teksten),
+      markers_({{.begin = MarkerMasker(teksten.beginMarker), .eind = MarkerMasker(teksten.eindMarker)}},
+               Bijna::ja),
+      vervanging_(teksten.vervangtekst.utf8_string()) {}
+
+}  // namespace kern

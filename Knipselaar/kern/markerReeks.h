@@ -1,0 +1,74 @@
+#pragma once
+
+// De markerparen van een knipbeurt, klaargemaakt om ze alle tegelijk in een tekst te zoeken.
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "Knipselaar/kern/bijnaMarker.h"
+#include "Knipselaar/kern/markerMasker.h"
+
+namespace kern {
+
+/// Een beginmarker met de eindmarker die erbij hoort.
+struct Markerpaar {
+    MarkerMasker begin;
+    MarkerMasker eind;
+};
+
+/// Of er ook naar regels gezocht wordt die bijna een marker zijn.
+enum class Bijna { nee, ja };
+
+/// Bezit de paren; verandert na het maken niet meer en mag door meer draden gelezen worden.
+class MarkerReeks {
+  public:
+    /// Zonder paren; er valt niets te zoeken.
+    MarkerReeks() = default;
+
+    /// @param paren  minstens één.
+    MarkerReeks(std::vector<Markerpaar> paren, Bijna bijna);
+
+    const std::vector<Markerpaar>& geefParen() const { return paren_; }
+
+    /// Waar regels op lijken: van elk paar eerst het begin en dan het eind. Niets als er niet naar gezocht
+    /// wordt.
+    const std::optional<BijnaZoeker>& geefBijna() const { return bijna_; }
+
+  private:
+    friend class Markerloper;
+
+    std::vector<const MarkerMasker*> geefMaskers() const;
+
+    std::vector<Markerpaar> paren_;
+    std::optional<MarkerMasker> zeef_;  ///< wat alle markers gemeen hebben, als daar iets aan te winnen is
+    std::optional<BijnaZoeker> bijna_;
+};
+
+/// Loopt de regels van een tekst af waar een marker in kan staan. Markers lijken meestal op elkaar; wat ze
+/// gemeen hebben wordt dan in één keer gezocht. Anders onthoudt elk masker waar het het eerst weer past.
+class Markerloper {
+  public:
+    /// De reeks en de tekst moeten langer leven.
+    /// @param regels  hele regels in UTF-8, elk gesloten door "\n".
+    Markerloper(const MarkerReeks& reeks, std::string_view regels);
+
+    /// De volgende regel, op volgorde. Of er echt een marker in staat, of iets wat erop lijkt, moet nog
+    /// blijken.
+    std::optional<Regel> volgende();
+
+  private:
+    struct Vondst {
+        const MarkerMasker* masker;  ///< niets: wat bijna een marker is
+        std::optional<Regel> regel;
+    };
+
+    std::optional<Regel> zoek(const MarkerMasker* masker, std::size_t vanaf) const;
+
+    const MarkerReeks& reeks_;
+    std::string_view regels_;
+    std::vector<Vondst> vondsten_;
+};
+
+}  // namespace kern

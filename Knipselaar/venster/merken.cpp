@@ -1,0 +1,207 @@
+#include "Knipselaar/venster/merken.h"
+
+#include <wx/stc/stc.h>
+
+#include <algorithm>
+#include <string>
+
+#include "Knipselaar/kern/regelAfbreking.h"
+
+namespace merken {
+
+namespace {
+
+// De editor nummert merken en kleuringen van tekst apart; de eerste acht kleuringen zijn voor de lexers.
+constexpr int merkBlok = 0;
+constexpr int merkRand = 1;
+constexpr int merkVervangregel = 2;
+constexpr int kleurBloktekst = 8;
+constexpr int kleurVervangtekst = 9;
+constexpr int kleurVervangdeel = 10;
+
+constexpr int ondoorzichtig = 255;
+
+/// Het eerste nummer van de drie stijlen van de bijschriften. Voor elke editor hetzelfde: het zijn de enige
+/// stijlen die er bij komen.
+constexpr int eersteStijl = 256;
+
+/// In de stijlen van een bijschrift betekent 0 het einde; de ernst telt er daarom vanaf 1.
+constexpr int stijlverschuiving = eersteStijl - 1;
+
+void maakMerk(wxStyledTextCtrl& editor, int nummer, int vorm, const wxColour& kleur) {
+    editor.MarkerDefine(nummer, vorm, kleur, kleur);
+}
+
+void maakTekstkleur(wxStyledTextCtrl& editor, int nummer, const wxColour& kleur) {
+    editor.IndicatorSetStyle(nummer, wxSTC_INDIC_TEXTFORE);
+    editor.IndicatorSetForeground(nummer, kleur);
+}
+
+void vul(wxStyledTextCtrl& editor, int kleuring, int begin, int einde) {
+    editor.SetIndicatorCurrent(kleuring);
+    editor.IndicatorFillRange(begin, einde - begin);
+}
+
+void maakLeeg(wxStyledTextCtrl& editor, int kleuring, int begin, int einde) {
+    editor.SetIndicatorCurrent(kleuring);
+    editor.IndicatorClearRange(begin, einde - begin);
+}
+
+/// Of een kleuring van begin tot einde overal staat, of juist nergens.
+bool isOveral(wxStyledTextCtrl& editor, int kleuring, bool gekleurd, int begin, int einde) {
+    if (begin >= einde) {
+        return true;
+    }
+    const bool eerste = editor.IndicatorValueAt(kleuring, begin) != 0;
+    const int grens = editor.IndicatorEnd(kleuring, begin);
+    return eerste == gekleurd && (grens >= einde || grens <= begin);
+}
+
+/// De breedte die een bijschrift heeft; iets kleiner dan de tekst, voor het kader eromheen.
+int geefBreedte(wxStyledTextCtrl& editor) {
+    constexpr int marges = 3;
+    int breedte = editor.GetClientSize().x - editor.TextWidth(eersteStijl, "mmm");
+    for (int marge = 0; marge < marges; ++marge) {
+        breedte -= editor.GetMarginWidth(marge);
+    }
+    return std::max(breedte, editor.TextWidth(eersteStijl, wxString('m', 12)));
+}
+
+}  // namespace
+
+const std::array<Kleurpaar, 3>& geefBijschriftKleuren() {
+    static const std::array<Kleurpaar, 3> kleuren{{{wxColour(45, 45, 45), wxColour(232, 236, 240)},
+                                                   {wxColour(95, 55, 0), wxColour(255, 243, 205)},
+                                                   {wxColour(130, 0, 0), wxColour(255, 225, 225)}}};
+    return kleuren;
+}
+
+const Kleurpaar& geefBlokKleuren() {
+    static const Kleurpaar kleuren{wxColour(85, 50, 0), wxColour(255, 238, 204)};
+    return kleuren;
+}
+
+const Kleurpaar& geefVervangingKleuren() {
+    static const Kleurpaar kleuren{wxColour(0, 70, 30), wxColour(218, 244, 226)};
+    return kleuren;
+}
+
+void bereidVoor(wxStyledTextCtrl& editor) {
+    maakMerk(editor, merkBlok, wxSTC_MARK_BACKGROUND, geefBlokKleuren().achtergrond);
+    maakMerk(editor, merkRand, wxSTC_MARK_UNDERLINE, geefBlokKleuren().tekst);
+    maakMerk(editor, merkVervangregel, wxSTC_MARK_BACKGROUND, geefVervangingKleuren().achtergrond);
+    maakTekstkleur(editor, kleurBloktekst, geefBlokKleuren().tekst);
+    maakTekstkleur(editor, kleurVervangtekst, geefVervangingKleuren().tekst);
+    editor.IndicatorSetStyle(kleurVervangdeel, wxSTC_INDIC_FULLBOX);
+    editor.IndicatorSetForeground(kleurVervangdeel, geefVervangingKleuren().achtergrond);
+    editor.IndicatorSetUnder(kleurVervangdeel, true);
+    editor.IndicatorSetAlpha(kleurVervangdeel, ondoorzichtig);
+    editor.IndicatorSetOutlineAlpha(kleurVervangdeel, ondoorzichtig);
+    editor.AllocateExtendedStyles(static_cast<int>(geefBijschriftKleuren().size()));
+    editor.AnnotationSetStyleOffset(stijlverschuiving);
+    editor.AnnotationSetVisible(wxSTC_ANNOTATION_BOXED);
+    zetStijlen(editor);
+}
+
+void zetStijlen(wxStyledTextCtrl& editor) {
+    const wxFont lettertype = editor.StyleGetFont(wxSTC_STYLE_DEFAULT);
+    int stijl = eersteStijl;
+    for (const Kleurpaar& kleuren : geefBijschriftKleuren()) {
+        editor.StyleSetFont(stijl, lettertype);
+        editor.StyleSetForeground(stijl, kleuren.tekst);
+        editor.StyleSetBackground(stijl, kleuren.achtergrond);
+        ++stijl;
+    }
+}
+
+void wis(wxStyledTextCtrl& editor) {
+    for (const int merk : {merkBlok, merkRand, merkVervangregel}) {
+        editor.MarkerDeleteAll(merk);
+    }
+    for (const int kleuring : {kleurBloktekst, kleurVervangtekst, kleurVervangdeel}) {
+        maakLeeg(editor, kleuring, 0, editor.GetTextLength());
+    }
+    editor.AnnotationClearAll();
+}
+
+void merkRegel(wxStyledTextCtrl& editor, int regel, int merk) {
+    const int anders = (editor.MarkerGet(regel) & alle) ^ merk;
+    for (const int nummer : {merkBlok, merkRand, merkVervangregel}) {
+        const int bit = 1 << nummer;
+        if ((anders & bit) == 0) {
+            continue;
+        }
+        if ((merk & bit) != 0) {
+            editor.MarkerAdd(regel, nummer);
+        } else {
+            editor.MarkerDelete(regel, nummer);
+        }
+    }
+}
+
+void kleurBlok(wxStyledTextCtrl& editor, int vorigEinde, int begin, int einde) {
+    if (!isOveral(editor, kleurBloktekst, false, vorigEinde, begin)) {
+        maakLeeg(editor, kleurBloktekst, vorigEinde, begin);
+    }
+    if (!isOveral(editor, kleurBloktekst, true, begin, einde)) {
+        vul(editor, kleurBloktekst, begin, einde);
+    }
+}
+
+void merkVervanging(wxStyledTextCtrl& editor, const kern::Regel& stuk) {
+    const int begin = static_cast<int>(stuk.begin);
+    const int einde = static_cast<int>(stuk.eind);
+    vul(editor, kleurVervangtekst, begin, einde);
+    for (int plek = begin; plek < einde;) {
+        const int regel = editor.LineFromPosition(plek);
+        const int volgende = editor.PositionFromLine(regel + 1);
+        const int regelEinde = volgende > plek ? volgende : editor.GetTextLength();
+        if (plek == editor.PositionFromLine(regel) && regelEinde <= einde) {
+            merkRegel(editor, regel, vervanging);
+        } else {
+            vul(editor, kleurVervangdeel, plek, std::min(regelEinde, einde));
+        }
+        plek = regelEinde;
+    }
+}
+
+void zetBijschriften(wxStyledTextCtrl& editor, int regel, const std::vector<kern::Bijschrift>& bijschriften) {
+    if (bijschriften.empty()) {
+        editor.AnnotationClearLine(regel);
+        return;
+    }
+    const int breedte = geefBreedte(editor);
+    wxString tekst;
+    std::string stijlen;
+    for (const kern::Bijschrift& bijschrift : bijschriften) {
+        const int ernst = static_cast<int>(bijschrift.ernst);
+        const auto past = [&editor, ernst, breedte](const wxString& deel) {
+            return editor.TextWidth(eersteStijl + ernst, deel) <= breedte;
+        };
+        tekst += (tekst.empty() ? "" : "\n") + kern::breekAf(bijschrift.tekst, past);
+        stijlen.resize(tekst.utf8_str().length(), static_cast<char>(1 + ernst));
+    }
+    editor.AnnotationSetText(regel, tekst);
+    editor.AnnotationSetStyles(regel, stijlen);
+}
+
+std::vector<kern::Bijschrift> leesBijschriften(const wxStyledTextCtrl& editor, int regel) {
+    const wxString tekst = editor.AnnotationGetText(regel);
+    const std::string stijlen = editor.AnnotationGetStyles(regel).utf8_string();
+    std::vector<kern::Bijschrift> bijschriften;
+    for (const kern::HeleRegel& heel : kern::maakHeel(tekst)) {
+        const int ernst = heel.begin < stijlen.size() ? stijlen[heel.begin] - 1 : 0;
+        bijschriften.push_back({.ernst = static_cast<kern::Ernst>(ernst), .tekst = heel.tekst});
+    }
+    return bijschriften;
+}
+
+void breekOpnieuwAf(wxStyledTextCtrl& editor) {
+    for (int regel = 0; regel < editor.GetLineCount(); ++regel) {
+        if (editor.AnnotationGetLines(regel) > 0) {
+            zetBijschriften(editor, regel, leesBijschriften(editor, regel));
+        }
+    }
+}
+
+}  // namespace merken
