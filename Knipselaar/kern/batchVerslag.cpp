@@ -18,7 +18,8 @@ wxString telWoord(std::size_t aantal, const char* een, const char* meer) {
 /// Ter plaatse blijft bij elke storing het bestand zoals het was. Wat niet te lezen was kan een oplossing
 /// hebben; wat geen blok heeft heeft er geen.
 bool blijftOplossing(const Afloop& afloop) {
-    return afloop.terPlaatse && (!afloop.knip.bronHeelGelezen || afloop.knip.bevindingen.blokken > 0);
+    return afloop.terPlaatse && afloop.knip.bronBestaat &&
+           (!afloop.knip.bronHeelGelezen || afloop.knip.bevindingen.blokken > 0);
 }
 
 wxString noemGevolg(const Afloop& afloop) {

@@ -22,22 +22,28 @@ enum class Inhoud { houden, legen };
 /// Een bestand dat openging, of waarom niet.
 struct Opening {
     int bestand = geenBestand;
+    bool bestaat = true;  ///< er staat een gewoon bestand, ook als het niet openging
     std::string reden;
 };
+
+/// Bij een directory heeft de gebruiker geen verkeerde naam gegeven; de naam komt van de bron.
+std::string noemOpenReden(int foutnummer) {
+    return foutnummer == EISDIR ? "is een directory" : noemReden(foutnummer);
+}
 
 /// Houdt alleen een gewoon bestand open, zo nodig geleegd; al het andere gaat meteen weer dicht.
 Opening houdGewoonBestand(int bestand, Inhoud inhoud) {
     struct stat gegevens {};
     if (bestand == geenBestand || fstat(bestand, &gegevens) != 0) {
-        return {.reden = noemReden(errno)};
+        return {.bestaat = errno != ENOENT && errno != EISDIR, .reden = noemOpenReden(errno)};
     }
     const bool gewoon = S_ISREG(gegevens.st_mode);
     if (gewoon && (inhoud == Inhoud::houden || gegevens.st_size == 0 || ftruncate(bestand, 0) == 0)) {
-        return {.bestand = bestand, .reden = {}};
+        return {.bestand = bestand, .bestaat = true, .reden = {}};
     }
     std::string reden = gewoon ? noemReden(errno) : "is geen gewoon bestand";
     close(bestand);
-    return {.reden = std::move(reden)};
+    return {.bestaat = gewoon, .reden = std::move(reden)};
 }
 
 // O_NONBLOCK: op een pijp zonder tegenpartij zou open anders voor altijd wachten. Voor gewone bestanden
@@ -84,6 +90,7 @@ KnipUitslag knipBestand(const wxFileName& bron, const wxFileName& doel, const Kn
         uitslag = knipStroom(origStroom, uitStroom, mal, nakijken);
     }
     uitslag.doelHeelGeschreven = uitStroom.Close() && uitslag.doelHeelGeschreven;
+    uitslag.bronBestaat = vanBron.bestaat;
     uitslag.bronReden = std::move(vanBron.reden);
     uitslag.doelReden = std::move(vanDoel.reden);
     vulReden(uitslag.bronHeelGelezen, *origStroom.GetFile(), uitslag.bronReden);

@@ -17,6 +17,7 @@ namespace kern {
 struct KnipUitslag {
     bool bronHeelGelezen = false;     ///< de bron ging open en is zonder leesfout tot het einde gelezen
     bool doelHeelGeschreven = false;  ///< het doel ging open en alles staat erin
+    bool bronBestaat = true;          ///< de bron is een gewoon bestand, ook als zij niet te lezen was
     std::string bronReden;            ///< waarom de bron niet heel gelezen is, als dat te zeggen is
     std::string doelReden;            ///< waarom het doel niet heel geschreven is, als dat te zeggen is
     Bevindingen bevindingen;          ///< wat er aan de markers op te merken is, als daarnaar gekeken is

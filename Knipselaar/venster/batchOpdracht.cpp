@@ -14,6 +14,7 @@
 #include "Knipselaar/kern/logregels.h"
 #include "Knipselaar/kern/paden.h"
 #include "Knipselaar/venster/identificaties.h"
+#include "Knipselaar/venster/markeerder.h"
 #include "Knipselaar/venster/merken.h"
 #include "Knipselaar/venster/parserVenster.h"
 
@@ -79,10 +80,11 @@ class VensterBatch : public kern::BatchOpdracht {
         telling_.neem(afloop);
     }
 
-    /// Zet onder beide logboeken wat er van de batch kwam.
+    /// Zet onder beide logboeken wat er van de batch kwam, en laat zien wat er onder hun regels staat.
     void vatSamen() {
         for (wxStyledTextCtrl* log : {&bronLog_, &doelLog_}) {
             merken::zetBijschriften(*log, log->GetLineCount() - 1, {telling_.geefSamenvatting()});
+            merken::toonBijschriften(*log, true);
         }
     }
 
@@ -117,6 +119,14 @@ class TerPlaatseBatch : public VensterBatch {
 
 }  // namespace
 
+/// Maakt beide editors leeg, met alles wat er onder hun regels stond.
+void ParserVenster::wisEditors() {
+    markeerder_->wisOrigineel();
+    markeerder_->wisResultaat();
+    origineelEditor->ClearAll();
+    aangepastEditor->ClearAll();
+}
+
 /// Knipt één bestand, en geeft een batch hoe het ging.
 kern::KnipUitslag ParserVenster::knipVoorBatch(const wxFileName& bron, const wxFileName& bestemming) {
     bewerkBestand(bron, bestemming);
@@ -130,8 +140,7 @@ void ParserVenster::verwerkDirectory() {
                      "Bevestig", wxYES_NO, this) == wxNO) {
         return;
     }
-    origineelEditor->ClearAll();
-    aangepastEditor->ClearAll();
+    wisEditors();
     const auto namen = kern::lijstDirectory(origineelPad);
     origineelEditor->AppendText(kern::regelOrigineleDirectory(origineelPad));
     aangepastEditor->AppendText(kern::regelStudentDirectory(aangepastPad));
@@ -146,8 +155,7 @@ void ParserVenster::verwerkDirectory() {
 }
 
 void ParserVenster::verwerkDirectoryRecursief() {
-    origineelEditor->ClearAll();
-    aangepastEditor->ClearAll();
+    wisEditors();
     const auto paden = kern::lijstBoom(aangepastPad);
     origineelEditor->AppendText(kern::regelTotaal(static_cast<long>(paden.size()), aangepastPad));
     TerPlaatseBatch batch(*bestandTypeKeuze, *origineelEditor, *aangepastEditor,

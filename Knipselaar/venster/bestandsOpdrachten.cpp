@@ -7,6 +7,7 @@
 #include <wx/wfstream.h>
 
 #include "Knipselaar/kern/tekstLezer.h"
+#include "Knipselaar/venster/markeerder.h"
 #include "Knipselaar/venster/parserVenster.h"
 
 namespace {
@@ -37,6 +38,7 @@ bool ParserVenster::kiesOrigineel() {
     huidigBestand = dialoog.GetPath();
     origineelPad = geefDirectory(huidigBestand);
     kleurVoorHuidigBestand();
+    markeerder_->wisOrigineel();
     return true;
 }
 

@@ -63,6 +63,7 @@ const kern::KnipMal& ParserVenster::geefMal() {
 }
 
 void ParserVenster::bewerkBestand() {
+    markeerder_->wisResultaat();
     origineelEditor->ConvertEOLs(wxSTC_EOL_LF);
     aangepastEditor->ClearAll();
     const std::string_view origineel(origineelEditor->GetCharacterPointer(),

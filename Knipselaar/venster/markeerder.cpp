@@ -1,5 +1,6 @@
 #include "Knipselaar/venster/markeerder.h"
 
+#include <algorithm>
 #include <chrono>
 
 #include "Knipselaar/kern/bevindingTekst.h"
@@ -16,9 +17,12 @@ constexpr auto langsteStap = std::chrono::milliseconds(8);
 
 /// Zoveel bytes of regels gaan er voorbij voor er weer op de klok gekeken wordt.
 constexpr std::size_t ontleedStuk = 256 * 1024;
-constexpr int regelStuk = 256;
+constexpr int regelStuk = 1024;
 
-/// Een blok dat nergens eindigt loopt door tot het einde van de tekst.
+/// Zoveel regels buiten beeld krijgen ook hun achtergrond. Wie schuift ziet dan nooit een regel zonder.
+constexpr int buitenBeeld = 500;
+
+/// Een blok dat nergens eindigt loopt door tot voorbij de laatste regel.
 kern::Blok maakOpenBlok(std::size_t beginNummer, std::size_t aantalRegels) {
     return {.begin = {}, .eind = {}, .beginNummer = beginNummer, .eindNummer = aantalRegels + 1};
 }
@@ -41,10 +45,32 @@ bool Markeerder::werkBij(const Stand& stand) {
         if (stap_ == Stap::ontleden) {
             ontleedVerder();
         } else {
-            merkVerder();
+            schrijfVerderBij();
+        }
+    }
+    if (stap_ == Stap::klaar) {
+        if (const auto regels = kiesRegels(origineel_, gemerktOrigineel_)) {
+            merkOrigineel(*regels);
+        }
+        if (const auto regels = kiesRegels(aangepast_, gemerktAangepast_)) {
+            merkAangepast(*regels);
         }
     }
     return stap_ != Stap::klaar;
+}
+
+/// De regels die nog een achtergrond nodig hebben: wat te zien is, met een rand eromheen. Niets als die er al
+/// is; anders geldt hij daarna als gemerkt.
+std::optional<Markeerder::Regels> Markeerder::kiesRegels(wxStyledTextCtrl& editor,
+                                                         std::optional<Regels>& gemerkt) {
+    const int bovenste = editor.GetFirstVisibleLine();
+    const int eerste = editor.DocLineFromVisible(bovenste);
+    const int laatste = editor.DocLineFromVisible(bovenste + editor.LinesOnScreen());
+    if (gemerkt && gemerkt->begin <= eerste && laatste < gemerkt->einde) {
+        return std::nullopt;
+    }
+    gemerkt = Regels{.begin = std::max(eerste - buitenBeeld, 0), .einde = laatste + 1 + buitenBeeld};
+    return Regels{.begin = gemerkt->begin, .einde = std::min(gemerkt->einde, editor.GetLineCount())};
 }
 
 bool Markeerder::isVeranderd(const Stand& stand) const {
@@ -59,7 +85,6 @@ void Markeerder::begin(const Stand& stand) {
     tekst_ = kern::zetRegeleindenOm(
         {origineel_.GetCharacterPointer(), static_cast<std::size_t>(origineel_.GetTextLength())});
     blokken_.clear();
-    ontleder_.reset();
     mal_.emplace(stand.teksten);
     ontleder_.emplace(mal_->geefMarkers(), [this](const kern::Blok& blok) { blokken_.push_back(blok); });
     ontleedTot_ = 0;
@@ -70,12 +95,16 @@ void Markeerder::ontleedVerder() {
     const std::string_view rest = std::string_view(tekst_).substr(ontleedTot_);
     const std::size_t grens = rest.find('\n', ontleedStuk);
     const std::size_t einde = grens == std::string_view::npos ? rest.rfind('\n') : grens;
-    if (einde != std::string_view::npos) {
-        ontleder_->neem(rest.substr(0, einde + 1));
-        ontleedTot_ += einde + 1;
+    if (einde == std::string_view::npos) {
+        ontleder_->neemStaart(rest);
+        sluitOntledingAf();
         return;
     }
-    ontleder_->neemStaart(rest);
+    ontleder_->neem(rest.substr(0, einde + 1));
+    ontleedTot_ += einde + 1;
+}
+
+void Markeerder::sluitOntledingAf() {
     kern::Bevindingen bevindingen = ontleder_->maakAf();
     bevindingen_ = std::move(bevindingen.lijst);
     if (bevindingen.open > 0) {
@@ -83,55 +112,12 @@ void Markeerder::ontleedVerder() {
             maakOpenBlok(bevindingen.open, static_cast<std::size_t>(origineel_.GetLineCount())));
     }
     meldVeroudering();
-    regel_ = 0;
-    blok_ = 0;
-    bevinding_ = 0;
-    kleurTot_ = 0;
-    stap_ = Stap::merken;
-}
-
-void Markeerder::merkVerder() {
-    const int aantal = origineel_.GetLineCount();
-    for (int teller = 0; teller < regelStuk && regel_ < aantal; ++teller, ++regel_) {
-        merkRegel(regel_);
-    }
-    if (regel_ == aantal) {
-        sluitMerkenAf();
-    }
-}
-
-void Markeerder::merkRegel(int regel) {
-    const auto nummer = static_cast<std::size_t>(regel) + 1;
-    int merk = merken::geen;
-    if (blok_ < blokken_.size() && blokken_[blok_].beginNummer <= nummer) {
-        const kern::Blok& blok = blokken_[blok_];
-        const bool isRand = nummer == blok.beginNummer || nummer == blok.eindNummer;
-        merk = merken::blok | (isRand ? merken::rand : merken::geen);
-        if (nummer == blok.beginNummer) {
-            const int einde = origineel_.GetLineEndPosition(static_cast<int>(blok.eindNummer) - 1);
-            merken::kleurBlok(origineel_, kleurTot_, origineel_.PositionFromLine(regel), einde);
-            kleurTot_ = einde;
-        }
-        blok_ += nummer == blok.eindNummer ? 1 : 0;
-    }
-    merken::merkRegel(origineel_, regel, merk);
-
-    std::vector<kern::Bijschrift> bijschriften;
-    for (; bevinding_ < bevindingen_.size() && bevindingen_[bevinding_].regel == nummer; ++bevinding_) {
-        bijschriften.push_back(kern::beschrijf(bevindingen_[bevinding_]));
-    }
-    const bool heeftBijschrift = origineel_.AnnotationGetLines(regel) > 0;
-    if ((heeftBijschrift || !bijschriften.empty()) &&
-        bijschriften != merken::leesBijschriften(origineel_, regel)) {
-        merken::zetBijschriften(origineel_, regel, bijschriften);
-    }
-}
-
-void Markeerder::sluitMerkenAf() {
-    const int einde = origineel_.GetTextLength();
-    merken::kleurBlok(origineel_, kleurTot_, einde, einde);
-    stap_ = Stap::klaar;
     tekst_ = {};
+    bijgeschreven_ = 0;
+    bevinding_ = 0;
+    gemerktOrigineel_.reset();
+    gemerktAangepast_.reset();
+    stap_ = Stap::bijschrijven;
 }
 
 /// De eerste regel van een resultaat zegt bij welk bestand het hoort, zodra opnieuw knippen iets anders zou
@@ -151,22 +137,75 @@ void Markeerder::meldVeroudering() {
         aangepast_.AnnotationClearAll();
         merken::zetBijschriften(aangepast_, 0, bijschriften);
     }
+    merken::toonBijschriften(aangepast_, !bijschriften.empty());
+}
+
+void Markeerder::schrijfVerderBij() {
+    const int aantal = heeftBijschriften_ || !bevindingen_.empty() ? origineel_.GetLineCount() : 0;
+    for (int teller = 0; teller < regelStuk && bijgeschreven_ < aantal; ++teller, ++bijgeschreven_) {
+        schrijfBij(bijgeschreven_);
+    }
+    if (bijgeschreven_ == aantal) {
+        heeftBijschriften_ = !bevindingen_.empty();
+        merken::toonBijschriften(origineel_, heeftBijschriften_);
+        stap_ = Stap::klaar;
+    }
+}
+
+void Markeerder::schrijfBij(int regel) {
+    std::vector<kern::Bijschrift> bijschriften;
+    const auto nummer = static_cast<std::size_t>(regel) + 1;
+    for (; bevinding_ < bevindingen_.size() && bevindingen_[bevinding_].regel == nummer; ++bevinding_) {
+        bijschriften.push_back(kern::beschrijf(bevindingen_[bevinding_]));
+    }
+    const bool heeft = origineel_.AnnotationGetLines(regel) > 0;
+    if ((heeft || !bijschriften.empty()) && bijschriften != merken::leesBijschriften(origineel_, regel)) {
+        merken::zetBijschriften(origineel_, regel, bijschriften);
+        heeftBijschriften_ = true;
+    }
+}
+
+void Markeerder::merkOrigineel(const Regels& regels) {
+    auto blok =
+        std::lower_bound(blokken_.begin(), blokken_.end(), static_cast<std::size_t>(regels.begin) + 1,
+                         [](const kern::Blok& een, std::size_t nummer) { return een.eindNummer < nummer; });
+    for (int regel = regels.begin; regel < regels.einde; ++regel) {
+        const auto nummer = static_cast<std::size_t>(regel) + 1;
+        if (blok == blokken_.end() || nummer < blok->beginNummer) {
+            merken::merkRegel(origineel_, regel, merken::geen);
+            continue;
+        }
+        const bool isRand = nummer == blok->beginNummer || nummer == blok->eindNummer;
+        merken::merkRegel(origineel_, regel, merken::blok | (isRand ? merken::rand : merken::geen));
+        if (nummer == blok->eindNummer) {
+            ++blok;
+        }
+    }
+}
+
+void Markeerder::merkAangepast(const Regels& regels) {
+    for (int regel = regels.begin; regel < regels.einde; ++regel) {
+        merken::merkVervangregel(aangepast_, regel);
+    }
+}
+
+void Markeerder::wisOrigineel() {
+    merken::wis(origineel_);
+    heeftBijschriften_ = false;
+    gezien_.reset();
+    stap_ = Stap::klaar;
 }
 
 void Markeerder::merkResultaat(const kern::Geknipt& geknipt, kern::Herkomst herkomst) {
-    merken::wis(aangepast_);
     for (const kern::Regel& vervanging : geknipt.vervangingen) {
-        merken::merkVervanging(aangepast_, vervanging);
+        merken::kleurVervanging(aangepast_, geknipt.tekst, vervanging);
     }
     herkomst_ = std::move(herkomst);
 }
 
-void Markeerder::vergeet() {
-    merken::wis(origineel_);
+void Markeerder::wisResultaat() {
     merken::wis(aangepast_);
     herkomst_.reset();
-    gezien_.reset();
-    stap_ = Stap::klaar;
 }
 
 void Markeerder::herstelStijlen() {

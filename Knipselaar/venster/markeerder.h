@@ -2,7 +2,9 @@
 
 // Laat bij één bestand in de linker editor zien wat een knipbeurt zou weghalen en wat er aan de markers niet
 // klopt, en in de rechter wat er geknipt is en of dat nog bij het origineel hoort. Werkt in kleine stappen
-// als het venster niets te doen heeft, zodat typen er nooit op wacht. De editors blijven van het venster.
+// als het venster niets te doen heeft, zodat typen er nooit op wacht. De hele tekst wordt ontleed en krijgt
+// bijschriften; achtergronden krijgt wat te zien is, met een ruime rand eromheen. De editors blijven van het
+// venster.
 
 #include <wx/string.h>
 
@@ -15,6 +17,7 @@
 #include "Knipselaar/kern/ontleding.h"
 
 class VolgEditor;
+class wxStyledTextCtrl;
 
 class Markeerder {
   public:
@@ -30,11 +33,14 @@ class Markeerder {
     /// Zet een stap, als er iets te doen is. Geeft of er daarna nog meer te doen is.
     bool werkBij(const Stand& stand);
 
+    /// Haalt alles uit de linker editor; er komt een andere tekst in.
+    void wisOrigineel();
+
     /// Merkt een nieuw resultaat, dat zojuist in de rechter editor gezet is.
     void merkResultaat(const kern::Geknipt& geknipt, kern::Herkomst herkomst);
 
-    /// Haalt alle merken en bijschriften uit beide editors, en vergeet waar het resultaat vandaan kwam.
-    void vergeet();
+    /// Haalt alles uit de rechter editor, en vergeet waar het resultaat vandaan kwam.
+    void wisResultaat();
 
     /// Na een kleuring, die de stijlen van de bijschriften wist.
     void herstelStijlen();
@@ -50,15 +56,24 @@ class Markeerder {
         long aangepast = 0;
     };
 
-    enum class Stap { klaar, ontleden, merken };
+    /// Een reeks regels, vanaf 0; de laatste telt niet mee.
+    struct Regels {
+        int begin = 0;
+        int einde = 0;
+    };
+
+    enum class Stap { klaar, ontleden, bijschrijven };
 
     bool isVeranderd(const Stand& stand) const;
     void begin(const Stand& stand);
     void ontleedVerder();
-    void merkVerder();
-    void merkRegel(int regel);
-    void sluitMerkenAf();
+    void sluitOntledingAf();
     void meldVeroudering();
+    void schrijfVerderBij();
+    void schrijfBij(int regel);
+    static std::optional<Regels> kiesRegels(wxStyledTextCtrl& editor, std::optional<Regels>& gemerkt);
+    void merkOrigineel(const Regels& regels);
+    void merkAangepast(const Regels& regels);
 
     VolgEditor& origineel_;
     VolgEditor& aangepast_;
@@ -67,16 +82,20 @@ class Markeerder {
     int breedteOrigineel_ = 0;
     int breedteAangepast_ = 0;
 
-    // Het werk waar een stap mee verdergaat.
     Stap stap_ = Stap::klaar;
+
+    // Het ontleden.
     std::string tekst_;
     std::optional<kern::KnipMal> mal_;
     std::optional<kern::Ontleder> ontleder_;
     std::size_t ontleedTot_ = 0;
+
+    // Wat eruit kwam, en hoever dat te zien is.
     std::vector<kern::Blok> blokken_;
     std::vector<kern::Bevinding> bevindingen_;
-    int regel_ = 0;              ///< de volgende regel die gemerkt wordt
-    std::size_t blok_ = 0;       ///< het eerste blok dat niet voor regel_ eindigt
-    std::size_t bevinding_ = 0;  ///< de eerste bevinding die niet voor regel_ ligt
-    int kleurTot_ = 0;           ///< tot waar de tekst van blokken al gekleurd is
+    bool heeftBijschriften_ = false;          ///< onder een regel kan iets staan
+    int bijgeschreven_ = 0;                   ///< de volgende regel die een bijschrift kan krijgen
+    std::size_t bevinding_ = 0;               ///< de eerste bevinding die niet voor die regel ligt
+    std::optional<Regels> gemerktOrigineel_;  ///< deze regels hebben hun achtergrond
+    std::optional<Regels> gemerktAangepast_;
 };

@@ -14,7 +14,7 @@ namespace {
 // De editor nummert merken en kleuringen van tekst apart; de eerste acht kleuringen zijn voor de lexers.
 constexpr int merkBlok = 0;
 constexpr int merkRand = 1;
-constexpr int merkVervangregel = 2;
+constexpr int merkVervangen = 2;
 constexpr int kleurBloktekst = 8;
 constexpr int kleurVervangtekst = 9;
 constexpr int kleurVervangdeel = 10;
@@ -47,7 +47,7 @@ void maakLeeg(wxStyledTextCtrl& editor, int kleuring, int begin, int einde) {
     editor.IndicatorClearRange(begin, einde - begin);
 }
 
-/// Of een kleuring van begin tot einde overal staat, of juist nergens.
+/// Of een kleuring van begin tot einde overal of nergens staat, naar wat gevraagd wordt.
 bool isOveral(wxStyledTextCtrl& editor, int kleuring, bool gekleurd, int begin, int einde) {
     if (begin >= einde) {
         return true;
@@ -57,10 +57,27 @@ bool isOveral(wxStyledTextCtrl& editor, int kleuring, bool gekleurd, int begin, 
     return eerste == gekleurd && (grens >= einde || grens <= begin);
 }
 
-/// De breedte die een bijschrift heeft; iets kleiner dan de tekst, voor het kader eromheen.
-int geefBreedte(wxStyledTextCtrl& editor) {
+void zetRegelmerken(wxStyledTextCtrl& editor, int regel, int merk) {
+    const int anders = (editor.MarkerGet(regel) & alle) ^ merk;
+    for (const int nummer : {merkBlok, merkRand, merkVervangen}) {
+        const int bit = 1 << nummer;
+        if ((anders & bit) == 0) {
+            continue;
+        }
+        if ((merk & bit) != 0) {
+            editor.MarkerAdd(regel, nummer);
+        } else {
+            editor.MarkerDelete(regel, nummer);
+        }
+    }
+}
+
+/// De breedte die een bijschrift onder een regel heeft. Het springt in zoals de regel, en er staat een kader
+/// omheen.
+int geefBreedte(wxStyledTextCtrl& editor, int regel) {
     constexpr int marges = 3;
-    int breedte = editor.GetClientSize().x - editor.TextWidth(eersteStijl, "mmm");
+    const wxString inspringing(' ', static_cast<std::size_t>(editor.GetLineIndentation(regel)));
+    int breedte = editor.GetClientSize().x - editor.TextWidth(wxSTC_STYLE_DEFAULT, inspringing + "mmm");
     for (int marge = 0; marge < marges; ++marge) {
         breedte -= editor.GetMarginWidth(marge);
     }
@@ -89,7 +106,7 @@ const Kleurpaar& geefVervangingKleuren() {
 void bereidVoor(wxStyledTextCtrl& editor) {
     maakMerk(editor, merkBlok, wxSTC_MARK_BACKGROUND, geefBlokKleuren().achtergrond);
     maakMerk(editor, merkRand, wxSTC_MARK_UNDERLINE, geefBlokKleuren().tekst);
-    maakMerk(editor, merkVervangregel, wxSTC_MARK_BACKGROUND, geefVervangingKleuren().achtergrond);
+    maakMerk(editor, merkVervangen, wxSTC_MARK_BACKGROUND, geefVervangingKleuren().achtergrond);
     maakTekstkleur(editor, kleurBloktekst, geefBlokKleuren().tekst);
     maakTekstkleur(editor, kleurVervangtekst, geefVervangingKleuren().tekst);
     editor.IndicatorSetStyle(kleurVervangdeel, wxSTC_INDIC_FULLBOX);
@@ -99,7 +116,6 @@ void bereidVoor(wxStyledTextCtrl& editor) {
     editor.IndicatorSetOutlineAlpha(kleurVervangdeel, ondoorzichtig);
     editor.AllocateExtendedStyles(static_cast<int>(geefBijschriftKleuren().size()));
     editor.AnnotationSetStyleOffset(stijlverschuiving);
-    editor.AnnotationSetVisible(wxSTC_ANNOTATION_BOXED);
     zetStijlen(editor);
 }
 
@@ -115,54 +131,56 @@ void zetStijlen(wxStyledTextCtrl& editor) {
 }
 
 void wis(wxStyledTextCtrl& editor) {
-    for (const int merk : {merkBlok, merkRand, merkVervangregel}) {
+    for (const int merk : {merkBlok, merkRand, merkVervangen}) {
         editor.MarkerDeleteAll(merk);
     }
     for (const int kleuring : {kleurBloktekst, kleurVervangtekst, kleurVervangdeel}) {
         maakLeeg(editor, kleuring, 0, editor.GetTextLength());
     }
     editor.AnnotationClearAll();
+    toonBijschriften(editor, false);
+}
+
+void toonBijschriften(wxStyledTextCtrl& editor, bool zichtbaar) {
+    const int vorm = zichtbaar ? wxSTC_ANNOTATION_BOXED : wxSTC_ANNOTATION_HIDDEN;
+    if (editor.AnnotationGetVisible() != vorm) {
+        editor.AnnotationSetVisible(vorm);
+    }
 }
 
 void merkRegel(wxStyledTextCtrl& editor, int regel, int merk) {
-    const int anders = (editor.MarkerGet(regel) & alle) ^ merk;
-    for (const int nummer : {merkBlok, merkRand, merkVervangregel}) {
-        const int bit = 1 << nummer;
-        if ((anders & bit) == 0) {
-            continue;
-        }
-        if ((merk & bit) != 0) {
-            editor.MarkerAdd(regel, nummer);
-        } else {
-            editor.MarkerDelete(regel, nummer);
-        }
+    zetRegelmerken(editor, regel, merk);
+    const bool gekleurd = (merk & blok) != 0;
+    const int begin = editor.PositionFromLine(regel);
+    const int einde = editor.GetLineEndPosition(regel);
+    if (!isOveral(editor, kleurBloktekst, gekleurd, begin, einde)) {
+        (gekleurd ? vul : maakLeeg)(editor, kleurBloktekst, begin, einde);
     }
 }
 
-void kleurBlok(wxStyledTextCtrl& editor, int vorigEinde, int begin, int einde) {
-    if (!isOveral(editor, kleurBloktekst, false, vorigEinde, begin)) {
-        maakLeeg(editor, kleurBloktekst, vorigEinde, begin);
-    }
-    if (!isOveral(editor, kleurBloktekst, true, begin, einde)) {
-        vul(editor, kleurBloktekst, begin, einde);
-    }
-}
-
-void merkVervanging(wxStyledTextCtrl& editor, const kern::Regel& stuk) {
+void kleurVervanging(wxStyledTextCtrl& editor, std::string_view tekst, const kern::Regel& stuk) {
     const int begin = static_cast<int>(stuk.begin);
     const int einde = static_cast<int>(stuk.eind);
     vul(editor, kleurVervangtekst, begin, einde);
-    for (int plek = begin; plek < einde;) {
-        const int regel = editor.LineFromPosition(plek);
-        const int volgende = editor.PositionFromLine(regel + 1);
-        const int regelEinde = volgende > plek ? volgende : editor.GetTextLength();
-        if (plek == editor.PositionFromLine(regel) && regelEinde <= einde) {
-            merkRegel(editor, regel, vervanging);
-        } else {
-            vul(editor, kleurVervangdeel, plek, std::min(regelEinde, einde));
-        }
-        plek = regelEinde;
+    // Eindigt een vervanging niet met een regeleinde, dan gaat de regel verder met wat er in het origineel na
+    // het blok stond.
+    const std::string_view vervanging = tekst.substr(0, stuk.eind).substr(stuk.begin);
+    if (stuk.begin > 0 && tekst[stuk.begin - 1] != '\n') {
+        const std::size_t eerste = std::min(vervanging.find('\n'), vervanging.size());
+        vul(editor, kleurVervangdeel, begin, begin + static_cast<int>(eerste));
     }
+    if (stuk.eind < tekst.size() && !vervanging.ends_with('\n')) {
+        const auto laatste = static_cast<int>(vervanging.size() - (vervanging.rfind('\n') + 1));
+        vul(editor, kleurVervangdeel, einde - laatste, einde);
+    }
+}
+
+void merkVervangregel(wxStyledTextCtrl& editor, int regel) {
+    const int begin = editor.PositionFromLine(regel);
+    const int volgende = editor.PositionFromLine(regel + 1);
+    const int einde = volgende > begin ? volgende : editor.GetTextLength();
+    const bool heel = begin < einde && isOveral(editor, kleurVervangtekst, true, begin, einde);
+    zetRegelmerken(editor, regel, heel ? vervanging : geen);
 }
 
 void zetBijschriften(wxStyledTextCtrl& editor, int regel, const std::vector<kern::Bijschrift>& bijschriften) {
@@ -170,7 +188,7 @@ void zetBijschriften(wxStyledTextCtrl& editor, int regel, const std::vector<kern
         editor.AnnotationClearLine(regel);
         return;
     }
-    const int breedte = geefBreedte(editor);
+    const int breedte = geefBreedte(editor, regel);
     wxString tekst;
     std::string stijlen;
     for (const kern::Bijschrift& bijschrift : bijschriften) {

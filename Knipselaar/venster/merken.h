@@ -6,6 +6,7 @@
 #include <wx/colour.h>
 
 #include <array>
+#include <string_view>
 #include <vector>
 
 #include "Knipselaar/kern/bevindingTekst.h"
@@ -46,20 +47,24 @@ void zetStijlen(wxStyledTextCtrl& editor);
 /// Haalt alle merken en bijschriften weg.
 void wis(wxStyledTextCtrl& editor);
 
-/// Geeft een regel precies deze merken.
+/// Laat de bijschriften zien of niet. Zolang ze te zien zijn rekent de editor van elke nieuwe regel meteen de
+/// hoogte uit; wie veel tekst gaat zetten laat ze dus eerst niet zien.
+void toonBijschriften(wxStyledTextCtrl& editor, bool zichtbaar);
+
+/// Merkt een regel van een origineel, en geeft haar tekst de kleur die erbij hoort.
 /// @param regel  vanaf 0.
+/// @param merk   precies deze merken krijgt zij.
 void merkRegel(wxStyledTextCtrl& editor, int regel, int merk);
 
-/// Geeft de tekst tussen het vorige blok en het einde van dit blok de kleur die erbij hoort.
-/// @param vorigEinde  waar het vorige blok eindigt, of 0.
-/// @param begin       waar dit blok begint.
-/// @param einde       en waar het eindigt, in bytes.
-void kleurBlok(wxStyledTextCtrl& editor, int vorigEinde, int begin, int einde);
+/// Geeft een vervanging haar tekstkleur, en een deel van een regel ook een achtergrond. De achtergrond van
+/// hele regels komt van merkVervangregel.
+/// @param tekst  de hele tekst van de editor.
+/// @param stuk   waar de vervanging daarin staat.
+void kleurVervanging(wxStyledTextCtrl& editor, std::string_view tekst, const kern::Regel& stuk);
 
-/// Merkt een stuk tekst als vervanging: hele regels krijgen een achtergrond, een deel van een regel alleen
-/// dat deel.
-/// @param stuk  bytes in de tekst van de editor.
-void merkVervanging(wxStyledTextCtrl& editor, const kern::Regel& stuk);
+/// Geeft een regel de achtergrond van een vervanging als zij er helemaal een is, en anders geen.
+/// @param regel  vanaf 0.
+void merkVervangregel(wxStyledTextCtrl& editor, int regel);
 
 /// Zet bijschriften onder een regel in plaats van wat er stond; zonder bijschriften komt er niets. Lange
 /// regels worden afgebroken op de breedte van de editor.

@@ -7,13 +7,10 @@
 #include <wx/stc/stc.h>
 
 #include "Knipselaar/kern/keuzes.h"
-#include "Knipselaar/venster/markeerder.h"
 #include "Knipselaar/venster/parserVenster.h"
 
 void ParserVenster::parserModeHandler(wxCommandEvent& /*event*/) {
-    markeerder_->vergeet();
-    origineelEditor->ClearAll();
-    aangepastEditor->ClearAll();
+    wisEditors();
     origineelGeladen = false;
     bestemmingGekozen = false;
     // Recursief knippen gebeurt ter plaatse en heeft geen bron nodig.

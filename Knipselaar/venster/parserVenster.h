@@ -127,6 +127,7 @@ class ParserVenster : public wxFrame {
     bool kiesOrigineel();
     void kleurVoorHuidigBestand();
     kern::KnipTeksten geefKnipTeksten() const;
+    void wisEditors();
     const kern::KnipMal& geefMal();
     kern::KnipUitslag knipVoorBatch(const wxFileName& bron, const wxFileName& bestemming);
     void verwerkDirectory();

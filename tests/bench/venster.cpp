@@ -4,8 +4,8 @@
 //   venstermeter editor BESTAND      knippen van editor naar editor, en ter vergelijking de uitkomst in één
 //   keer
 //                                    in de editor zetten
-//   venstermeter directory BRON DOEL
-//   venstermeter boom BOOM
+//   venstermeter merken BESTAND      een tekst in de editor zetten, en dan merken wat een knipbeurt ervan
+//   weghaalt venstermeter directory BRON DOEL venstermeter boom BOOM
 
 #include <chrono>
 #include <cstdio>
@@ -44,6 +44,20 @@ void meetEditor(ParserVenster& venster, const std::string& bestand) {
     }
 }
 
+void meetMerken(ParserVenster& venster, const std::string& bestand) {
+    auto* origineel = venster.*&Inzage::origineelEditor;
+    venster.zetCStijl(origineel);
+    origineel->LoadFile(wxString::FromUTF8(bestand));
+    const wxString tekst = origineel->GetText();
+    for (int ronde = 0; ronde < 5; ++ronde) {
+        meet("zet", [origineel, &tekst] { origineel->SetText(tekst); });
+        meet("merk", [&venster] {
+            while ((venster.*&Inzage::werkMerkenBij)()) {
+            }
+        });
+    }
+}
+
 void meetBatch(ParserVenster& venster, int modus, const std::vector<std::string>& paden) {
     (venster.*&Inzage::parserModeKeuze)->SetSelection(modus);
     venster.*& Inzage::origineelPad = wxString::FromUTF8(paden.front());
@@ -56,6 +70,8 @@ void meetAlles(const std::vector<std::string>& woorden) {
     laatLopenTot([&venster] { return venster.IsShownOnScreen(); });
     if (woorden[0] == "editor") {
         meetEditor(venster, woorden[1]);
+    } else if (woorden[0] == "merken") {
+        meetMerken(venster, woorden[1]);
     } else {
         meetBatch(venster, woorden[0] == "boom" ? 2 : 1, {woorden.begin() + 1, woorden.end()});
     }

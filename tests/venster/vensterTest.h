@@ -72,6 +72,7 @@ class Inzage : public ParserVenster {
     using ParserVenster::vervangBox;
     using ParserVenster::vervangTekst;
     using ParserVenster::voegToeKnop;
+    using ParserVenster::werkMerkenBij;
 };
 
 /// Een keuzerondje waarvan de selectie niet bestaat.
