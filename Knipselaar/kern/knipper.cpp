@@ -34,9 +34,20 @@ void Knipper::knip(std::string_view regels, const Uitvoer& uit) {
     }
 }
 
+void Knipper::knipLegeRegel(const Uitvoer& uit) {
+    if (filter_.beoordeel(false) == Lot::vervangen) {
+        uit(vervanging_);
+    }
+}
+
 std::string knipTekst(std::string_view tekst, const KnipTeksten& teksten) {
     std::string resultaat;
-    Knipper(teksten, "").knip(tekst, [&resultaat](std::string_view stuk) { resultaat += stuk; });
+    const auto voegToe = [&resultaat](std::string_view stuk) { resultaat += stuk; };
+    Knipper knipper(teksten, "");
+    knipper.knip(tekst, voegToe);
+    if (tekst.ends_with('\n')) {
+        knipper.knipLegeRegel(voegToe);
+    }
     return resultaat;
 }
 

@@ -35,6 +35,10 @@ class Knipper {
     ///                geldig.
     void knip(std::string_view regels, const Uitvoer& uit);
 
+    /// Knipt een allerlaatste regel zonder tekst en zonder regeleinde. Zij draagt nooit een marker, maar kan
+    /// wel de eerste binnenregel van een blok zijn.
+    void knipLegeRegel(const Uitvoer& uit);
+
   private:
     MarkerMasker begin_;
     MarkerMasker eind_;
@@ -42,7 +46,8 @@ class Knipper {
     KnipFilter filter_;
 };
 
-/// Knipt een tekst uit een editor: regels houden hun eigen regeleinde, de vervangtekst krijgt er geen bij.
+/// Knipt een tekst uit een editor: regels houden hun eigen regeleinde, de vervangtekst krijgt er geen bij. De
+/// lege regel achter een laatste regeleinde telt mee, zoals de editor haar telt.
 /// @param tekst  de hele tekst in UTF-8 met "\n" als regeleinde.
 std::string knipTekst(std::string_view tekst, const KnipTeksten& teksten);
 
