@@ -2,7 +2,6 @@
 // lopen, tellen en vervangen doet de kern.
 
 #include <wx/choice.h>
-#include <wx/filepicker.h>
 #include <wx/intl.h>
 #include <wx/log.h>
 #include <wx/msgdlg.h>
@@ -13,6 +12,7 @@
 #include "Knipselaar/kern/logregels.h"
 #include "Knipselaar/kern/paden.h"
 #include "Knipselaar/venster/identificaties.h"
+#include "Knipselaar/venster/padKiezer.h"
 #include "Knipselaar/venster/parserVenster.h"
 
 namespace {
@@ -123,10 +123,11 @@ void ParserVenster::verwerkDirectoryRecursief() {
 }
 
 void ParserVenster::verwerkDirHandler(wxFileDirPickerEvent& event) {
-    const auto* kiezer = dynamic_cast<wxDirPickerCtrl*>(FindWindowById(event.GetId(), this));
+    auto* kiezer = dynamic_cast<wxDirPickerCtrl*>(FindWindowById(event.GetId(), this));
     if (kiezer == nullptr) {
         return;
     }
+    toonHeelPad(*kiezer);
     bool& gekozen = event.GetId() == ID_BRONDIR ? bronGekozen : bestemmingGekozen;
     // De kiezer meldt elke toets in zijn tekstveld. Wie ".../les2" typt komt langs ".../les": alleen een
     // directory die er is telt, en zolang de tekst er geen noemt is er niets gekozen.

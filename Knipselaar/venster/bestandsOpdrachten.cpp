@@ -7,6 +7,7 @@
 #include <wx/wfstream.h>
 
 #include "Knipselaar/kern/tekstLezer.h"
+#include "Knipselaar/venster/padKiezer.h"
 #include "Knipselaar/venster/parserVenster.h"
 
 namespace {
@@ -36,6 +37,7 @@ bool ParserVenster::kiesOrigineel() {
     }
     huidigBestand = dialoog.GetPath();
     origineelPad = geefDirectory(huidigBestand);
+    toonPad(*bronDirKiezer, origineelPad);  // een batch begint nu daar
     kleurVoorHuidigBestand();
     return true;
 }
@@ -78,6 +80,7 @@ void ParserVenster::opslagHandler(wxCommandEvent& /*event*/) {
     }
     const wxFileName gekozen(dialoog.GetPath());
     aangepastPad = geefDirectory(gekozen);
+    toonPad(*bestemmingDirKiezer, aangepastPad);  // een batch schrijft nu daar
     const wxString pad = gekozen.GetFullPath();
     if (!isBijzonderBestand(pad)) {
         aangepastEditor->SaveFile(pad);

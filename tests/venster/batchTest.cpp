@@ -302,6 +302,23 @@ TEST_F(Kiezen, TeltAlleenEenDirectoryDieErIs) {
     }
 }
 
+TEST_F(Kiezen, ToontHetHelePadInDeTooltip) {
+    const auto tooltip = [](wxDirPickerCtrl* kiezer) { return kiezer->GetTextCtrl()->GetToolTipText(); };
+    wxDirPickerCtrl* bron = lid(&Inzage::bronDirKiezer);
+    wxDirPickerCtrl* bestemming = lid(&Inzage::bestemmingDirKiezer);
+    kiesModus(1);
+    const wxString vooraf = tooltip(bestemming);
+    kiesBron(bron_);
+    EXPECT_EQ(naarWx(bron_), tooltip(bron));
+    EXPECT_EQ(vooraf, tooltip(bestemming));
+    typ(bestemming, "/bestaat/niet");
+    EXPECT_EQ("/bestaat/niet", tooltip(bestemming)) << "ook wat nergens heen wijst";
+    kiesDoel(doel_);
+    EXPECT_EQ(naarWx(doel_), tooltip(bestemming));
+    typ(bestemming, "");
+    EXPECT_EQ("", tooltip(bestemming));
+}
+
 TEST_F(Kiezen, VerandertNietsAanDeAndereKiezer) {
     kiesModus(1);
     kiesBron(bron_);
