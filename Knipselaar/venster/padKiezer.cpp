@@ -1,6 +1,5 @@
 #include "Knipselaar/venster/padKiezer.h"
 
-#include <wx/sizer.h>
 #include <wx/textctrl.h>
 
 wxDirPickerCtrl* maakPadKiezer(wxWindow* ouder, int id, const wxString& pad) {
@@ -9,8 +8,6 @@ wxDirPickerCtrl* maakPadKiezer(wxWindow* ouder, int id, const wxString& pad) {
     wxTextCtrl* veld = kiezer->GetTextCtrl();
     const int breedte = veld->GetTextExtent("/home/docent/lessen/periode 1").x;
     veld->SetMinSize(veld->GetSizeFromTextSize(breedte));
-    // De kiezer nam zijn eigen maat al toen hij gemaakt werd.
-    kiezer->SetMinSize(kiezer->GetSizer()->CalcMin());
     toonHeelPad(*kiezer);
     return kiezer;
 }
