@@ -12,6 +12,8 @@
 
 #include <cstdint>
 
+#include "gemeenschappelijk/qorlogo.h"
+
 /// De organisatie die de toepassingen uitgeeft.
 inline constexpr const char* leverancierNaam = "Werkplaats Knipselaar";
 
@@ -66,8 +68,12 @@ class DesktopApp : public wxApp {
     /// @param variabeleNaam  omgevingsvariabele die de directory mag noemen, of leeg.
     wxString wxFindAppPath(const wxString& startNaam, const wxString& werkDir, const wxString& variabeleNaam);
 
-    /// Toont het Over-venster van de toolkit met deze teksten en de vaste rechtenregel.
+    /// Toont het Over-venster van de toolkit met deze teksten en rechtenregel, zonder plaatje.
     void geefCopyright(const wxString& naam, const wxString& beschrijving, const wxString& versie);
+
+    /// De rechten: jaren en auteur, opleiding, organisatie; elk op een regel.
+    static constexpr const char* rechtenregel =
+        "(c)2025-2026 ing. Team Knipselaar\nopleiding Elektrotechniek\nWerkplaats Knipselaar";
 
     /// De opslag van deze run; blijft eigendom van de toepassing.
     wxConfig* configuratie;
