@@ -92,10 +92,11 @@ class TerPlaatseBatch : public VensterBatch {
 }  // namespace
 
 void ParserVenster::verwerkDirectory() {
-    // Naar zichzelf geknipt raakt elk bestand leeg; dat mag alleen als de gebruiker het wil.
+    // Naar zichzelf geknipt raakt elk bestand leeg; dat mag alleen als de gebruiker het wil. Wie de vraag met
+    // Escape of het sluitkruis wegdoet, wil het niet.
     if (kern::isZelfdePlaats(origineelPad, aangepastPad) &&
         wxMessageBox(wxGetTranslation("Bron en bestemming directories zijn gelijk.\nToch doorgaan?"),
-                     "Bevestig", wxYES_NO, this) == wxNO) {
+                     "Bevestig", wxYES_NO, this) != wxYES) {
         return;
     }
     origineelEditor->ClearAll();

@@ -126,6 +126,21 @@ TEST_F(VlakkeBatch, MeldtNietDatDeBestemmingOntbreekt) {
     hulp::neemBeweringen();
 }
 
+TEST_F(VlakkeBatch, DoetBijGelijkeDirectoriesNietsAlsDeVraagWeggedaanWordt) {
+    hulp::maakBoom(bron_, {{"a.c", metBlok}});
+    kiesModus(1);
+    kiesBron(bron_);
+    kiesDoel(bron_);
+    for (const int antwoord : {wxID_CANCEL, wxID_NO}) {
+        origineel()->SetText("blijft");
+        aangepast()->SetText("blijft ook");
+        beantwoordMelding(antwoord, [this] { geefOpdracht(wxID_REPLACE); });
+        EXPECT_EQ("blijft", tekstVan(origineel())) << antwoord;
+        EXPECT_EQ("blijft ook", tekstVan(aangepast())) << antwoord;
+        EXPECT_EQ((hulp::Boom{{"a.c", metBlok}}), hulp::leesBoom(bron_)) << antwoord;
+    }
+}
+
 TEST_F(VlakkeBatch, VraagtBijGelijkeDirectoriesEnDoetBijNeeNiets) {
     hulp::maakBoom(bron_, {{"a.c", metBlok}});
     doel_ = bron_;
