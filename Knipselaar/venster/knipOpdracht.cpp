@@ -73,9 +73,11 @@ void ParserVenster::volgOrigineel() {
 }
 
 void ParserVenster::bewerkBestand(const wxFileName& bron, const wxFileName& bestemming) {
-    knipBestand(bron, bestemming);
+    laatsteUitslag_ = kern::knipBestand(bron, bestemming, geefKnipTeksten());
 }
 
+/// Bewerkt een bestand van een batch, die wil weten of het lukte.
 kern::KnipUitslag ParserVenster::knipBestand(const wxFileName& bron, const wxFileName& bestemming) {
-    return kern::knipBestand(bron, bestemming, geefKnipTeksten());
+    bewerkBestand(bron, bestemming);
+    return laatsteUitslag_;
 }

@@ -59,7 +59,6 @@ class ParserVenster : public wxFrame {
     void bewerkBestand();
 
     /// Knipt het ene bestand naar het andere; meldt niets.
-    void volgOrigineel();
     void bewerkBestand(const wxFileName& bron, const wxFileName& bestemming);
 
     /// De algemene opmaak van een editor: marges, vouwtekens, regelterugloop. Wist alle kleuren.
@@ -118,10 +117,13 @@ class ParserVenster : public wxFrame {
     bool kiesOrigineel();
     void kleurVoorHuidigBestand();
     kern::KnipTeksten geefKnipTeksten() const;
+    void volgOrigineel();
     kern::KnipUitslag knipBestand(const wxFileName& bron, const wxFileName& bestemming);
     void verwerkDirectory();
     void verwerkDirectoryRecursief();
     void volgEditor(wxStyledTextCtrl* leider, wxStyledTextCtrl* volger);
+
+    kern::KnipUitslag laatsteUitslag_;  ///< wat er van het laatst bewerkte bestand terechtkwam
 
     wxDECLARE_EVENT_TABLE();
 };
