@@ -2,8 +2,8 @@
 
 // Basisklassen voor toepassingen: DesktopApp met vensters, ConsoleApp zonder. Een DesktopApp bezit de
 // instellingenopslag, de taal en het slot van de lopende instantie, en schrijft start en einde van elke
-// run weg. Beide klassen komen uit deze ene header; DesktopApp bestaat alleen waar de toolkit met vensters
-// gebouwd wordt (wxUSE_GUI).
+// run weg. Beide klassen en het logo (qorlogo) komen uit deze ene header; DesktopApp bestaat alleen waar de
+// toolkit met vensters gebouwd wordt (wxUSE_GUI).
 
 #include <wx/app.h>
 #if wxUSE_GUI
