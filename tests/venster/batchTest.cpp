@@ -267,6 +267,22 @@ TEST_F(RecursieveBatch, MeldtNietDatEenBestandNietLukt) {
     hulp::neemBeweringen();
 }
 
+TEST_F(RecursieveBatch, SchrijftEenLinkDieNergensHeenWijstAlsVerwerktOp) {
+    hulp::maakBoom(doel_, {{"sub/los.c", "-> nergens"}, {"a.c", metBlok}});
+    zonderDialoog([this] {
+        knipBoom();
+        wxLog::FlushActive();
+    });
+    EXPECT_EQ("In totaal 2 bestanden en directories gevonden in " + doelPad() +
+                  "\nOrig bestand 1:" + doelPad() + "/sub/los.c\nOrig bestand 2:" + doelPad() + "/a.c\n",
+              tekstVan(origineel()));
+    EXPECT_EQ("Student bestand 1:" + doelPad() + "/sub/los.c\nStudent bestand 2:" + doelPad() + "/a.c\n",
+              tekstVan(aangepast()));
+    EXPECT_EQ((hulp::Boom{{"sub", "/"}, {"sub/los.c", "-> nergens"}, {"a.c", zonderBlok}}),
+              hulp::leesBoom(doel_));
+    hulp::neemBeweringen();
+}
+
 TEST_F(RecursieveBatch, LaatGeenTijdelijkBestandAchter) {
     hulp::maakBoom(doel_, {{"a.c", metBlok}, {"sub/b.c", metBlok}});
     knipBoom();
