@@ -9,6 +9,8 @@
 #include <wx/snglinst.h>
 #include <wx/utils.h>
 
+#include "gemeenschappelijk/overPlaatje.h"
+
 namespace {
 
 /// Een bewering met precies deze tekst als voorwaarde; wxASSERT_MSG zou NULL erin uitwerken. Zonder vanger
@@ -20,10 +22,6 @@ void beweer(bool geldt, const char* functie, const char* voorwaarde, const char*
 }
 
 constexpr const char* taalSleutel = "/Basisconfiguratie/Taal";
-
-wxString maakRechtenregel() {
-    return wxString("(c)2025-2026 ing. Team Knipselaar\nopleiding Elektrotechniek\n") + leverancierNaam;
-}
 
 /// Datum en tijd komen uit één klokstand, zodat ze ook rond middernacht bij elkaar horen.
 void schrijfMoment(wxConfigBase& opslag, const wxString& soort, const wxDateTime& moment) {
@@ -94,6 +92,7 @@ void DesktopApp::geefCopyright(const wxString& naam, const wxString& beschrijvin
     gegevens.SetName(naam);
     gegevens.SetVersion(versie);
     gegevens.SetDescription(beschrijving);
-    gegevens.SetCopyright(maakRechtenregel());
+    gegevens.SetCopyright(rechtenregel);
     wxAboutBox(gegevens);
+    verbergPlaatje();
 }

@@ -2,8 +2,8 @@
 
 // Basisklassen voor toepassingen: DesktopApp met vensters, ConsoleApp zonder. Een DesktopApp bezit de
 // instellingenopslag, de taal en het slot van de lopende instantie, en schrijft start en einde van elke
-// run weg. Beide klassen komen uit deze ene header; DesktopApp bestaat alleen waar de toolkit met vensters
-// gebouwd wordt (wxUSE_GUI).
+// run weg. Beide klassen en het logo (qorlogo) komen uit deze ene header; DesktopApp bestaat alleen waar de
+// toolkit met vensters gebouwd wordt (wxUSE_GUI).
 
 #include <wx/app.h>
 #if wxUSE_GUI
@@ -11,6 +11,8 @@
 #endif
 
 #include <cstdint>
+
+#include "gemeenschappelijk/qorlogo.h"
 
 /// De organisatie die de toepassingen uitgeeft.
 inline constexpr const char* leverancierNaam = "Werkplaats Knipselaar";
@@ -66,8 +68,12 @@ class DesktopApp : public wxApp {
     /// @param variabeleNaam  omgevingsvariabele die de directory mag noemen, of leeg.
     wxString wxFindAppPath(const wxString& startNaam, const wxString& werkDir, const wxString& variabeleNaam);
 
-    /// Toont het Over-venster van de toolkit met deze teksten en de vaste rechtenregel.
+    /// Toont het Over-venster van de toolkit met deze teksten en rechtenregel, zonder plaatje.
     void geefCopyright(const wxString& naam, const wxString& beschrijving, const wxString& versie);
+
+    /// De rechten: jaren en auteur, opleiding, organisatie; elk op een regel.
+    static constexpr const char* rechtenregel =
+        "(c)2025-2026 ing. Team Knipselaar\nopleiding Elektrotechniek\nWerkplaats Knipselaar";
 
     /// De opslag van deze run; blijft eigendom van de toepassing.
     wxConfig* configuratie;

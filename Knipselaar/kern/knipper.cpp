@@ -32,15 +32,26 @@ void Knipper::knip(std::string_view regels, const Uitvoer& uit) {
     }
 }
 
+void Knipper::knipLegeRegel(const Uitvoer& uit) {
+    if (filter_.beoordeel(false) == Lot::vervangen) {
+        uit(vervanging_, Lot::vervangen);
+    }
+}
+
 Geknipt knipTekst(std::string_view tekst, const KnipMal& mal) {
     Geknipt geknipt;
-    Knipper(mal, "").knip(tekst, [&geknipt](std::string_view stuk, Lot lot) {
+    const auto voegToe = [&geknipt](std::string_view stuk, Lot lot) {
         const std::size_t begin = geknipt.tekst.size();
         geknipt.tekst += stuk;
         if (lot == Lot::vervangen) {
             geknipt.vervangingen.push_back({.begin = begin, .eind = geknipt.tekst.size()});
         }
-    });
+    };
+    Knipper knipper(mal, "");
+    knipper.knip(tekst, voegToe);
+    if (tekst.ends_with('\n')) {
+        knipper.knipLegeRegel(voegToe);
+    }
     return geknipt;
 }
 

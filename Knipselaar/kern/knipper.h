@@ -29,6 +29,10 @@ class Knipper {
     ///                geldig.
     void knip(std::string_view regels, const Uitvoer& uit);
 
+    /// Knipt een allerlaatste regel zonder tekst en zonder regeleinde. Zij draagt nooit een marker, maar kan
+    /// wel de eerste binnenregel van een blok zijn.
+    void knipLegeRegel(const Uitvoer& uit);
+
   private:
     const KnipMal& mal_;
     std::string vervanging_;
@@ -41,7 +45,8 @@ struct Geknipt {
     std::vector<Regel> vervangingen;
 };
 
-/// Knipt een tekst uit een editor: regels houden hun eigen regeleinde, de vervangtekst krijgt er geen bij.
+/// Knipt een tekst uit een editor: regels houden hun eigen regeleinde, de vervangtekst krijgt er geen bij. De
+/// lege regel achter een laatste regeleinde telt mee, zoals de editor haar telt.
 /// @param tekst  de hele tekst in UTF-8 met "\n" als regeleinde.
 Geknipt knipTekst(std::string_view tekst, const KnipMal& mal);
 std::string knipTekst(std::string_view tekst, const KnipTeksten& teksten);

@@ -2,7 +2,6 @@
 // lopen, tellen en vervangen doet de kern.
 
 #include <wx/choice.h>
-#include <wx/filepicker.h>
 #include <wx/intl.h>
 #include <wx/log.h>
 #include <wx/msgdlg.h>
@@ -16,6 +15,7 @@
 #include "Knipselaar/venster/identificaties.h"
 #include "Knipselaar/venster/markeerder.h"
 #include "Knipselaar/venster/merken.h"
+#include "Knipselaar/venster/padKiezer.h"
 #include "Knipselaar/venster/parserVenster.h"
 
 namespace {
@@ -134,10 +134,11 @@ kern::KnipUitslag ParserVenster::knipVoorBatch(const wxFileName& bron, const wxF
 }
 
 void ParserVenster::verwerkDirectory() {
-    // Naar zichzelf geknipt raakt elk bestand leeg; dat mag alleen als de gebruiker het wil.
+    // Naar zichzelf geknipt raakt elk bestand leeg; dat mag alleen als de gebruiker het wil. Wie de vraag met
+    // Escape of het sluitkruis wegdoet, wil het niet.
     if (kern::isZelfdePlaats(origineelPad, aangepastPad) &&
         wxMessageBox(wxGetTranslation("Bron en bestemming directories zijn gelijk.\nToch doorgaan?"),
-                     "Bevestig", wxYES_NO, this) == wxNO) {
+                     "Bevestig", wxYES_NO, this) != wxYES) {
         return;
     }
     wisEditors();
@@ -165,10 +166,11 @@ void ParserVenster::verwerkDirectoryRecursief() {
 }
 
 void ParserVenster::verwerkDirHandler(wxFileDirPickerEvent& event) {
-    const auto* kiezer = dynamic_cast<wxDirPickerCtrl*>(FindWindowById(event.GetId(), this));
+    auto* kiezer = dynamic_cast<wxDirPickerCtrl*>(FindWindowById(event.GetId(), this));
     if (kiezer == nullptr) {
         return;
     }
+    toonHeelPad(*kiezer);
     bool& gekozen = event.GetId() == ID_BRONDIR ? bronGekozen : bestemmingGekozen;
     // De kiezer meldt elke toets in zijn tekstveld. Wie ".../les2" typt komt langs ".../les": alleen een
     // directory die er is telt, en zolang de tekst er geen noemt is er niets gekozen.

@@ -8,6 +8,7 @@
 
 #include "Knipselaar/kern/tekstLezer.h"
 #include "Knipselaar/venster/markeerder.h"
+#include "Knipselaar/venster/padKiezer.h"
 #include "Knipselaar/venster/parserVenster.h"
 
 namespace {
@@ -37,6 +38,7 @@ bool ParserVenster::kiesOrigineel() {
     }
     huidigBestand = dialoog.GetPath();
     origineelPad = geefDirectory(huidigBestand);
+    toonPad(*bronDirKiezer, origineelPad);  // een batch begint nu daar
     kleurVoorHuidigBestand();
     markeerder_->wisOrigineel();
     return true;
@@ -80,6 +82,7 @@ void ParserVenster::opslagHandler(wxCommandEvent& /*event*/) {
     }
     const wxFileName gekozen(dialoog.GetPath());
     aangepastPad = geefDirectory(gekozen);
+    toonPad(*bestemmingDirKiezer, aangepastPad);  // een batch schrijft nu daar
     const wxString pad = gekozen.GetFullPath();
     if (!isBijzonderBestand(pad)) {
         aangepastEditor->SaveFile(pad);

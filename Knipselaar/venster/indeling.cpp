@@ -73,9 +73,8 @@ wxSizer* ParserVenster::maakMiddenrij() {
     enkelBestand->Add(openen, 1, wxEXPAND, 0);
     enkelBestand->Add(opslaanKnop, 0, wxALL | wxEXPAND, 10);
 
-    // De rand van 10 bij de kiezers heeft geen richting en doet dus niets.
+    // Geen rij of kolom groeit, en de rand van 10 bij de kiezers heeft geen richting en doet dus niets.
     auto* directories = new wxFlexGridSizer(2, 2, 5, 5);
-    directories->AddGrowableCol(1);  // een pad is langer dan het tekstveld dat de toolkit ervoor neemt
     directories->Add(bronLabel, 0, wxALIGN_CENTER_VERTICAL, 0);
     directories->Add(bronDirKiezer, 1, wxEXPAND, 10);
     directories->Add(bestemmingLabel, 0, wxALIGN_CENTER_VERTICAL, 0);

@@ -90,24 +90,24 @@ void ParserVenster::zetVHDLStijl(wxStyledTextCtrl* editor) {
     editor->SetKeyWords(0, stijl::vhdlWoorden);
 }
 
-/// Kleurt beide editors naar de extensie van huidigBestand; een onbekende extensie laat de kleuring staan.
+/// Kleurt beide editors naar de extensie van huidigBestand; een onbekende extensie laat alles zoals het is.
 void ParserVenster::kleurVoorHuidigBestand() {
-    const std::array editors{origineelEditor, aangepastEditor};
+    const kern::Brontaal taal = kern::kiesBrontaal(huidigBestand.GetExt());
+    if (taal == kern::Brontaal::geen) {
+        return;
+    }
     // Broncode hoort in kolommen te staan; de toolkit neemt anders het proportionele lettertype van GTK, en
     // geeft dat ook als haar vaste systeemlettertypen.
     const wxFont lettertype(wxFontInfo().Family(wxFONTFAMILY_TELETYPE));
-    for (auto* editor : editors) {
+    for (auto* editor : {origineelEditor, aangepastEditor}) {
         editor->StyleSetFont(wxSTC_STYLE_DEFAULT, lettertype);
-        // C en C++ delen een lexer; die zou in een C-bestand de woorden van C++ nog kennen.
-        editor->SetKeyWords(1, wxEmptyString);
-    }
-    const kern::Brontaal taal = kern::kiesBrontaal(huidigBestand.GetExt());
-    for (auto* editor : editors) {
         switch (taal) {
             case kern::Brontaal::cpp:
                 zetCPPStijl(editor);
                 break;
             case kern::Brontaal::c:
+                // C en C++ delen een lexer; die zou in een C-bestand de woorden van C++ nog kennen.
+                editor->SetKeyWords(1, wxEmptyString);
                 zetCStijl(editor);
                 break;
             case kern::Brontaal::vhdl:
@@ -117,10 +117,10 @@ void ParserVenster::kleurVoorHuidigBestand() {
                 break;
         }
         houdRegelnummersLeesbaar(editor);
-    }
-    // Eigenschappen bereiken alleen een lexer die er al is; SetLexer maakt hem pas hierboven.
-    for (auto* editor : editors) {
+        // Eigenschappen bereiken alleen een lexer die er al is; SetLexer maakt hem pas hierboven.
         zetVouwen(editor);
+        // De lexer kleurt uit zichzelf alleen wat nieuw is; van de tekst die er al stond zijn de kleuren weg.
+        editor->Colourise(0, -1);
     }
     markeerder_->herstelStijlen();
 }

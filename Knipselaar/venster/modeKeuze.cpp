@@ -1,5 +1,7 @@
 #include "Knipselaar/venster/modeKeuze.h"
 
+#include "Knipselaar/venster/klik.h"
+
 void ModeKeuze::SetSelection(int selectie) {
     wxRadioBox::SetSelection(selectie);
     laatste_ = GetSelection();
@@ -7,7 +9,7 @@ void ModeKeuze::SetSelection(int selectie) {
 
 bool ModeKeuze::TryBefore(wxEvent& event) {
     if (event.GetEventType() == wxEVT_RADIOBOX) {
-        if (GetSelection() == laatste_) {
+        if (GetSelection() == laatste_ && isKlik(*this)) {
             return true;
         }
         laatste_ = GetSelection();

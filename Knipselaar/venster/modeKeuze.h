@@ -1,7 +1,8 @@
 #pragma once
 
-// Het keuzerondje van de verwerking. Meldt alleen een echte verandering: GTK stuurt de gebeurtenis ook bij
-// een klik op de keuze die er al stond, en het venster zou dan het werk van de gebruiker wissen.
+// Het keuzerondje van de verwerking. Een klik meldt alleen een echte verandering: GTK stuurt de gebeurtenis
+// ook bij een klik op de keuze die er al stond, en het venster zou dan het werk van de gebruiker wissen. Wat
+// het programma zelf meldt komt altijd door.
 
 #include <wx/radiobox.h>
 

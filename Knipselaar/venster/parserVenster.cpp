@@ -3,7 +3,6 @@
 #include <wx/button.h>
 #include <wx/choice.h>
 #include <wx/config.h>
-#include <wx/filepicker.h>
 #include <wx/intl.h>
 #include <wx/menu.h>
 #include <wx/panel.h>
@@ -19,6 +18,7 @@
 #include "Knipselaar/venster/identificaties.h"
 #include "Knipselaar/venster/markeerder.h"
 #include "Knipselaar/venster/modeKeuze.h"
+#include "Knipselaar/venster/padKiezer.h"
 #include "Knipselaar/venster/toegankelijkheid.h"
 #include "Knipselaar/venster/volgEditor.h"
 
@@ -130,7 +130,6 @@ void ParserVenster::maakKeuzes() {
                                   wxGetTranslation("Alle bestanden recursief in een directory")};
     const std::array bestandstypen{wxGetTranslation("C,C++ en H bestanden"),
                                    wxGetTranslation("VHDL bestanden"), wxGetTranslation("Alle bestanden")};
-    constexpr long kiezerStijl = wxDIRP_USE_TEXTCTRL | wxDIRP_DIR_MUST_EXIST;
 
     parserModeKeuze = new ModeKeuze(paneel, ID_PARSERMODE, wxGetTranslation("Parser Mode"), wxDefaultPosition,
                                     wxDefaultSize, static_cast<int>(verwerkingen.size()), verwerkingen.data(),
@@ -139,11 +138,9 @@ void ParserVenster::maakKeuzes() {
     voegToeKnop = new wxButton(paneel, wxID_ADD);
     opslaanKnop = new wxButton(paneel, wxID_SAVE);
     bronLabel = new VastLabel<wxStaticText>(paneel, wxID_ANY, wxGetTranslation("Bron directory"));
-    bronDirKiezer = new wxDirPickerCtrl(paneel, ID_BRONDIR, origineelPad, wxDirSelectorPromptStr,
-                                        wxDefaultPosition, wxDefaultSize, kiezerStijl);
+    bronDirKiezer = maakPadKiezer(paneel, ID_BRONDIR, origineelPad);
     bestemmingLabel = new VastLabel<wxStaticText>(paneel, wxID_ANY, wxGetTranslation("Bestemming directory"));
-    bestemmingDirKiezer = new wxDirPickerCtrl(paneel, ID_BESTEMMINGDIR, aangepastPad, wxDirSelectorPromptStr,
-                                              wxDefaultPosition, wxDefaultSize, kiezerStijl);
+    bestemmingDirKiezer = maakPadKiezer(paneel, ID_BESTEMMINGDIR, aangepastPad);
     bestandTypeKeuze = new wxChoice(paneel, ID_BESTANDTYPE, wxDefaultPosition, wxDefaultSize,
                                     static_cast<int>(bestandstypen.size()), bestandstypen.data());
     pasAanKnop = new wxButton(paneel, wxID_REPLACE);

@@ -130,10 +130,10 @@ class ParserVenster : public wxFrame {
     void wisEditors();
     const kern::KnipMal& geefMal();
     kern::KnipUitslag knipVoorBatch(const wxFileName& bron, const wxFileName& bestemming);
+    void volgOrigineel();
     void verwerkDirectory();
     void verwerkDirectoryRecursief();
     void volgEditor(wxStyledTextCtrl* leider, wxStyledTextCtrl* volger);
-    void volgOrigineel();
 
     std::optional<kern::KnipMal> mal_;  ///< van de laatste knipbeurt
     kern::KnipUitslag uitslag_;         ///< van het laatste bestand dat geknipt is

@@ -39,10 +39,13 @@ GtkWidget* geefInhoud(const wxWindow& veld) {
     return gtk_bin_get_child(GTK_BIN(veld.GetHandle()));
 }
 
-/// Beide kiezers hebben een knop met dezelfde tekst; de beschrijving zegt welke het is.
+/// Beide kiezers hebben een knop met dezelfde tekst; de beschrijving zegt welke het is. De tooltip van het
+/// tekstveld is geen beschrijving: een schermlezer leest het pad al voor.
 void noemKiezer(const wxStaticText& label, wxDirPickerCtrl& kiezer) {
     const wxString naam = label.GetLabelText();
-    zetLabel(label.GetHandle(), kiezer.GetTextCtrl()->GetHandle(), naam);
+    GtkWidget* veld = kiezer.GetTextCtrl()->GetHandle();
+    zetLabel(label.GetHandle(), veld, naam);
+    atk_object_set_description(geefToegang(veld), "");
     atk_object_set_description(geefToegang(kiezer.GetPickerCtrl()->GetHandle()), naam.utf8_str());
 }
 

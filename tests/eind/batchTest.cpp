@@ -89,6 +89,28 @@ TEST_F(Batch, VraagtBijGelijkeDirectoriesEnSpaartZeBijNee) {
     sluitAf();
 }
 
+TEST_F(Batch, SpaartGelijkeDirectoriesAlsDeVraagWeggedaanWordt) {
+    const std::string vraag = "^Bevestig$";
+    const hulp::Boom vooraf{{"a.c", origineel}, {"b.vhd", "x\n"}};
+    hulp::maakBoom(bron_, vooraf);
+    start();
+    kiesModus(directoryY, bronY);
+    vulKiezer(bronY, bron_);
+    vulKiezer(doelY, bron_);
+    knip();
+    wachtOpVenster(vraag);
+    druk("Escape");
+    wachtTotWeg(vraag);
+    wachtOpVenster(hoofdvenster);
+    EXPECT_TRUE(hulp::isBoom(bron_, vooraf));
+    knip();
+    wachtOpVenster(vraag);
+    EXPECT_TRUE(sluitTot([&vraag] { return !isZichtbaar(vraag); }));
+    wachtOpVenster(hoofdvenster);
+    EXPECT_TRUE(hulp::isBoom(bron_, vooraf));
+    sluitAf();
+}
+
 TEST_F(Batch, MeldtEenLegeDirectory) {
     start();
     kiesModus(directoryY, bronY);

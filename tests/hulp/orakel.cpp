@@ -70,16 +70,6 @@ std::string knipStroom(wxInputStream& origStroom, std::size_t aantalBytes, const
     return resultaat;
 }
 
-/// Geeft elke regel met haar regeleinde door; de laatste mag zonder zijn.
-void loopRegelsAf(std::string_view tekst, const std::function<void(std::string_view)>& doe) {
-    for (std::size_t begin = 0; begin < tekst.size();) {
-        const std::size_t einde = tekst.find('\n', begin);
-        const std::size_t volgende = einde == std::string_view::npos ? tekst.size() : einde + 1;
-        doe(tekst.substr(begin, volgende - begin));
-        begin = volgende;
-    }
-}
-
 /// De breedte van een eenheid als een tekst met een merkteken van UTF-16 of UTF-32 begint, anders 0.
 std::size_t geefBreedte(std::string_view inhoud) {
     if (inhoud.starts_with("\xFF\xFE\0\0"sv) || inhoud.starts_with("\0\0\xFE\xFF"sv)) {
@@ -163,19 +153,33 @@ std::string knipRegels(std::string_view regels, const kern::KnipTeksten& teksten
     std::string resultaat;
     Filter filter(teksten, "",
                   [&resultaat](const wxString& stuk) { resultaat += stuk.utf8_string() + "\n"; });
-    loopRegelsAf(regels, [&filter](std::string_view regel) {
-        filter.regel(wxString::FromUTF8(regel.data(), regel.size() - 1));
-    });
+    for (std::size_t begin = 0; begin < regels.size();) {
+        const std::size_t einde = regels.find('\n', begin);
+        filter.regel(wxString::FromUTF8(regels.data() + begin, einde - begin));
+        begin = einde + 1;
+    }
+    return resultaat;
+}
+
+std::string knipEditorregels(const std::vector<wxString>& regels, const kern::KnipTeksten& teksten) {
+    std::string resultaat;
+    Filter filter(teksten, "\n", [&resultaat](const wxString& stuk) { resultaat += stuk.utf8_string(); });
+    for (const wxString& regel : regels) {
+        filter.regel(regel);
+    }
     return resultaat;
 }
 
 std::string knipTekst(std::string_view tekst, const kern::KnipTeksten& teksten) {
-    std::string resultaat;
-    Filter filter(teksten, "\n", [&resultaat](const wxString& stuk) { resultaat += stuk.utf8_string(); });
-    loopRegelsAf(tekst, [&filter](std::string_view regel) {
-        filter.regel(wxString::FromUTF8(regel.data(), regel.size()));
-    });
-    return resultaat;
+    std::vector<wxString> regels;
+    std::size_t begin = 0;
+    for (std::size_t einde = tekst.find('\n'); einde != std::string_view::npos;
+         einde = tekst.find('\n', begin)) {
+        regels.push_back(wxString::FromUTF8(tekst.data() + begin, einde + 1 - begin));
+        begin = einde + 1;
+    }
+    regels.push_back(wxString::FromUTF8(tekst.data() + begin, tekst.size() - begin));
+    return knipEditorregels(regels, teksten);
 }
 
 std::string herstel(std::string_view inhoud) {

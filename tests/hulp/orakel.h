@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "Knipselaar/kern/knipper.h"
 
@@ -22,7 +23,12 @@ std::string knipInhoud(std::string_view inhoud, const kern::KnipTeksten& teksten
 /// De bestandsvariant op regels die al gelezen zijn, in UTF-8 en elk gesloten door "\n".
 std::string knipRegels(std::string_view regels, const kern::KnipTeksten& teksten);
 
-/// De editorvariant op een tekst met "\n" als regeleinde: maskers "*" + marker + "*\n".
+/// De editorvariant op de regels van een editor, van GetLine(0) tot en met GetLine(GetLineCount() - 1):
+/// maskers "*" + marker + "*\n".
+std::string knipEditorregels(const std::vector<wxString>& regels, const kern::KnipTeksten& teksten);
+
+/// De editorvariant op een tekst met "\n" als regeleinde. De laatste regel heeft er geen; eindigt de tekst op
+/// een regeleinde, dan is zij leeg.
 std::string knipTekst(std::string_view tekst, const kern::KnipTeksten& teksten);
 
 /// De inhoud van een bestand zonder de bytes die de stromen laten verdwijnen of waarop ze niet ophouden.

@@ -187,6 +187,17 @@ TEST_F(Boomloop, LaatBijzondereBestandenMetRust) {
               hulp::leesBoom(boom_));
 }
 
+TEST_F(Boomloop, MeldtEenLinkDieNergensHeenWijstAlsVerwerkt) {
+    const hulp::Boom links{{"een/los.c", "-> nergens"}, {"een/rond.c", "-> rond.c"}, {"een", "/"}};
+    hulp::maakBoom(boom_, links);
+    const auto gemeld = knipBoom();
+    ASSERT_EQ(2U, gemeld.size());
+    const bool losEerst = gemeld[0] == "knip 1 los.c";
+    EXPECT_EQ(losEerst ? "knip 1 los.c" : "knip 1 rond.c", gemeld[0]);
+    EXPECT_EQ(losEerst ? "knip 2 rond.c" : "knip 2 los.c", gemeld[1]);
+    EXPECT_EQ(links, hulp::leesBoom(boom_));
+}
+
 TEST(Paden, ZijnDezelfdePlaatsHoeZeOokGeschrevenZijn) {
     const hulp::TijdelijkeMap map;
     fs::create_directory(map / "a");

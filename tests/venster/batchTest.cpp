@@ -126,6 +126,21 @@ TEST_F(VlakkeBatch, MeldtNietDatDeBestemmingOntbreekt) {
     hulp::neemBeweringen();
 }
 
+TEST_F(VlakkeBatch, DoetBijGelijkeDirectoriesNietsAlsDeVraagWeggedaanWordt) {
+    hulp::maakBoom(bron_, {{"a.c", metBlok}});
+    kiesModus(1);
+    kiesBron(bron_);
+    kiesDoel(bron_);
+    for (const int antwoord : {wxID_CANCEL, wxID_NO}) {
+        origineel()->SetText("blijft");
+        aangepast()->SetText("blijft ook");
+        beantwoordMelding(antwoord, [this] { geefOpdracht(wxID_REPLACE); });
+        EXPECT_EQ("blijft", tekstVan(origineel())) << antwoord;
+        EXPECT_EQ("blijft ook", tekstVan(aangepast())) << antwoord;
+        EXPECT_EQ((hulp::Boom{{"a.c", metBlok}}), hulp::leesBoom(bron_)) << antwoord;
+    }
+}
+
 TEST_F(VlakkeBatch, VraagtBijGelijkeDirectoriesEnDoetBijNeeNiets) {
     hulp::maakBoom(bron_, {{"a.c", metBlok}});
     doel_ = bron_;
@@ -252,6 +267,22 @@ TEST_F(RecursieveBatch, MeldtNietDatEenBestandNietLukt) {
     hulp::neemBeweringen();
 }
 
+TEST_F(RecursieveBatch, SchrijftEenLinkDieNergensHeenWijstAlsVerwerktOp) {
+    hulp::maakBoom(doel_, {{"sub/los.c", "-> nergens"}, {"a.c", metBlok}});
+    zonderDialoog([this] {
+        knipBoom();
+        wxLog::FlushActive();
+    });
+    EXPECT_EQ("In totaal 2 bestanden en directories gevonden in " + doelPad() +
+                  "\nOrig bestand 1:" + doelPad() + "/sub/los.c\nOrig bestand 2:" + doelPad() + "/a.c\n",
+              tekstVan(origineel()));
+    EXPECT_EQ("Student bestand 1:" + doelPad() + "/sub/los.c\nStudent bestand 2:" + doelPad() + "/a.c\n",
+              tekstVan(aangepast()));
+    EXPECT_EQ((hulp::Boom{{"sub", "/"}, {"sub/los.c", "-> nergens"}, {"a.c", zonderBlok}}),
+              hulp::leesBoom(doel_));
+    hulp::neemBeweringen();
+}
+
 TEST_F(RecursieveBatch, LaatGeenTijdelijkBestandAchter) {
     hulp::maakBoom(doel_, {{"a.c", metBlok}, {"sub/b.c", metBlok}});
     knipBoom();
@@ -300,6 +331,23 @@ TEST_F(Kiezen, TeltAlleenEenDirectoryDieErIs) {
         kiesDoel(doel_);
         EXPECT_TRUE(lid(&Inzage::bestemmingGekozen)) << "terug na " << tekst;
     }
+}
+
+TEST_F(Kiezen, ToontHetHelePadInDeTooltip) {
+    const auto tooltip = [](wxDirPickerCtrl* kiezer) { return kiezer->GetTextCtrl()->GetToolTipText(); };
+    wxDirPickerCtrl* bron = lid(&Inzage::bronDirKiezer);
+    wxDirPickerCtrl* bestemming = lid(&Inzage::bestemmingDirKiezer);
+    kiesModus(1);
+    const wxString vooraf = tooltip(bestemming);
+    kiesBron(bron_);
+    EXPECT_EQ(naarWx(bron_), tooltip(bron));
+    EXPECT_EQ(vooraf, tooltip(bestemming));
+    typ(bestemming, "/bestaat/niet");
+    EXPECT_EQ("/bestaat/niet", tooltip(bestemming)) << "ook wat nergens heen wijst";
+    kiesDoel(doel_);
+    EXPECT_EQ(naarWx(doel_), tooltip(bestemming));
+    typ(bestemming, "");
+    EXPECT_EQ("", tooltip(bestemming));
 }
 
 TEST_F(Kiezen, VerandertNietsAanDeAndereKiezer) {

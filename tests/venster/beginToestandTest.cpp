@@ -42,6 +42,8 @@ TEST_F(BeginToestand, ToontDeStandaardwaarden) {
     EXPECT_EQ("Knipselaar", venster_->GetTitle());
     EXPECT_EQ(thuis, lid(&Inzage::bronDirKiezer)->GetPath());
     EXPECT_EQ(thuis, lid(&Inzage::bestemmingDirKiezer)->GetPath());
+    EXPECT_EQ(thuis, lid(&Inzage::bronDirKiezer)->GetTextCtrl()->GetToolTipText());
+    EXPECT_EQ(thuis, lid(&Inzage::bestemmingDirKiezer)->GetTextCtrl()->GetToolTipText());
     EXPECT_EQ(thuis, lid(&Inzage::origineelPad));
     EXPECT_EQ(thuis, lid(&Inzage::aangepastPad));
     EXPECT_EQ(0, modus()->GetSelection());
@@ -88,6 +90,8 @@ TEST_F(Herstel, BrengtAlleWaardenTerug) {
     EXPECT_EQ("/usr/share", ander->*&Inzage::aangepastPad);
     EXPECT_EQ("/usr/include", (ander->*&Inzage::bronDirKiezer)->GetPath());
     EXPECT_EQ("/usr/share", (ander->*&Inzage::bestemmingDirKiezer)->GetPath());
+    EXPECT_EQ("/usr/include", (ander->*&Inzage::bronDirKiezer)->GetTextCtrl()->GetToolTipText());
+    EXPECT_EQ("/usr/share", (ander->*&Inzage::bestemmingDirKiezer)->GetTextCtrl()->GetToolTipText());
     EXPECT_EQ(1, (ander->*&Inzage::parserModeKeuze)->GetSelection());
     EXPECT_FALSE(ander->*&Inzage::bronGekozen)
         << "in een directory telt een pad uit de opslag niet als keuze";

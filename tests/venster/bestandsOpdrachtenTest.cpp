@@ -158,6 +158,40 @@ TEST_F(BestandsOpdrachten, SlaatHetResultaatOp) {
     EXPECT_FALSE(aangepast()->IsModified());
 }
 
+TEST_F(BestandsOpdrachten, LatenDeKiezersTonenWatEenBatchNuGebruikt) {
+    int gemeld = 0;
+    venster_->Bind(wxEVT_DIRPICKER_CHANGED, [&gemeld](wxFileDirPickerEvent& event) {
+        ++gemeld;
+        event.Skip();
+    });
+    const auto toont = [](wxDirPickerCtrl* kiezer) {
+        EXPECT_EQ(kiezer->GetPath(), kiezer->GetTextCtrl()->GetValue());
+        EXPECT_EQ(kiezer->GetPath(), kiezer->GetTextCtrl()->GetToolTipText());
+        return kiezer->GetPath();
+    };
+    wxDirPickerCtrl* bron = lid(&Inzage::bronDirKiezer);
+    wxDirPickerCtrl* bestemming = lid(&Inzage::bestemmingDirKiezer);
+    const wxString thuis = naarWx(geefOmgeving().thuis());
+
+    open("een.c", "een\n");
+    EXPECT_EQ(werk_, toont(bron));
+    EXPECT_EQ(thuis, toont(bestemming));
+    fs::create_directory(geefOmgeving().werk() / "meer");
+    kies(wxID_ADD, maakBestand("meer/twee.c", "twee\n"));
+    EXPECT_EQ(werk_ + "/meer", toont(bron));
+    kies(wxID_OPEN, {});
+    EXPECT_EQ(werk_ + "/meer", toont(bron)) << "afzien verandert niets";
+    kies(wxID_SAVE, geefOmgeving().werk() / "uit.c");
+    EXPECT_EQ(werk_, toont(bestemming));
+    EXPECT_EQ(werk_ + "/meer", toont(bron));
+
+    laatLopen();
+    EXPECT_EQ(0, gemeld) << "de gebruiker koos geen directory";
+    EXPECT_FALSE(lid(&Inzage::bronGekozen));
+    EXPECT_FALSE(lid(&Inzage::bestemmingGekozen));
+    EXPECT_EQ("twee.c", lid(&Inzage::huidigBestand).GetFullName());
+}
+
 TEST_F(BestandsOpdrachten, WerkenMetElkeNaam) {
     for (const std::string& naam :
          {std::string("met spatie.c"), std::string("aan\"haling's $HOME.c"), std::string("één €.c")}) {

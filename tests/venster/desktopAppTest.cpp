@@ -42,6 +42,12 @@ TEST_F(DesktopAppTest, IsDeGlobaleOpslag) {
     EXPECT_FALSE(app_.configuratie->IsExpandingEnvVars());
 }
 
+TEST_F(DesktopAppTest, LaatDeToolkitZelfGeenOpslagMaken) {
+    wxConfigBase::Set(nullptr);
+    EXPECT_EQ(nullptr, wxConfigBase::Get(true)) << "ook niet als er om gevraagd wordt";
+    delete wxConfigBase::Set(app_.configuratie);
+}
+
 TEST_F(DesktopAppTest, SpreektNederlands) {
     EXPECT_EQ(static_cast<int>(wxLANGUAGE_DUTCH), app_.*&AppInzage::taal);
     EXPECT_TRUE((app_.*&AppInzage::locale)->IsOk());

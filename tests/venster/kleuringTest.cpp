@@ -223,6 +223,132 @@ TEST_F(Kleuring, GeeftBeideEditorsEenLettertypeMetVasteBreedte) {
     }
 }
 
+class Herkleuring : public Kleuring {
+  protected:
+    static constexpr const char* tekst_ = "int class(void)\n{\n    return 1; // een\n}\n";
+
+    void voegToe(const std::string& naam, std::string_view inhoud) {
+        const auto pad = maakBestand(naam, inhoud);
+        beantwoordBestandsdialoog(naarWx(pad), [this] { geefOpdracht(wxID_ADD); });
+    }
+
+    /// De stijl van elk teken van tekst_ en het vouwniveau van elke regel, zoals ze nu in de editor staan.
+    static std::vector<int> leesKleuren(wxStyledTextCtrl* editor) {
+        std::vector<int> kleuren;
+        for (int plek = 0; plek < static_cast<int>(std::string_view(tekst_).size()); ++plek) {
+            kleuren.push_back(editor->GetStyleAt(plek));
+        }
+        for (int regel = 0; regel < 4; ++regel) {
+            kleuren.push_back(editor->GetFoldLevel(regel));
+        }
+        return kleuren;
+    }
+
+    /// Wat een editor van tekst_ maakt als hij haar in een keer in deze taal krijgt.
+    std::vector<int> kleurNieuw(void (ParserVenster::*zetStijl)(wxStyledTextCtrl*)) {
+        wxStyledTextCtrl nieuw(venster_, wxID_ANY);
+        (venster_->*zetStijl)(&nieuw);
+        nieuw.SetProperty("fold", "1");
+        nieuw.SetProperty("fold.comment", "1");
+        nieuw.SetProperty("fold.compact", "1");
+        nieuw.SetText(tekst_);
+        nieuw.Colourise(0, -1);
+        return leesKleuren(&nieuw);
+    }
+};
+
+TEST_F(Herkleuring, KleurtNaToevoegenOokDeTekstDieErAlStond) {
+    const auto alsC = kleurNieuw(&ParserVenster::zetCStijl);
+    const auto alsCpp = kleurNieuw(&ParserVenster::zetCPPStijl);
+    const auto alsVhdl = kleurNieuw(&ParserVenster::zetVHDLStijl);
+    ASSERT_NE(alsC, alsCpp);
+    ASSERT_NE(alsC, alsVhdl);
+    open("een.c", tekst_);
+    aangepast()->SetText(tekst_);
+    voegToe("twee.c", "int y;\n");
+    for (auto* editor : editors_) {
+        EXPECT_EQ(alsC, leesKleuren(editor)) << editor->GetId();
+    }
+    voegToe("drie.cpp", "int z;\n");
+    for (auto* editor : editors_) {
+        EXPECT_EQ(alsCpp, leesKleuren(editor)) << editor->GetId();
+    }
+    voegToe("vier.vhd", "x\n");
+    for (auto* editor : editors_) {
+        EXPECT_EQ(alsVhdl, leesKleuren(editor)) << editor->GetId();
+    }
+}
+
+TEST_F(Herkleuring, KleurtNaOpenenOokHetResultaatDatErAlStond) {
+    const auto alsC = kleurNieuw(&ParserVenster::zetCStijl);
+    open("een.c", tekst_);
+    geefOpdracht(wxID_REPLACE);
+    ASSERT_EQ(tekst_, tekstVan(aangepast()));
+    open("twee.c", "int y;\n");
+    EXPECT_EQ(alsC, leesKleuren(aangepast()));
+}
+
+TEST_F(Herkleuring, RaaktBijEenOnbekendeExtensieNietsAan) {
+    const auto toestand = [this] {
+        std::vector<wxString> alles;
+        for (auto* editor : editors_) {
+            for (int stijl = 0; stijl <= wxSTC_STYLE_LASTPREDEFINED; ++stijl) {
+                alles.push_back(editor->StyleGetFaceName(stijl));
+                alles.push_back(editor->StyleGetForeground(stijl).GetAsString() +
+                                editor->StyleGetBackground(stijl).GetAsString());
+                alles.push_back(wxString::Format("%d %d", editor->StyleGetSize(stijl), editor->GetLexer()));
+            }
+            for (const char* eigenschap : {"fold", "fold.comment", "fold.compact"}) {
+                alles.push_back(editor->GetProperty(eigenschap));
+            }
+            alles.push_back(wxString::Format("%d %d", editor->GetMarginWidth(0), editor->GetWrapMode()));
+        }
+        return alles;
+    };
+    auto vooraf = toestand();
+    open("een.txt", "class x;\n");
+    EXPECT_EQ(vooraf, toestand()) << "ook voor het eerste bestand";
+
+    open("een.cpp", tekst_);
+    aangepast()->SetText(tekst_);
+    for (auto* editor : editors_) {
+        editor->SetProperty("fold.compact", "0");
+        editor->StyleSetForeground(wxSTC_STYLE_LINENUMBER, *wxBLACK);
+        editor->StyleSetBackground(wxSTC_STYLE_LINENUMBER, *wxBLACK);
+        editor->StyleSetFaceName(wxSTC_STYLE_DEFAULT, "Sans");
+    }
+    vooraf = toestand();
+    open("een.hpp", "class x;\n");
+    EXPECT_EQ(vooraf, toestand());
+    EXPECT_EQ(wxSTC_C_WORD2, stijlVan(origineel(), "class")) << "de woorden van C++ blijven";
+    EXPECT_EQ(wxSTC_C_WORD2, stijlVan(aangepast(), "class"));
+}
+
+TEST_F(Herkleuring, KleurtEerstHetOrigineelEnDanHetResultaat) {
+    open("een.c", tekst_);
+    aangepast()->SetText(tekst_);
+    for (const char* naam : {"een.cpp", "een.c", "een.vhd"}) {
+        std::vector<int> volgorde;
+        const auto noteer = [&volgorde](wxStyledTextEvent& event) {
+            if ((event.GetModificationType() & wxSTC_MOD_CHANGESTYLE) != 0 &&
+                (volgorde.empty() || volgorde.back() != event.GetId())) {
+                volgorde.push_back(event.GetId());
+            }
+            event.Skip();
+        };
+        const auto pad = maakBestand(naam, "x\n");
+        for (auto* editor : editors_) {
+            editor->Colourise(0, -1);  // zodat tekenen nu niets meer te kleuren heeft
+            editor->Bind(wxEVT_STC_MODIFIED, noteer);
+        }
+        beantwoordBestandsdialoog(naarWx(pad), [this] { geefOpdracht(wxID_ADD); });
+        EXPECT_EQ((std::vector<int>{ID_ORIGINEEL, ID_AANGEPAST}), volgorde) << naam;
+        for (auto* editor : editors_) {
+            editor->Unbind(wxEVT_STC_MODIFIED, noteer);
+        }
+    }
+}
+
 class Vouwen : public Kleuring {
   protected:
     void SetUp() override {

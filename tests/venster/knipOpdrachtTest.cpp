@@ -71,6 +71,35 @@ TEST_F(KnipOpdracht, KniptGelijkMetHetOrakel) {
               knip(tekst));
 }
 
+TEST_F(KnipOpdracht, KniptElkeRegelDieDeEditorTelt) {
+    for (const char* begin : {"X", "B", ""}) {
+        for (const char* eind : {"X", "E", ""}) {
+            zetTeksten(begin, eind, "V\n");
+            for (const char* tekst : {"", "\n", "\t\n", "a", "X", "X\n", "a\nX\nb\nX\nc\nX\n",
+                                      "a\nX\nb\nX\nc\nX", "a\r\nX\r\nb\r\n", "B\r", "B\n\n", "B\nE\n", "B\nE",
+                                      "B\nx\nE\n", "a\nB\nE\nB\n", "één\nB\n∑\nE\nB\n", "E\nB\nB\n"}) {
+                origineel()->SetText(wxString::FromUTF8(tekst));
+                origineel()->ConvertEOLs(wxSTC_EOL_LF);
+                std::vector<wxString> regels;
+                for (int regel = 0; regel < origineel()->GetLineCount(); ++regel) {
+                    regels.push_back(origineel()->GetLine(regel));
+                }
+                EXPECT_EQ(orakel::knipEditorregels(regels, {begin, eind, "V\n"}), knip(tekst))
+                    << begin << " en " << eind << ": " << hulp::toonBytes(tekst);
+            }
+        }
+    }
+}
+
+TEST_F(KnipOpdracht, ZietDeLegeRegelNaHetLaatsteRegeleindeAlsBinnenregel) {
+    zetTeksten("X", "X", "V\n");
+    EXPECT_EQ("a\nV\nc\nV\n", knip("a\nX\nb\nX\nc\nX\n"));
+    EXPECT_EQ("a\nX", knip("a\nX"));
+    zetTeksten("", "E", "V\n");
+    EXPECT_EQ("V\n", knip("\t\n"));
+    EXPECT_EQ("", knip(""));
+}
+
 TEST_F(KnipOpdracht, ToontEenBezigVensterZolangHetDuurt) {
     // Het bezigvenster bestaat alleen binnen de opdracht; de bewering bij een onmogelijke keuze valt daar
     // binnen en is de plaats om te kijken.

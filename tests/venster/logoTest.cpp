@@ -2,7 +2,7 @@
 #include <wx/bitmap.h>
 #include <wx/image.h>
 
-#include "gemeenschappelijk/qorlogo.h"
+#include "gemeenschappelijk/desktopApp.h"
 
 TEST(Logo, WordtEenBitmap) {
     const wxBitmap logo(qorlogo);

@@ -5,6 +5,24 @@
 
 namespace {
 
+/// Ziet elke melding van een keuzerondje, ook een die het zelf tegenhoudt.
+class Meldingen : public wxEventFilter {
+  public:
+    Meldingen() { wxEvtHandler::AddFilter(this); }
+    Meldingen(const Meldingen&) = delete;
+    Meldingen& operator=(const Meldingen&) = delete;
+    ~Meldingen() override { wxEvtHandler::RemoveFilter(this); }
+
+    int FilterEvent(wxEvent& event) override {
+        gezien_ = gezien_ || event.GetEventType() == wxEVT_RADIOBOX;
+        return Event_Skip;
+    }
+    bool isGezien() const { return gezien_; }
+
+  private:
+    bool gezien_ = false;
+};
+
 class Modus : public VensterTest {
   protected:
     bool isAan(int id) {
@@ -25,19 +43,29 @@ class Modus : public VensterTest {
                (lid(&Inzage::bronGekozen) ? "B" : "-") + (lid(&Inzage::bestemmingGekozen) ? "D" : "-");
     }
 
-    /// Klikt met de muis op een keuze van het keuzerondje.
-    void klikKeuze(int keuze) {
+    /// Meldt de keuze die er staat.
+    static void meldKeuze(wxRadioBox* keuzerondje) {
+        wxCommandEvent event(wxEVT_RADIOBOX, ID_PARSERMODE);
+        event.SetEventObject(keuzerondje);
+        event.SetInt(keuzerondje->GetSelection());
+        keuzerondje->ProcessWindowEvent(event);
+    }
+
+    /// Klikt met de muis op een keuze van een keuzerondje en wacht tot GTK dat gemeld heeft.
+    static void klikKeuze(wxRadioBox* keuzerondje, int keuze) {
         wxPoint plek(20, 0);
-        while (modus()->GetItemFromPoint(modus()->ClientToScreen(plek)) != keuze &&
-               plek.y < modus()->GetSize().y) {
+        while (keuzerondje->GetItemFromPoint(keuzerondje->ClientToScreen(plek)) != keuze &&
+               plek.y < keuzerondje->GetSize().y) {
             ++plek.y;
         }
         wxUIActionSimulator muis;
-        muis.MouseMove(modus()->ClientToScreen(plek + wxPoint(0, 5)));
-        wxYield();
+        muis.MouseMove(keuzerondje->ClientToScreen(plek + wxPoint(0, 5)));
+        laatLopen();
+        const Meldingen meldingen;
         muis.MouseClick();
-        wxYield();
+        EXPECT_TRUE(laatLopenTot([&meldingen] { return meldingen.isGezien(); })) << keuze;
     }
+    void klikKeuze(int keuze) { klikKeuze(modus(), keuze); }
 };
 
 }  // namespace
@@ -59,19 +87,63 @@ TEST_F(Modus, VerandertNietsBijEenKlikOpDeKeuzeDieErAlStond) {
         kiesModus(keuze);
         origineel()->SetText("a");
         zetVlaggen(true, true, true);
-        kiesModus(keuze);
+        klikKeuze(keuze);
         EXPECT_EQ("a", tekstVan(origineel())) << keuze;
         EXPECT_EQ("OBD", toonVlaggen()) << keuze;
     }
 }
 
-TEST_F(Modus, OnthoudtEenKeuzeDieHetProgrammaZette) {
+TEST_F(Modus, WisseltBijEenKeuzeDieHetProgrammaZetteEnMeldt) {
+    for (const int keuze : {2, 2, 0, 0, 1}) {
+        origineel()->SetText("a");
+        aangepast()->SetText("b");
+        zetVlaggen(true, true, true);
+        modus()->SetSelection(keuze);
+        EXPECT_EQ("a", tekstVan(origineel())) << "zetten alleen is geen melding";
+        meldKeuze(modus());
+        EXPECT_EQ("", tekstVan(origineel())) << keuze;
+        EXPECT_EQ("", tekstVan(aangepast())) << keuze;
+        EXPECT_EQ(keuze == 2 ? "-B-" : "---", toonVlaggen()) << keuze;
+    }
+}
+
+TEST_F(Modus, WisseltOokAlsDeMeldingLaterKomt) {
+    modus()->SetSelection(2);
+    laatLopen();
+    origineel()->SetText("a");
+    meldKeuze(modus());
+    EXPECT_EQ("", tekstVan(origineel()));
+    EXPECT_EQ("-B-", toonVlaggen());
+}
+
+TEST_F(Modus, VerandertNietsBijEenKlikOpWatHetProgrammaZette) {
     modus()->SetSelection(2);
     origineel()->SetText("a");
-    kiesModus(2);
+    zetVlaggen(true, true, true);
+    klikKeuze(2);
+    laatLopen();
     EXPECT_EQ("a", tekstVan(origineel()));
-    kiesModus(0);
+    EXPECT_EQ("OBD", toonVlaggen());
+    klikKeuze(1);
+    ASSERT_TRUE(laatLopenTot([this] { return modus()->GetSelection() == 1; }));
     EXPECT_EQ("", tekstVan(origineel()));
+    EXPECT_EQ("---", toonVlaggen());
+}
+
+TEST_F(Modus, VerandertNietsBijEenKlikOpDeKeuzeUitDeOpslag) {
+    for (const int keuze : {0, 1, 2}) {
+        wxGetApp().configuratie->Write("/Configuratie/Verwerkingkeuze", static_cast<long>(keuze));
+        ParserVenster* ander = maakVenster();
+        ander->Show();
+        ander->Raise();
+        ASSERT_TRUE(laatLopenTot([ander] { return ander->IsShownOnScreen() && ander->IsActive(); }));
+        (ander->*&Inzage::origineelEditor)->SetText("a");
+        klikKeuze(ander->*&Inzage::parserModeKeuze, keuze);
+        EXPECT_EQ("a", (ander->*&Inzage::origineelEditor)->GetText()) << keuze;
+        klikKeuze(ander->*&Inzage::parserModeKeuze, (keuze + 1) % 3);
+        EXPECT_TRUE(laatLopenTot([ander] { return (ander->*&Inzage::origineelEditor)->IsEmpty(); })) << keuze;
+        sluitVenster(ander);
+    }
 }
 
 TEST_F(Modus, SchakeltKnippenNaarDeVlaggen) {

@@ -304,7 +304,7 @@ TEST_F(Opbouw, HeeftDeSizers) {
         0 ALL 10: voegToeKnop
       0 ALL|EXPAND 10: opslaanKnop
     1 EXPAND 0: kader V batchBox
-      1 EXPAND 0: raster 2x2 5,5 kolom groeit
+      1 EXPAND 0: raster 2x2 5,5
         0 CENTER_VERTICAL 0: bronLabel
         1 EXPAND 10: bronDirKiezer
         0 CENTER_VERTICAL 0: bestemmingLabel
@@ -315,6 +315,19 @@ TEST_F(Opbouw, HeeftDeSizers) {
     1 ALL 10: eindeKnop
 )",
               sizers.beschrijf(lid(&Inzage::paneel)->GetSizer()));
+}
+
+TEST_F(Opbouw, ToontEenGewoonPadHeelOpEenKleinScherm) {
+    const wxSize kleinScherm(1024, 768);
+    const wxSize rand = venster_->GetSize() - venster_->GetClientSize();
+    const wxSize beste = venster_->GetBestSize() + rand;
+    EXPECT_LE(beste.x, kleinScherm.x);
+    EXPECT_LE(beste.y, kleinScherm.y);
+    for (wxDirPickerCtrl* kiezer : {lid(&Inzage::bronDirKiezer), lid(&Inzage::bestemmingDirKiezer)}) {
+        wxTextCtrl* veld = kiezer->GetTextCtrl();
+        EXPECT_GE(veld->GetSize().x,
+                  veld->GetSizeFromTextSize(veld->GetTextExtent("/home/docent/lessen/week 1")).x);
+    }
 }
 
 TEST_F(Opbouw, PastPreciesOmZijnInhoud) {

@@ -89,6 +89,28 @@ class OverVenster : public VensterTest {
         return gevonden.empty() ? nullptr : gevonden.front();
     }
 
+    /// De zichtbare plaatjes in de inhoud van een venster. Onder een onderdeel dat niet te zien is, is niets
+    /// te zien.
+    static std::vector<std::string> zoekPlaatjes(GtkWidget* deel) {
+        std::vector<std::string> gevonden;
+        if (gtk_widget_get_visible(deel) == FALSE) {
+            return gevonden;
+        }
+        if (GTK_IS_IMAGE(deel)) {
+            const char* naam = nullptr;
+            gtk_image_get_icon_name(GTK_IMAGE(deel), &naam, nullptr);
+            gevonden.push_back(lees(naam));
+        } else if (GTK_IS_CONTAINER(deel)) {
+            GList* kinderen = gtk_container_get_children(GTK_CONTAINER(deel));
+            for (GList* rest = kinderen; rest != nullptr; rest = rest->next) {
+                const auto daarin = zoekPlaatjes(GTK_WIDGET(rest->data));
+                gevonden.insert(gevonden.end(), daarin.begin(), daarin.end());
+            }
+            g_list_free(kinderen);
+        }
+        return gevonden;
+    }
+
     /// Sluit het Over-venster met het signaal dat GTK bij Escape geeft.
     static void sluit() {
         g_signal_emit_by_name(zoek(), "close");
@@ -142,6 +164,23 @@ TEST_F(OverVenster, ToontVerderNiets) {
     EXPECT_EQ(0U, telNamen(gtk_about_dialog_get_documenters(over)));
     EXPECT_EQ(0U, telNamen(gtk_about_dialog_get_artists(over)));
     EXPECT_EQ(nullptr, gtk_about_dialog_get_logo(over));
+}
+
+TEST_F(OverVenster, ToontGeenPlaatje) {
+    for (int keer = 0; keer < 2; ++keer) {
+        GtkAboutDialog* over = open();
+        ASSERT_NE(nullptr, over);
+        laatLopen();
+        EXPECT_EQ(std::vector<std::string>(), zoekPlaatjes(gtk_dialog_get_content_area(GTK_DIALOG(over))))
+            << "ook dat van een ontbrekend beeld telt";
+        sluit();
+    }
+}
+
+TEST_F(OverVenster, ToontDeRechtenregelVanDeToepassing) {
+    // De toolkit maakt van "(c)" het teken.
+    EXPECT_EQ(std::string(rechten).substr(2), std::string(DesktopApp::rechtenregel).substr(3));
+    EXPECT_TRUE(std::string(DesktopApp::rechtenregel).ends_with(std::string("\n") + leverancierNaam));
 }
 
 TEST_F(OverVenster, HoudtNietsVast) {

@@ -51,7 +51,7 @@ void VensterTest::geefOpdracht(int id) const {
 }
 
 void VensterTest::kiesModus(int keuze) const {
-    modus()->wxRadioBox::SetSelection(keuze);
+    modus()->SetSelection(keuze);
     wxCommandEvent event(wxEVT_RADIOBOX, ID_PARSERMODE);
     event.SetEventObject(modus());
     event.SetInt(keuze);

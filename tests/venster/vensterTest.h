@@ -97,7 +97,7 @@ class VensterTest : public testing::Test {
     /// Geeft een opdracht zoals het menu dat doet.
     void geefOpdracht(int id) const;
 
-    /// Kiest een verwerking zoals een klik van de gebruiker dat doet.
+    /// Kiest een verwerking en meldt dat, ook als zij er al stond.
     void kiesModus(int keuze) const;
 
     /// Voert een handeling uit terwijl het venster een keuze heeft die niet bestaat.
