@@ -1,5 +1,7 @@
 #include "Knipselaar/kern/bijnaMarker.h"
 
+#include <wx/crt.h>
+
 #include <algorithm>
 
 namespace kern {
@@ -33,13 +35,25 @@ constexpr char maakKlein(char teken) {
     return teken >= 'A' && teken <= 'Z' ? static_cast<char>(teken - 'A' + 'a') : teken;
 }
 
+/// De kleine letter bij een teken. De letters van West-Europa ook als de taal van het systeem ze niet kent.
+wxUniChar maakKlein(wxUniChar teken) {
+    constexpr wxUint32 eersteHoofdletter = 0xC0;
+    constexpr wxUint32 laatsteHoofdletter = 0xDE;
+    constexpr wxUint32 maalteken = 0xD7;
+    constexpr wxUint32 afstand = 0x20;
+    const wxUint32 waarde = teken.GetValue();
+    const bool isHoofdletter =
+        waarde >= eersteHoofdletter && waarde <= laatsteHoofdletter && waarde != maalteken;
+    return isHoofdletter ? wxUniChar(waarde + afstand) : wxUniChar(wxTolower(teken));
+}
+
 /// Kleine letters, zonder bijzaken. Een vaste spatie is ook een blanco teken; tekstverwerkers zetten haar.
 std::string geefHoofdzaak(const wxString& tekst) {
     const wxUniChar vasteSpatie(0xA0);
     wxString hoofdzaak;
-    for (const wxUniChar teken : tekst.Lower()) {
+    for (const wxUniChar teken : tekst) {
         if (teken != vasteSpatie && !(teken.IsAscii() && isBijzaak(static_cast<char>(teken.GetValue())))) {
-            hoofdzaak += teken;
+            hoofdzaak += maakKlein(teken);
         }
     }
     return hoofdzaak.utf8_string();

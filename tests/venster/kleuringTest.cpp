@@ -338,6 +338,7 @@ TEST_F(Herkleuring, KleurtEerstHetOrigineelEnDanHetResultaat) {
         };
         const auto pad = maakBestand(naam, "x\n");
         for (auto* editor : editors_) {
+            editor->SetModEventMask(wxSTC_MODEVENTMASKALL);
             editor->Colourise(0, -1);  // zodat tekenen nu niets meer te kleuren heeft
             editor->Bind(wxEVT_STC_MODIFIED, noteer);
         }

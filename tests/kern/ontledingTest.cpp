@@ -1,0 +1,192 @@
+// De ontleding tegen het knippen zelf: wat zij een blok noemt valt weg, en niets anders.
+
+#include "Knipselaar/kern/ontleding.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "Knipselaar/kern/knipper.h"
+
+using kern::Bevinding;
+using kern::Bevindingen;
+using kern::Blok;
+using kern::KnipMal;
+using kern::Ontleder;
+using kern::Soort;
+
+namespace {
+
+/// Zodat een test bij een verschil zegt wat er stond.
+std::string toon(const std::vector<Bevinding>& lijst) {
+    std::string uit;
+    for (const Bevinding& bevinding : lijst) {
+        uit += std::to_string(bevinding.regel) + ":" + std::to_string(static_cast<int>(bevinding.soort)) +
+               "(" + std::to_string(bevinding.blokBegin) + "-" + std::to_string(bevinding.blokEind) + ") ";
+    }
+    return uit;
+}
+
+struct Uitslag {
+    std::vector<Blok> blokken;
+    Bevindingen bevindingen;
+};
+
+/// Ontleedt een tekst uit een editor, in stukken van hoogstens zoveel regels.
+Uitslag ontleed(const KnipMal& mal, std::string_view tekst, std::size_t regelsPerStuk = 1000) {
+    Uitslag uitslag;
+    Ontleder ontleder(mal.geefMarkers(), [&uitslag](const Blok& blok) { uitslag.blokken.push_back(blok); });
+    while (tekst.find('\n') != std::string_view::npos) {
+        std::size_t einde = 0;
+        for (std::size_t regel = 0;
+             regel < regelsPerStuk && tekst.find('\n', einde) != std::string_view::npos; ++regel) {
+            einde = tekst.find('\n', einde) + 1;
+        }
+        ontleder.neem(tekst.substr(0, einde));
+        tekst.remove_prefix(einde);
+    }
+    ontleder.neemStaart(tekst);
+    uitslag.bevindingen = ontleder.maakAf();
+    return uitslag;
+}
+
+void verwacht(const std::vector<Bevinding>& verwacht, const char* begin, const char* eind,
+              std::string_view tekst) {
+    EXPECT_EQ(toon(verwacht), toon(ontleed(KnipMal({begin, eind, "V"}), tekst).bevindingen.lijst)) << tekst;
+}
+
+/// De regels van een tekst zoals een editor ze telt, elk met haar regeleinde.
+std::vector<std::string> splits(std::string_view tekst) {
+    std::vector<std::string> regels{""};
+    for (const char teken : tekst) {
+        regels.back() += teken;
+        if (teken == '\n') {
+            regels.emplace_back();
+        }
+    }
+    return regels;
+}
+
+/// Wat er van een tekst overblijft als wat de ontleding een blok noemt wegvalt.
+std::string knipNaarOntleding(std::string_view tekst, const Uitslag& uitslag, const std::string& vervanging) {
+    const auto regels = splits(tekst);
+    std::string uit;
+    std::size_t volgende = 0;
+    std::vector<Blok> blokken = uitslag.blokken;
+    if (uitslag.bevindingen.open > 0) {
+        blokken.push_back({.begin = {},
+                           .eind = {},
+                           .beginNummer = uitslag.bevindingen.open,
+                           .eindNummer = regels.size() + 1});
+    }
+    for (const Blok& blok : blokken) {
+        for (; volgende + 1 < blok.beginNummer; ++volgende) {
+            uit += regels[volgende];
+        }
+        uit += blok.eindNummer > blok.beginNummer + 1 ? vervanging : "";
+        volgende = blok.eindNummer;
+    }
+    for (; volgende < regels.size(); ++volgende) {
+        uit += regels[volgende];
+    }
+    return uit;
+}
+
+}  // namespace
+
+TEST(Ontleding, IsBijEenGoedeTekstZonderBevindingen) {
+    const auto uitslag = ontleed(KnipMal({"B", "E", "V"}), "a\nB\nx\nE\nc\nB\ny\nz\nE\n");
+    EXPECT_EQ("", toon(uitslag.bevindingen.lijst));
+    EXPECT_EQ(2U, uitslag.bevindingen.blokken);
+    EXPECT_EQ(0U, uitslag.bevindingen.open);
+    ASSERT_EQ(2U, uitslag.blokken.size());
+    EXPECT_EQ(2U, uitslag.blokken[0].beginNummer);
+    EXPECT_EQ(4U, uitslag.blokken[0].eindNummer);
+    EXPECT_EQ(2U, uitslag.blokken[0].begin.begin);
+    EXPECT_EQ(4U, uitslag.blokken[0].begin.eind);
+    EXPECT_EQ(6U, uitslag.blokken[0].eind.begin);
+    EXPECT_EQ(8U, uitslag.blokken[0].eind.eind);
+    EXPECT_EQ(6U, uitslag.blokken[1].beginNummer);
+    EXPECT_EQ(9U, uitslag.blokken[1].eindNummer);
+}
+
+TEST(Ontleding, ZegtNietsVanEenLegeTekst) {
+    const auto uitslag = ontleed(KnipMal({"", "", "V"}), "");
+    EXPECT_EQ("", toon(uitslag.bevindingen.lijst));
+    EXPECT_EQ(0U, uitslag.bevindingen.blokken);
+}
+
+TEST(Ontleding, ZietWatErNietKlopt) {
+    verwacht({{1, Soort::geenBlok}}, "B", "E", "a\nc\n");
+    verwacht({{1, Soort::geenBlok}}, "B", "E", "a");
+    verwacht({{2, Soort::leegBlok}}, "B", "E", "a\nB\nE\n");
+    verwacht({{2, Soort::zonderEind}}, "B", "E", "a\nB\nx\n");
+    verwacht({{1, Soort::zonderBegin}, {5, Soort::zonderBegin}}, "B", "E", "E\nB\nx\nE\nE\n");
+    verwacht({{3, Soort::beginInBlok, 1, 5}, {4, Soort::beginInBlok, 1, 5}}, "B", "E", "B\nx\nB\nB\nE\n");
+    verwacht({{1, Soort::zonderEind}, {2, Soort::beginInBlok, 1, 0}}, "B", "E", "B\nB\nx\n");
+    verwacht({{1, Soort::geenBlok}, {2, Soort::beginZonderRegeleinde}}, "B", "E", "a\nB");
+    verwacht({{1, Soort::geenBlok}, {2, Soort::eindZonderRegeleinde}}, "B", "E", "a\nE");
+    verwacht({{1, Soort::zonderEind}, {3, Soort::eindZonderRegeleinde, 1, 0}}, "B", "E", "B\nx\nE");
+    verwacht({{1, Soort::geenBlok}, {2, Soort::bijnaBegin}, {3, Soort::bijnaEind}, {4, Soort::bijnaBegin}},
+             "// Begin", "// Eind", "x\n//begin\n# EIND\nbegin");
+    verwacht({{2, Soort::bijnaEind, 1, 3}}, "// Begin", "// Eind", "// Begin\n//eind\n// Eind\n");
+    // Met twee gelijke markers wisselt elke regel die past tussen begin en eind.
+    verwacht({}, "X", "X", "a\nX\nb\nX\n");
+    verwacht({{2, Soort::zonderEind}, {4, Soort::eindZonderRegeleinde, 2, 0}}, "X", "X", "a\nX\nb\nX");
+}
+
+TEST(Ontleding, ZegtEenmaalDatEenMarkerLeegIs) {
+    verwacht({{1, Soort::beginOpElkeRegel}}, "", "E", "a\nb\nE\n");
+    verwacht({{1, Soort::beginOpElkeRegel}, {4, Soort::zonderEind}}, "*", "E", "a\nb\nE\nc\nd\n");
+    verwacht({{1, Soort::eindOpElkeRegel}, {2, Soort::leegBlok}}, "B", "", "a\nB\nb\nc\n");
+    verwacht({{1, Soort::geenBlok}, {1, Soort::eindOpElkeRegel}}, "B", "", "a\nc\n");
+    verwacht({{1, Soort::beginOpElkeRegel}, {1, Soort::eindOpElkeRegel}, {1, Soort::leegBlok}}, "", "",
+             "a\nb\n");
+}
+
+TEST(Ontleding, BewaartHoogstensZoveelEnTeltDeRest) {
+    const KnipMal mal({"B", "E", "V"});
+    Ontleder ontleder(
+        mal.geefMarkers(), [](const Blok&) {}, 2);
+    ontleder.neem("E\nE\nE\nE\nB\n");
+    const Bevindingen bevindingen = ontleder.maakAf();
+    EXPECT_EQ(toon({{1, Soort::zonderBegin}, {2, Soort::zonderBegin}, {5, Soort::zonderEind}}),
+              toon(bevindingen.lijst))
+        << "een blok dat niet eindigt staat er altijd bij";
+    EXPECT_EQ(2U, bevindingen.verzwegen);
+    EXPECT_EQ(1U, bevindingen.blokken);
+}
+
+TEST(Ontleding, ZegtPreciesWatHetKnippenDoet) {
+    std::mt19937 toeval(7);
+    const std::vector<std::string> stukken{"B", "E", "b", "x", "", " B y", "E B", "e", "\t"};
+    const std::vector<std::pair<std::string, std::string>> markers{
+        {"B", "E"}, {"E", "B"}, {"B", "B"}, {"", "E"}, {"B", ""}, {"", ""}, {"B*y", "?E"}, {"*", "B"}};
+    const auto kies = [&toeval](std::size_t aantal) {
+        return std::uniform_int_distribution<std::size_t>(0, aantal - 1)(toeval);
+    };
+    int metBlok = 0;
+    for (int ronde = 0; ronde < 20'000; ++ronde) {
+        std::string tekst;
+        for (std::size_t regels = kies(9); regels > 0; --regels) {
+            tekst += stukken[kies(stukken.size())] + "\n";
+        }
+        tekst += kies(2) == 0 ? "" : stukken[kies(stukken.size())];
+        const auto& [begin, eind] = markers[kies(markers.size())];
+        const KnipMal mal({begin, eind, "V\n"});
+        const auto uitslag = ontleed(mal, tekst, 1 + kies(4));
+        metBlok += uitslag.blokken.empty() ? 0 : 1;
+        ASSERT_EQ(kern::knipTekst(tekst, mal).tekst, knipNaarOntleding(tekst, uitslag, "V\n"))
+            << tekst << "\n"
+            << begin << " " << eind;
+        ASSERT_EQ(uitslag.blokken.size() + (uitslag.bevindingen.open > 0 ? 1 : 0),
+                  uitslag.bevindingen.blokken);
+        ASSERT_TRUE(std::is_sorted(
+            uitslag.bevindingen.lijst.begin(), uitslag.bevindingen.lijst.end(),
+            [](const Bevinding& een, const Bevinding& ander) { return een.regel < ander.regel; }))
+            << toon(uitslag.bevindingen.lijst);
+        ASSERT_EQ(toon(ontleed(mal, tekst).bevindingen.lijst), toon(uitslag.bevindingen.lijst))
+            << "in hoeveel stukken maakt niet uit";
+    }
+    EXPECT_LT(2000, metBlok);
+}
