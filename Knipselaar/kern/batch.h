@@ -31,6 +31,10 @@ class BatchOpdracht {
 
     /// Een bestand is aan de beurt; ter plaatse zijn bron en bestemming hetzelfde. Zegt niet of het lukte.
     virtual void meldVerwerkt(long nummer, const wxFileName& bron, const wxFileName& bestemming) = 0;
+
+    /// Hoe ver de batch is; komt voor elk bestand, ook voor een dat overgeslagen wordt. Wie het niet hoeft te
+    /// weten, doet er niets mee.
+    virtual void meldVoortgang(std::size_t /*gedaan*/, std::size_t /*totaal*/) {}
 };
 
 /// De namen van de gewone en bijzondere bestanden in een directory, zonder verborgen bestanden, in de

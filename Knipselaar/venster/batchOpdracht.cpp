@@ -12,6 +12,7 @@
 #include "Knipselaar/kern/keuzes.h"
 #include "Knipselaar/kern/logregels.h"
 #include "Knipselaar/kern/paden.h"
+#include "Knipselaar/venster/bezigVenster.h"
 #include "Knipselaar/venster/identificaties.h"
 #include "Knipselaar/venster/parserVenster.h"
 
@@ -35,9 +36,11 @@ class Schuifrust {
 /// Knipt voor een venster: leest zijn bediening bij elk bestand opnieuw en schrijft in zijn editors.
 class VensterBatch : public kern::BatchOpdracht {
   public:
-    VensterBatch(const wxChoice& bestandType, wxStyledTextCtrl& bronLog, wxStyledTextCtrl& doelLog,
+    VensterBatch(BezigVenster& bezig, const wxChoice& bestandType, wxStyledTextCtrl& bronLog,
+                 wxStyledTextCtrl& doelLog,
                  std::function<kern::KnipUitslag(const wxFileName&, const wxFileName&)> knip)
-        : bestandType_(bestandType),
+        : bezig_(bezig),
+          bestandType_(bestandType),
           bronLog_(bronLog),
           doelLog_(doelLog),
           bronRust_(bronLog),
@@ -61,7 +64,10 @@ class VensterBatch : public kern::BatchOpdracht {
         doelLog_.AppendText(kern::regelStudent(nummer, bestemming.GetFullName()));
     }
 
+    void meldVoortgang(std::size_t gedaan, std::size_t totaal) override { bezig_.meld(gedaan, totaal); }
+
   protected:
+    BezigVenster& bezig_;
     const wxChoice& bestandType_;
     wxStyledTextCtrl& bronLog_;
     wxStyledTextCtrl& doelLog_;
@@ -91,7 +97,7 @@ class TerPlaatseBatch : public VensterBatch {
 
 }  // namespace
 
-void ParserVenster::verwerkDirectory() {
+void ParserVenster::verwerkDirectory(BezigVenster& bezig) {
     // Naar zichzelf geknipt raakt elk bestand leeg; dat mag alleen als de gebruiker het wil.
     if (kern::isZelfdePlaats(origineelPad, aangepastPad) &&
         wxMessageBox(wxGetTranslation("Bron en bestemming directories zijn gelijk.\nToch doorgaan?"),
@@ -107,17 +113,17 @@ void ParserVenster::verwerkDirectory() {
         wxLogError("De aangegeven bron directory is leeg!");
         return;
     }
-    VensterBatch batch(*bestandTypeKeuze, *origineelEditor, *aangepastEditor,
+    VensterBatch batch(bezig, *bestandTypeKeuze, *origineelEditor, *aangepastEditor,
                        [this](const auto& bron, const auto& doel) { return knipBestand(bron, doel); });
     kern::knipDirectory(origineelPad, aangepastPad, namen, batch);
 }
 
-void ParserVenster::verwerkDirectoryRecursief() {
+void ParserVenster::verwerkDirectoryRecursief(BezigVenster& bezig) {
     origineelEditor->ClearAll();
     aangepastEditor->ClearAll();
     const auto paden = kern::lijstBoom(aangepastPad);
     origineelEditor->AppendText(kern::regelTotaal(static_cast<long>(paden.size()), aangepastPad));
-    TerPlaatseBatch batch(*bestandTypeKeuze, *origineelEditor, *aangepastEditor,
+    TerPlaatseBatch batch(bezig, *bestandTypeKeuze, *origineelEditor, *aangepastEditor,
                           [this](const auto& bron, const auto& doel) { return knipBestand(bron, doel); });
     kern::knipBoom(aangepastPad, paden, batch);
 }

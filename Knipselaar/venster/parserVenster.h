@@ -15,6 +15,7 @@
 #include "Knipselaar/kern/knipper.h"
 #include "Knipselaar/kern/parserInstellingen.h"
 
+class BezigVenster;
 class wxButton;
 class wxChoice;
 class wxConfigBase;
@@ -119,8 +120,8 @@ class ParserVenster : public wxFrame {
     void kleurVoorHuidigBestand();
     kern::KnipTeksten geefKnipTeksten() const;
     kern::KnipUitslag knipBestand(const wxFileName& bron, const wxFileName& bestemming);
-    void verwerkDirectory();
-    void verwerkDirectoryRecursief();
+    void verwerkDirectory(BezigVenster& bezig);
+    void verwerkDirectoryRecursief(BezigVenster& bezig);
     void volgEditor(wxStyledTextCtrl* leider, wxStyledTextCtrl* volger);
 
     wxDECLARE_EVENT_TABLE();

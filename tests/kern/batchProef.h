@@ -43,7 +43,12 @@ class Opdracht : public kern::BatchOpdracht {
         EXPECT_EQ(bron.GetFullName(), bestemming.GetFullName());
     }
 
+    void meldVoortgang(std::size_t gedaan, std::size_t totaal) override {
+        voortgang += std::to_string(gedaan) + "/" + std::to_string(totaal) + " ";
+    }
+
     std::vector<std::string> gemeld;
+    std::string voortgang;
     std::function<void()> voorElkeKnip;
 
   private:
