@@ -2,7 +2,6 @@
 
 #include <wx/event.h>
 #include <wx/evtloop.h>
-#include <wx/log.h>
 #include <wx/sizer.h>
 #include <wx/utils.h>
 #include <wx/window.h>
@@ -28,14 +27,12 @@ void legBoven(wxWindow& kader, const wxWindow& ouder) {
     kader.Move(plek.x + (plek.width - kader.GetSize().x) / 2, plek.y + onderMenu);
 }
 
-/// Handelt af wat er ligt: tekenen wat getekend moet worden, en invoer, die door het slot nergens heen gaat.
-/// Meldingen wachten tot de run voorbij is, en de bediening wordt intussen niet bijgewerkt.
+/// Handelt af wat er ligt: wat getekend moet worden, en invoer, die door het slot nergens heen gaat. De
+/// bediening wordt intussen niet bijgewerkt, en een melding laat de toolkit wachten.
 void handelAf() {
     const long bijwerken = wxUpdateUIEvent::GetUpdateInterval();
     wxUpdateUIEvent::SetUpdateInterval(-1);
-    wxLog::Suspend();
     wxEventLoopBase::GetActive()->YieldFor(wxEVT_CATEGORY_ALL);
-    wxLog::Resume();
     wxUpdateUIEvent::SetUpdateInterval(bijwerken);
 }
 
