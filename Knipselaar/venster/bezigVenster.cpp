@@ -2,7 +2,6 @@
 
 #include <wx/event.h>
 #include <wx/evtloop.h>
-#include <wx/sizer.h>
 #include <wx/utils.h>
 #include <wx/window.h>
 

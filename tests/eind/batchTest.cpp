@@ -82,7 +82,7 @@ class Batch : public Bediening {
         EXPECT_EQ("", fouten());
     }
 
-    static constexpr int lang = 10000;      ///< bestanden in een lange run
+    static constexpr int lang = 15000;      ///< bestanden in een lange run
     static constexpr int directoryY = 453;  ///< "Alle bestanden in een directory"
     static constexpr int boomY = 475;       ///< "Alle bestanden recursief in een directory"
     static constexpr int bronY = 435;
