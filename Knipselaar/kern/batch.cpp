@@ -106,7 +106,9 @@ void knipDirectory(const wxString& bron, const wxString& bestemming, const std::
                    BatchOpdracht& opdracht) {
     const bool zelfdeDirectory = isZelfdePlaats(bron, bestemming);
     long nummer = 1;
+    std::size_t gedaan = 0;
     for (const wxString& naam : namen) {
+        opdracht.meldVoortgang(gedaan++, namen.size());
         const wxFileName bronBestand(bron, naam);
         const wxFileName doelBestand(bestemming, naam);
         if (const auto overslag = keurVlak(bronBestand, doelBestand, zelfdeDirectory, opdracht)) {
@@ -125,6 +127,7 @@ void knipBoom(const wxString& boom, const std::vector<wxString>& paden, BatchOpd
     Beurten beurten(boom);
     long nummer = 0;
     for (const wxString& pad : paden) {
+        opdracht.meldVoortgang(static_cast<std::size_t>(nummer), paden.size());
         ++nummer;
         const wxFileName bestand(pad);
         // Een pad dat nergens heen wijst wordt gemeld als verwerkt, maar nooit vervangen: ook als het daarna

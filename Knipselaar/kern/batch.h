@@ -53,6 +53,10 @@ class BatchOpdracht {
 
     /// Hoe het afliep met het bestand dat als laatste aan de beurt was.
     virtual void meldAfloop(const Afloop& afloop) = 0;
+
+    /// Hoe ver de batch is; komt voor elk bestand, ook voor een dat overgeslagen wordt. Wie het niet hoeft te
+    /// weten, doet er niets mee.
+    virtual void meldVoortgang(std::size_t /*gedaan*/, std::size_t /*totaal*/) {}
 };
 
 /// De namen van de gewone en bijzondere bestanden in een directory, zonder verborgen bestanden, in de

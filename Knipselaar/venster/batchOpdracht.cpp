@@ -12,6 +12,7 @@
 #include "Knipselaar/kern/keuzes.h"
 #include "Knipselaar/kern/logregels.h"
 #include "Knipselaar/kern/paden.h"
+#include "Knipselaar/venster/bezigVenster.h"
 #include "Knipselaar/venster/identificaties.h"
 #include "Knipselaar/venster/markeerder.h"
 #include "Knipselaar/venster/merken.h"
@@ -45,9 +46,11 @@ void zetOnderLaatsteRegel(wxStyledTextCtrl& log, const std::vector<kern::Bijschr
 /// Knipt voor een venster: leest zijn bediening bij elk bestand opnieuw en schrijft in zijn editors.
 class VensterBatch : public kern::BatchOpdracht {
   public:
-    VensterBatch(const wxChoice& bestandType, wxStyledTextCtrl& bronLog, wxStyledTextCtrl& doelLog,
+    VensterBatch(BezigVenster& bezig, const wxChoice& bestandType, wxStyledTextCtrl& bronLog,
+                 wxStyledTextCtrl& doelLog,
                  std::function<kern::KnipUitslag(const wxFileName&, const wxFileName&)> knip)
-        : bestandType_(bestandType),
+        : bezig_(bezig),
+          bestandType_(bestandType),
           bronLog_(bronLog),
           doelLog_(doelLog),
           bronRust_(bronLog),
@@ -88,7 +91,10 @@ class VensterBatch : public kern::BatchOpdracht {
         }
     }
 
+    void meldVoortgang(std::size_t gedaan, std::size_t totaal) override { bezig_.meld(gedaan, totaal); }
+
   protected:
+    BezigVenster& bezig_;
     const wxChoice& bestandType_;
     wxStyledTextCtrl& bronLog_;
     wxStyledTextCtrl& doelLog_;
@@ -133,7 +139,7 @@ kern::KnipUitslag ParserVenster::knipVoorBatch(const wxFileName& bron, const wxF
     return std::move(uitslag_);
 }
 
-void ParserVenster::verwerkDirectory() {
+void ParserVenster::verwerkDirectory(BezigVenster& bezig) {
     // Naar zichzelf geknipt raakt elk bestand leeg; dat mag alleen als de gebruiker het wil. Wie de vraag met
     // Escape of het sluitkruis wegdoet, wil het niet.
     if (kern::isZelfdePlaats(origineelPad, aangepastPad) &&
@@ -149,17 +155,17 @@ void ParserVenster::verwerkDirectory() {
         wxLogError("De aangegeven bron directory is leeg!");
         return;
     }
-    VensterBatch batch(*bestandTypeKeuze, *origineelEditor, *aangepastEditor,
+    VensterBatch batch(bezig, *bestandTypeKeuze, *origineelEditor, *aangepastEditor,
                        [this](const auto& bron, const auto& doel) { return knipVoorBatch(bron, doel); });
     kern::knipDirectory(origineelPad, aangepastPad, namen, batch);
     batch.vatSamen();
 }
 
-void ParserVenster::verwerkDirectoryRecursief() {
+void ParserVenster::verwerkDirectoryRecursief(BezigVenster& bezig) {
     wisEditors();
     const auto paden = kern::lijstBoom(aangepastPad);
     origineelEditor->AppendText(kern::regelTotaal(static_cast<long>(paden.size()), aangepastPad));
-    TerPlaatseBatch batch(*bestandTypeKeuze, *origineelEditor, *aangepastEditor,
+    TerPlaatseBatch batch(bezig, *bestandTypeKeuze, *origineelEditor, *aangepastEditor,
                           [this](const auto& bron, const auto& doel) { return knipVoorBatch(bron, doel); });
     kern::knipBoom(aangepastPad, paden, batch);
     batch.vatSamen();

@@ -1,6 +1,5 @@
 // De knipopdracht: één opdracht voor de drie verwerkingen.
 
-#include <wx/busyinfo.h>
 #include <wx/intl.h>
 #include <wx/radiobox.h>
 #include <wx/stc/stc.h>
@@ -8,38 +7,21 @@
 
 #include "Knipselaar/kern/bestandKnipper.h"
 #include "Knipselaar/kern/keuzes.h"
+#include "Knipselaar/venster/bezigVenster.h"
 #include "Knipselaar/venster/markeerder.h"
 #include "Knipselaar/venster/parserVenster.h"
 
-namespace {
-
-/// Legt het bezigvenster, het nieuwste venster van zijn ouder, bij de bovenrand. In het midden, waar de
-/// toolkit het zet, bedekt het de vraag die een batch kan stellen.
-void legBezigVensterBoven(const wxWindow& ouder) {
-    constexpr int onderMenu = 60;
-    for (auto kind = ouder.GetChildren().rbegin(); kind != ouder.GetChildren().rend(); ++kind) {
-        if ((*kind)->IsTopLevel()) {
-            const wxRect plek = ouder.GetScreenRect();
-            (*kind)->Move(plek.x + (plek.width - (*kind)->GetSize().x) / 2, plek.y + onderMenu);
-            return;
-        }
-    }
-}
-
-}  // namespace
-
 void ParserVenster::verwijderHandler(wxCommandEvent& /*event*/) {
-    const wxBusyInfo bezig(wxGetTranslation("Wacht een ogenblik, bezig met verwerken......."), this);
-    legBezigVensterBoven(*this);
+    BezigVenster bezig(*this, wxGetTranslation("Wacht een ogenblik, bezig met verwerken......."));
     switch (parserModeKeuze->GetSelection()) {
         case kern::enkelBestand:
             bewerkBestand();
             break;
         case kern::alleBestanden:
-            verwerkDirectory();
+            verwerkDirectory(bezig);
             break;
         case kern::alleBestandenRecursief:
-            verwerkDirectoryRecursief();
+            verwerkDirectoryRecursief(bezig);
             break;
         default:
             wxFAIL_MSG("Fout Keuze gemaakt.");

@@ -4,6 +4,7 @@
 #include <wx/choice.h>
 #include <wx/config.h>
 #include <wx/intl.h>
+#include <wx/log.h>
 #include <wx/menu.h>
 #include <wx/panel.h>
 #include <wx/statbox.h>
@@ -170,6 +171,8 @@ void ParserVenster::overHandler(wxCommandEvent& /*event*/) {
 void ParserVenster::eindeHandler(wxCommandEvent& event) {
     if (parserModeKeuze->GetSelection() == kern::enkelBestand && aangepastEditor->IsModified()) {
         opslagHandler(event);
+        // Lukt opslaan niet, dan zegt de toolkit dat anders pas als het venster al weg is.
+        wxLog::FlushActive();
     }
     Close(false);
 }

@@ -18,6 +18,7 @@
 #include "Knipselaar/kern/knipper.h"
 #include "Knipselaar/kern/parserInstellingen.h"
 
+class BezigVenster;
 class Markeerder;
 class wxButton;
 class wxChoice;
@@ -131,8 +132,8 @@ class ParserVenster : public wxFrame {
     const kern::KnipMal& geefMal();
     kern::KnipUitslag knipVoorBatch(const wxFileName& bron, const wxFileName& bestemming);
     void volgOrigineel();
-    void verwerkDirectory();
-    void verwerkDirectoryRecursief();
+    void verwerkDirectory(BezigVenster& bezig);
+    void verwerkDirectoryRecursief(BezigVenster& bezig);
     void volgEditor(wxStyledTextCtrl* leider, wxStyledTextCtrl* volger);
 
     std::optional<kern::KnipMal> mal_;  ///< van de laatste knipbeurt

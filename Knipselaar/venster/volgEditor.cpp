@@ -18,6 +18,9 @@ void VolgEditor::koppel(VolgEditor& een, VolgEditor& ander) {
     for (VolgEditor* editor : {&een, &ander}) {
         editor->SetModEventMask(tekstverandering);
     }
+    // Zo komt ook de laatste regel van de kortste tekst bovenaan, naast dezelfde regel van de langste.
+    een.SetEndAtLastLine(false);
+    ander.SetEndAtLastLine(false);
 }
 
 bool VolgEditor::TryBefore(wxEvent& event) {
@@ -25,10 +28,19 @@ bool VolgEditor::TryBefore(wxEvent& event) {
         ++versie_;
     }
     if (event.GetEventType() == wxEVT_STC_PAINTED && partner_ != nullptr) {
-        if (!isVerschoven() && partner_->isVerschoven()) {
+        const kern::Schuifstand stand = geefStand();
+        gemeldeRegel_ = stand.bovenste;
+        if (!kern::magLeiden(stand, partner_->geefStand())) {
             return true;
         }
-        getekendeRegel_ = GetFirstVisibleLine();
     }
     return wxStyledTextCtrl::TryBefore(event);
+}
+
+kern::Schuifstand VolgEditor::geefStand() {
+    const int bovenste = GetFirstVisibleLine();
+    // De regel na de laatste begint waar alle regels ophouden, ook als ze afgebroken of gevouwen zijn.
+    const int regels = VisibleFromDocLine(GetLineCount());
+    return {
+        .bovenste = bovenste, .verschoven = bovenste != gemeldeRegel_, .aanEinde = bovenste + 1 >= regels};
 }

@@ -1,6 +1,9 @@
 // De batches op het gebouwde programma, met de muis in de keuzerondjes en toetsen in de kiezers.
 
 #include <algorithm>
+#include <iterator>
+#include <set>
+#include <sstream>
 
 #include "tests/eind/bediening.h"
 #include "tests/hulp/bestandsboom.h"
@@ -43,12 +46,43 @@ class Batch : public Bediening {
         druk("ctrl+f");
     }
 
+    /// Begint een run van bron_ naar doel_ die een paar seconden duurt, en wacht tot hij aan de gang is.
+    void beginLangeRun() {
+        for (int i = 0; i < lang; ++i) {
+            hulp::schrijfBestand(bron_ / (std::to_string(i) + ".c"), origineel);
+        }
+        start();
+        kiesModus(directoryY, bronY);
+        vulKiezer(bronY, bron_);
+        vulKiezer(doelY, doel_);
+        knip();
+        EXPECT_TRUE(hulp::wachtTot([this] { return !fs::is_empty(doel_); }));
+    }
+
+    static long tel(const fs::path& map) {
+        return std::distance(fs::directory_iterator(map), fs::directory_iterator());
+    }
+
+    /// Het nummer van het bezigvenster; leeg als het er niet is.
+    static std::string zoekBezigvenster() {
+        const std::string hoofd = voerUit({"xdotool", "search", "--onlyvisible", "--name", hoofdvenster});
+        std::istringstream alle(voerUit({"xdotool", "search", "--onlyvisible", "--class", "knipselaar"}));
+        std::string nummer;
+        while (std::getline(alle, nummer)) {
+            if (nummer + "\n" != hoofd) {
+                return nummer;
+            }
+        }
+        return "";
+    }
+
     void sluitAf() {
         druk("ctrl+q");
         EXPECT_EQ(0, wachtOpEinde());
         EXPECT_EQ("", fouten());
     }
 
+    static constexpr int lang = 15000;      ///< bestanden in een lange run
     static constexpr int directoryY = 453;  ///< "Alle bestanden in een directory"
     static constexpr int boomY = 475;       ///< "Alle bestanden recursief in een directory"
     static constexpr int bronY = 435;
@@ -123,6 +157,46 @@ TEST_F(Batch, MeldtEenLegeDirectory) {
     wachtTotWeg(melding);
     wachtOpVenster(hoofdvenster);
     sluitAf();
+}
+
+TEST_F(Batch, LaatZienHoeVerHijIs) {
+    beginLangeRun();
+    const std::string bezig = zoekBezigvenster();
+    ASSERT_NE("", bezig);
+    std::set<std::string> kiekjes;
+    EXPECT_TRUE(hulp::wachtTot([&] {
+        kiekjes.insert(kiekje(bezig));
+        return kiekjes.size() == 3;
+    })) << "de tekst van het begin, en twee keer een stand";
+    EXPECT_LT(tel(doel_), lang) << "de run moet nog bezig zijn";
+    for (const std::string& kleuren : kiekjes) {
+        EXPECT_NE(std::string::npos, kleuren.find_first_not_of(kleuren.front())) << "leeg";
+    }
+    EXPECT_TRUE(hulp::wachtTot([] { return zoekBezigvenster().empty(); }));
+    EXPECT_EQ(lang, tel(doel_));
+    sluitAf();
+}
+
+TEST_F(Batch, LaatVervallenWatErTijdensEenRunGedruktWordt) {
+    beginLangeRun();
+    // Alleen een tweede run brengt dit bestand terug.
+    const fs::path eerste = fs::directory_iterator(bron_)->path().filename();
+    ASSERT_TRUE(hulp::wachtTot([&] { return fs::exists(doel_ / eerste) && tel(doel_) > 1; }));
+    fs::remove(doel_ / eerste);
+    const std::string nummer = voerUit({"xdotool", "search", "--onlyvisible", "--name", hoofdvenster});
+    druk("ctrl+f");
+    voerUit({"xdotool", "mousemove", "--window", nummer.substr(0, nummer.find('\n')), "300", "563", "click",
+             "1", "mousemove_relative", "--", "-240", "-132", "click", "1"});
+    voerUit({"xdotool", "type", "x"});
+    druk("ctrl+q");
+    druk("alt+F4");
+    EXPECT_LT(tel(doel_), lang - 1) << "de run moet nog bezig zijn";
+    EXPECT_TRUE(hulp::wachtTot([] { return zoekBezigvenster().empty(); }));
+    EXPECT_FALSE(programma_->isAf());
+    sluitAf();
+    EXPECT_EQ(lang - 1, tel(doel_));
+    EXPECT_EQ("1", leesSleutel("Configuratie", "Verwerkingkeuze"));
+    EXPECT_EQ(doel_, leesSleutel("Configuratie", "AangepastPad"));
 }
 
 TEST_F(Batch, KniptEenBoomEnBewaartHetLogboek) {

@@ -242,6 +242,48 @@ TEST_F(Programma, SchuiftBeideEditorsMetHetWielVanElkVanBeide) {
     }
 }
 
+TEST_F(Programma, BereiktHetEindeVanEenOrigineelDatLangerIsDanZijnResultaat) {
+    // Alleen de laatste regels zijn zo lang dat ze tot in dit stuk van de linkereditor komen.
+    const char* eindeInBeeld = "100x230+200+42";
+    std::string tekst = "//**** Student Begin ****//\n";
+    for (int regel = 0; regel < 180; ++regel) {
+        tekst += regel == 90 ? "//**** Student Eind ****//\n" : "x\n";
+    }
+    for (int regel = 0; regel < 8; ++regel) {
+        tekst += "\n" + std::string(40, 'm');
+    }
+    const fs::path bron = omgeving_.werk() / "lang.c";
+    hulp::schrijfBestand(bron, tekst);
+    start();
+    druk("ctrl+o");
+    kiesPad(openDialoog, bron);
+    druk("ctrl+f");
+    // Wie teruggeduwd wordt, is er maar even.
+    const auto blijft = [&](bool inBeeld) {
+        return hulp::wachtTot([&] {
+            int keren = 0;
+            while (keren < 10 && isBruikbaar(eindeInBeeld) == inBeeld) {
+                ++keren;
+            }
+            return keren == 10;
+        });
+    };
+    klik(100, 150);
+    druk("ctrl+Home");
+    EXPECT_TRUE(blijft(false)) << "aan het begin";
+    druk("ctrl+End");
+    EXPECT_TRUE(blijft(true)) << "met de toetsen";
+    druk("ctrl+Home");
+    EXPECT_TRUE(blijft(false)) << "weer aan het begin";
+    const std::string nummer = wachtOpVenster(hoofdvenster);
+    voerUit({"xdotool", "mousemove", "--window", nummer, "100", "150", "click", "--repeat", "80", "--delay",
+             "10", "5"});
+    EXPECT_TRUE(blijft(true)) << "met het wiel";
+    druk("ctrl+q");
+    typPad(opslaanDialoog, omgeving_.werk() / "uit.c");
+    verwachtRustigEinde();
+}
+
 TEST_F(Programma, HoudtEenKlikOpDezelfdeModusVoorNiets) {
     start();
     const fs::path bron = neemVoorbeeld("ringbuffer.c");

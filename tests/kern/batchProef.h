@@ -47,9 +47,14 @@ class Opdracht : public kern::BatchOpdracht {
     }
     void meldAfloop(const kern::Afloop& afloop) override { aflopen.push_back(afloop); }
 
+    void meldVoortgang(std::size_t gedaan, std::size_t totaal) override {
+        voortgang += std::to_string(gedaan) + "/" + std::to_string(totaal) + " ";
+    }
+
     std::vector<std::string> gemeld;
     std::vector<kern::Overslag> overslagen;
     std::vector<kern::Afloop> aflopen;
+    std::string voortgang;
     std::function<void()> voorElkeKnip;
 
   private:

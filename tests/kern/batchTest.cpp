@@ -46,6 +46,21 @@ TEST_F(Lijst, IsLeegZonderDirectory) {
               hulp::neemBeweringen());
 }
 
+TEST_F(Vlak, MeldtVoorElkBestandHoeVerHijIs) {
+    hulp::maakBoom(boom_, {{"a.c", origineel}, {"b.txt", origineel}, {"c.c", origineel}});
+    const wxString doel = naarWx(tijdelijk_);
+    Opdracht opdracht;
+    kern::knipDirectory(naarWx(boom_), doel, {"a.c", "b.txt", "c.c"}, opdracht);
+    EXPECT_EQ("0/3 1/3 2/3 ", opdracht.voortgang);
+}
+
+TEST_F(Boomloop, MeldtVoorElkBestandHoeVerHijIs) {
+    hulp::maakBoom(boom_, {{"a.c", origineel}, {"b.txt", origineel}, {"sub/c.c", origineel}});
+    Opdracht opdracht;
+    knipBoom(opdracht);
+    EXPECT_EQ("0/3 1/3 2/3 ", opdracht.voortgang);
+}
+
 TEST_F(Lijst, GaatNietDoorLinksNaarDirectories) {
     hulp::maakBoom(map_ / "elders", {{"x.c", ""}});
     hulp::maakBoom(boom_, {{"a/b.c", ""},

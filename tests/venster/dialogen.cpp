@@ -43,13 +43,16 @@ class VerwachtBestandsdialoog : public wxExpectModalBase<wxFileDialog> {
 
 class VerwachtMelding : public wxExpectModalBase<wxMessageDialog> {
   public:
-    VerwachtMelding(int antwoord, Melding& gezien) : antwoord_(antwoord), gezien_(gezien) {}
+    VerwachtMelding(
+        int antwoord, Melding& gezien, std::function<void()> bijLezen = [] {})
+        : antwoord_(antwoord), gezien_(gezien), bijLezen_(std::move(bijLezen)) {}
 
   protected:
     int OnInvoked(wxMessageDialog* dialoog) const override {
         gezien_ = {dialoog->GetMessage().utf8_string(), dialoog->GetCaption().utf8_string(),
                    dialoog->GetMessageDialogStyle(), dialoog->GetParent(),
                    vindBezigVenster(dialoog->GetParent())};
+        bijLezen_();
         return antwoord_;
     }
 
@@ -68,6 +71,7 @@ class VerwachtMelding : public wxExpectModalBase<wxMessageDialog> {
 
     int antwoord_;
     Melding& gezien_;
+    std::function<void()> bijLezen_;
 };
 
 void voerUit(const wxModalExpectation& verwachting, const std::function<void()>& handeling) {
@@ -89,6 +93,20 @@ Melding beantwoordMelding(int antwoord, const std::function<void()>& handeling) 
     Melding gezien;
     voerUit(VerwachtMelding(antwoord, gezien), handeling);
     return gezien;
+}
+
+Melding beantwoordDialoogEnMelding(const wxString& keuze, const std::function<void()>& bijLezen,
+                                   const std::function<void()>& handeling) {
+    Bestandsdialoog dialoog;
+    Melding melding;
+    const VerwachtBestandsdialoog eerst(keuze, dialoog);
+    const VerwachtMelding dan(wxID_OK, melding, bijLezen);
+    Haak haak;
+    haak.AddExpectation(eerst);
+    haak.AddExpectation(dan);
+    handeling();
+    haak.CheckUnmetExpectations();
+    return melding;
 }
 
 void zonderDialoog(const std::function<void()>& handeling) {

@@ -37,5 +37,11 @@ struct Melding {
 /// @param antwoord  de knop die de gebruiker kiest, zoals wxID_YES.
 Melding beantwoordMelding(int antwoord, const std::function<void()>& handeling);
 
+/// Voert een handeling uit waarbij eerst een bestandsdialoog verschijnt en dan een melding.
+/// @param keuze      pad dat de gebruiker kiest.
+/// @param bijLezen   wordt aangeroepen als de melding er staat.
+Melding beantwoordDialoogEnMelding(const wxString& keuze, const std::function<void()>& bijLezen,
+                                   const std::function<void()>& handeling);
+
 /// Voert een handeling uit waarbij geen enkele dialoog mag verschijnen.
 void zonderDialoog(const std::function<void()>& handeling);

@@ -179,6 +179,24 @@ TEST_F(KnipOpdracht, SlaatEerstOpBijAfsluiten) {
     EXPECT_EQ("een\n", hulp::leesBestand(doel));
 }
 
+TEST_F(KnipOpdracht, MeldtVoorHetSluitenDatOpslaanNietLukt) {
+    knip("een\n");
+    bool gesloten = false;
+    venster_->Bind(wxEVT_CLOSE_WINDOW, [&gesloten](wxCloseEvent& event) {
+        gesloten = true;
+        event.Veto();
+    });
+    // Hier kan ook root geen bestand maken.
+    const wxString doel = "/proc/uit.c";
+    const auto melding = beantwoordDialoogEnMelding(
+        doel, [&gesloten] { EXPECT_FALSE(gesloten) << "het venster staat er nog"; },
+        [this] { geefOpdracht(wxID_EXIT); });
+    EXPECT_NE(std::string::npos, melding.tekst.find(doel)) << melding.tekst;
+    EXPECT_EQ(wxICON_ERROR, melding.stijl & wxICON_MASK);
+    EXPECT_TRUE(gesloten);
+    EXPECT_EQ("een\n", tekstVan(aangepast()));
+}
+
 TEST_F(KnipOpdracht, SlaatNietsOpInEenBatchmodus) {
     kiesModus(1);
     aangepast()->SetText("log");
