@@ -5,6 +5,9 @@
 namespace kern {
 
 wxString breekAf(const wxString& regel, const std::function<bool(const wxString&)>& past) {
+    if (past(regel)) {
+        return regel;
+    }
     wxString gereed;
     wxString deel;
     for (const wxString& woord : wxSplit(regel, ' ', '\0')) {

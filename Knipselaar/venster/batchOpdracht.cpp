@@ -36,12 +36,33 @@ class Schuifrust {
     wxStyledTextCtrl& editor_;
 };
 
-/// Zet bijschriften onder de laatste regel van een logboek. Achter haar regeleinde begint al de volgende.
-void zetOnderLaatsteRegel(wxStyledTextCtrl& log, const std::vector<kern::Bijschrift>& bijschriften) {
-    if (!bijschriften.empty()) {
-        merken::zetBijschriften(log, log.GetLineCount() - 2, bijschriften);
+/// Een editor als logboek.
+class Logboek {
+  public:
+    explicit Logboek(wxStyledTextCtrl& editor) : editor_(editor), bijschrijver_(editor), rust_(editor) {}
+
+    wxStyledTextCtrl& geefEditor() { return editor_; }
+
+    void voegToe(const wxString& regel) { editor_.AppendText(regel); }
+
+    /// Zet bijschriften onder de laatste regel. Achter haar regeleinde begint al de volgende.
+    void schrijfBij(const std::vector<kern::Bijschrift>& bijschriften) {
+        if (!bijschriften.empty()) {
+            bijschrijver_.zet(editor_.GetLineCount() - 2, bijschriften);
+        }
     }
-}
+
+    /// Zet een bijschrift onder het geheel, en laat alle bijschriften zien.
+    void sluitAf(const kern::Bijschrift& samenvatting) {
+        bijschrijver_.zet(editor_.GetLineCount() - 1, {samenvatting});
+        merken::toonBijschriften(editor_, true);
+    }
+
+  private:
+    wxStyledTextCtrl& editor_;
+    merken::Bijschrijver bijschrijver_;
+    Schuifrust rust_;
+};
 
 /// Knipt voor een venster: leest zijn bediening bij elk bestand opnieuw en schrijft in zijn editors.
 class VensterBatch : public kern::BatchOpdracht {
@@ -53,8 +74,6 @@ class VensterBatch : public kern::BatchOpdracht {
           bestandType_(bestandType),
           bronLog_(bronLog),
           doelLog_(doelLog),
-          bronRust_(bronLog),
-          doelRust_(doelLog),
           knip_(std::move(knip)) {}
 
     bool isGekozen(const wxFileName& bestand) override {
@@ -66,28 +85,27 @@ class VensterBatch : public kern::BatchOpdracht {
     }
 
     void meldOvergeslagen(long nummer, const wxFileName& bestand, kern::Overslag reden) override {
-        bronLog_.AppendText(kern::regelOvergeslagen(nummer, bestand.GetFullPath()));
-        zetOnderLaatsteRegel(bronLog_, kern::beschrijfOverslag(reden));
+        bronLog_.voegToe(kern::regelOvergeslagen(nummer, bestand.GetFullPath()));
+        bronLog_.schrijfBij(kern::beschrijfOverslag(reden));
         telling_.neemOvergeslagen();
     }
 
     void meldVerwerkt(long nummer, const wxFileName& bron, const wxFileName& bestemming) override {
-        bronLog_.AppendText(kern::regelOrigineel(nummer, bron.GetFullName()));
-        doelLog_.AppendText(kern::regelStudent(nummer, bestemming.GetFullName()));
+        bronLog_.voegToe(kern::regelOrigineel(nummer, bron.GetFullName()));
+        doelLog_.voegToe(kern::regelStudent(nummer, bestemming.GetFullName()));
     }
 
     void meldAfloop(const kern::Afloop& afloop) override {
         const kern::BatchBijschriften bijschriften = kern::beschrijfAfloop(afloop);
-        zetOnderLaatsteRegel(bronLog_, bijschriften.bron);
-        zetOnderLaatsteRegel(doelLog_, bijschriften.bestemming);
+        bronLog_.schrijfBij(bijschriften.bron);
+        doelLog_.schrijfBij(bijschriften.bestemming);
         telling_.neem(afloop);
     }
 
     /// Zet onder beide logboeken wat er van de batch kwam, en laat zien wat er onder hun regels staat.
     void vatSamen() {
-        for (wxStyledTextCtrl* log : {&bronLog_, &doelLog_}) {
-            merken::zetBijschriften(*log, log->GetLineCount() - 1, {telling_.geefSamenvatting()});
-            merken::toonBijschriften(*log, true);
+        for (Logboek* log : {&bronLog_, &doelLog_}) {
+            log->sluitAf(telling_.geefSamenvatting());
         }
     }
 
@@ -96,12 +114,10 @@ class VensterBatch : public kern::BatchOpdracht {
   protected:
     BezigVenster& bezig_;
     const wxChoice& bestandType_;
-    wxStyledTextCtrl& bronLog_;
-    wxStyledTextCtrl& doelLog_;
+    Logboek bronLog_;
+    Logboek doelLog_;
 
   private:
-    Schuifrust bronRust_;
-    Schuifrust doelRust_;
     std::function<kern::KnipUitslag(const wxFileName&, const wxFileName&)> knip_;
     kern::BatchTelling telling_;
 };
@@ -112,14 +128,14 @@ class TerPlaatseBatch : public VensterBatch {
     using VensterBatch::VensterBatch;
 
     void meldOvergeslagen(long nummer, const wxFileName& bestand, kern::Overslag reden) override {
-        bronLog_.SetBackgroundColour(wxColour("RED"));
+        bronLog_.geefEditor().SetBackgroundColour(wxColour("RED"));
         VensterBatch::meldOvergeslagen(nummer, bestand, reden);
     }
 
     void meldVerwerkt(long nummer, const wxFileName& bron, const wxFileName& bestemming) override {
-        bronLog_.SetForegroundColour(wxColour("BLUE"));
-        bronLog_.AppendText(kern::regelOrigineel(nummer, bron.GetFullPath()));
-        doelLog_.AppendText(kern::regelStudent(nummer, bestemming.GetFullPath()));
+        bronLog_.geefEditor().SetForegroundColour(wxColour("BLUE"));
+        bronLog_.voegToe(kern::regelOrigineel(nummer, bron.GetFullPath()));
+        doelLog_.voegToe(kern::regelStudent(nummer, bestemming.GetFullPath()));
     }
 };
 

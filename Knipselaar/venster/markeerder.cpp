@@ -135,15 +135,16 @@ void Markeerder::meldVeroudering() {
     // Wie boven de eerste regel iets typt schuift het bijschrift mee naar beneden.
     if (bijschriften.empty() || bijschriften != merken::leesBijschriften(aangepast_, 0)) {
         aangepast_.AnnotationClearAll();
-        merken::zetBijschriften(aangepast_, 0, bijschriften);
+        merken::Bijschrijver(aangepast_).zet(0, bijschriften);
     }
     merken::toonBijschriften(aangepast_, !bijschriften.empty());
 }
 
 void Markeerder::schrijfVerderBij() {
     const int aantal = heeftBijschriften_ || !bevindingen_.empty() ? origineel_.GetLineCount() : 0;
+    merken::Bijschrijver bijschrijver(origineel_);
     for (int teller = 0; teller < regelStuk && bijgeschreven_ < aantal; ++teller, ++bijgeschreven_) {
-        schrijfBij(bijgeschreven_);
+        schrijfBij(bijgeschreven_, bijschrijver);
     }
     if (bijgeschreven_ == aantal) {
         heeftBijschriften_ = !bevindingen_.empty();
@@ -152,7 +153,7 @@ void Markeerder::schrijfVerderBij() {
     }
 }
 
-void Markeerder::schrijfBij(int regel) {
+void Markeerder::schrijfBij(int regel, merken::Bijschrijver& bijschrijver) {
     std::vector<kern::Bijschrift> bijschriften;
     const auto nummer = static_cast<std::size_t>(regel) + 1;
     for (; bevinding_ < bevindingen_.size() && bevindingen_[bevinding_].regel == nummer; ++bevinding_) {
@@ -160,7 +161,7 @@ void Markeerder::schrijfBij(int regel) {
     }
     const bool heeft = origineel_.AnnotationGetLines(regel) > 0;
     if ((heeft || !bijschriften.empty()) && bijschriften != merken::leesBijschriften(origineel_, regel)) {
-        merken::zetBijschriften(origineel_, regel, bijschriften);
+        bijschrijver.zet(regel, bijschriften);
         heeftBijschriften_ = true;
     }
 }

@@ -18,6 +18,9 @@
 
 class VolgEditor;
 class wxStyledTextCtrl;
+namespace merken {
+class Bijschrijver;
+}
 
 class Markeerder {
   public:
@@ -70,7 +73,7 @@ class Markeerder {
     void sluitOntledingAf();
     void meldVeroudering();
     void schrijfVerderBij();
-    void schrijfBij(int regel);
+    void schrijfBij(int regel, merken::Bijschrijver& bijschrijver);
     static std::optional<Regels> kiesRegels(wxStyledTextCtrl& editor, std::optional<Regels>& gemerkt);
     void merkOrigineel(const Regels& regels);
     void merkAangepast(const Regels& regels);

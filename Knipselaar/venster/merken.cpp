@@ -72,16 +72,14 @@ void zetRegelmerken(wxStyledTextCtrl& editor, int regel, int merk) {
     }
 }
 
-/// De breedte die een bijschrift onder een regel heeft. Het springt in zoals de regel, en er staat een kader
-/// omheen.
-int geefBreedte(wxStyledTextCtrl& editor, int regel) {
+/// De breedte die een bijschrift onder een regel zonder inspringing heeft; er staat een kader omheen.
+int geefBreedte(wxStyledTextCtrl& editor) {
     constexpr int marges = 3;
-    const wxString inspringing(' ', static_cast<std::size_t>(editor.GetLineIndentation(regel)));
-    int breedte = editor.GetClientSize().x - editor.TextWidth(wxSTC_STYLE_DEFAULT, inspringing + "mmm");
+    int breedte = editor.GetClientSize().x - editor.TextWidth(eersteStijl, "mmm");
     for (int marge = 0; marge < marges; ++marge) {
         breedte -= editor.GetMarginWidth(marge);
     }
-    return std::max(breedte, editor.TextWidth(eersteStijl, wxString('m', 12)));
+    return breedte;
 }
 
 }  // namespace
@@ -183,24 +181,34 @@ void merkVervangregel(wxStyledTextCtrl& editor, int regel) {
     zetRegelmerken(editor, regel, heel ? vervanging : geen);
 }
 
-void zetBijschriften(wxStyledTextCtrl& editor, int regel, const std::vector<kern::Bijschrift>& bijschriften) {
+Bijschrijver::Bijschrijver(wxStyledTextCtrl& editor)
+    : editor_(editor), breedte_(geefBreedte(editor)), spatie_(editor.TextWidth(wxSTC_STYLE_DEFAULT, " ")) {}
+
+void Bijschrijver::zet(int regel, const std::vector<kern::Bijschrift>& bijschriften) {
     if (bijschriften.empty()) {
-        editor.AnnotationClearLine(regel);
+        editor_.AnnotationClearLine(regel);
         return;
     }
-    const int breedte = geefBreedte(editor, regel);
+    const int inspringing = editor_.GetLineIndentation(regel);
     wxString tekst;
     std::string stijlen;
     for (const kern::Bijschrift& bijschrift : bijschriften) {
-        const int ernst = static_cast<int>(bijschrift.ernst);
-        const auto past = [&editor, ernst, breedte](const wxString& deel) {
-            return editor.TextWidth(eersteStijl + ernst, deel) <= breedte;
-        };
-        tekst += (tekst.empty() ? "" : "\n") + kern::breekAf(bijschrift.tekst, past);
-        stijlen.resize(tekst.utf8_str().length(), static_cast<char>(1 + ernst));
+        tekst += (tekst.empty() ? "" : "\n") + breekAf(bijschrift.tekst, inspringing);
+        stijlen.resize(tekst.utf8_str().length(), static_cast<char>(1 + static_cast<int>(bijschrift.ernst)));
     }
-    editor.AnnotationSetText(regel, tekst);
-    editor.AnnotationSetStyles(regel, stijlen);
+    editor_.AnnotationSetText(regel, tekst);
+    editor_.AnnotationSetStyles(regel, stijlen);
+}
+
+/// Een bijschrift springt in zoals zijn regel, en heeft in elke ernst hetzelfde lettertype.
+const wxString& Bijschrijver::breekAf(const wxString& tekst, int inspringing) {
+    const auto [plaats, nieuw] = afgebroken_.try_emplace({inspringing, tekst});
+    if (nieuw) {
+        plaats->second = kern::breekAf(tekst, [this, inspringing](const wxString& deel) {
+            return editor_.TextWidth(eersteStijl, deel) <= breedte_ - inspringing * spatie_;
+        });
+    }
+    return plaats->second;
 }
 
 std::vector<kern::Bijschrift> leesBijschriften(const wxStyledTextCtrl& editor, int regel) {
@@ -215,9 +223,10 @@ std::vector<kern::Bijschrift> leesBijschriften(const wxStyledTextCtrl& editor, i
 }
 
 void breekOpnieuwAf(wxStyledTextCtrl& editor) {
+    Bijschrijver bijschrijver(editor);
     for (int regel = 0; regel < editor.GetLineCount(); ++regel) {
         if (editor.AnnotationGetLines(regel) > 0) {
-            zetBijschriften(editor, regel, leesBijschriften(editor, regel));
+            bijschrijver.zet(regel, leesBijschriften(editor, regel));
         }
     }
 }

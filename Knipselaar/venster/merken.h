@@ -6,7 +6,9 @@
 #include <wx/colour.h>
 
 #include <array>
+#include <map>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "Knipselaar/kern/bevindingTekst.h"
@@ -66,10 +68,24 @@ void kleurVervanging(wxStyledTextCtrl& editor, std::string_view tekst, const ker
 /// @param regel  vanaf 0.
 void merkVervangregel(wxStyledTextCtrl& editor, int regel);
 
-/// Zet bijschriften onder een regel in plaats van wat er stond; zonder bijschriften komt er niets. Lange
-/// regels worden afgebroken op de breedte van de editor.
-/// @param regel  vanaf 0.
-void zetBijschriften(wxStyledTextCtrl& editor, int regel, const std::vector<kern::Bijschrift>& bijschriften);
+/// Zet bijschriften onder regels, afgebroken op de breedte die de editor nu heeft. Dezelfde tekst komt vaak
+/// terug; hoe breed zij is wordt maar één keer gemeten. Leeft korter dan de editor.
+class Bijschrijver {
+  public:
+    explicit Bijschrijver(wxStyledTextCtrl& editor);
+
+    /// Zet bijschriften onder een regel in plaats van wat er stond; zonder bijschriften komt er niets.
+    /// @param regel  vanaf 0.
+    void zet(int regel, const std::vector<kern::Bijschrift>& bijschriften);
+
+  private:
+    const wxString& breekAf(const wxString& tekst, int inspringing);
+
+    wxStyledTextCtrl& editor_;
+    int breedte_;
+    int spatie_;
+    std::map<std::pair<int, wxString>, wxString> afgebroken_;  ///< naar inspringing en tekst
+};
 
 /// Wat er onder een regel staat, zonder afbrekingen.
 std::vector<kern::Bijschrift> leesBijschriften(const wxStyledTextCtrl& editor, int regel);

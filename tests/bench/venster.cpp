@@ -68,6 +68,14 @@ void meetBatch(ParserVenster& venster, int modus, const std::vector<std::string>
 void meetAlles(const std::vector<std::string>& woorden) {
     auto& venster = *dynamic_cast<ParserVenster*>(wxTheApp->GetTopWindow());
     laatLopenTot([&venster] { return venster.IsShownOnScreen(); });
+    // Een gebruiker begint niet voordat het venster er getekend staat.
+    bool getekend = false;
+    (venster.*&Inzage::origineelEditor)->Bind(wxEVT_STC_PAINTED, [&getekend](wxStyledTextEvent& event) {
+        getekend = true;
+        event.Skip();
+    });
+    laatLopenTot([&getekend] { return getekend; });
+    laatLopen();
     if (woorden[0] == "editor") {
         meetEditor(venster, woorden[1]);
     } else if (woorden[0] == "merken") {
