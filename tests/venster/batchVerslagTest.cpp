@@ -333,6 +333,21 @@ TEST_F(BatchVerslag, VerdwijntBijDeVolgendeBatch) {
         << "ook als er niets te knippen valt";
 }
 
+TEST_F(BatchVerslag, VerdwijntOokUitEenLogboekZonderTekst) {
+    knipBoom();
+    kiesModus(2);
+    verwachtZonderBijschriften();
+    kiesModus(2);
+    knipBoom();
+    hulp::maakBoom(doel_, {{"a.c", metBlok}});
+    geefOpdracht(wxID_REPLACE);
+    const std::string samenvatting =
+        "^ opmerking | 1 bestand geknipt met 1 blok, 0 zonder enig blok, 0 overgeslagen, 0 mislukt";
+    verwacht({"In totaal 1 bestanden en directories gevonden in " + doelPad() + "\n",
+              "Orig bestand 1:" + doelPad() + "/a.c\n", "", samenvatting},
+             {"Student bestand 1:" + doelPad() + "/a.c\n", "", samenvatting});
+}
+
 TEST_F(BatchVerslag, BlijftHetzelfdeAlsHetVensterSmallerWordt) {
     maakMengsel();
     knipDirectory();
