@@ -69,7 +69,9 @@ Afloop knipTerPlaatse(const wxFileName& bestand, const std::string& echt, TerPla
     afloop.terPlaatse = true;
     afloop.tijdelijkReden = terPlaatse.geefReden();
     afloop.knip = opdracht.knip(bestand, terPlaatse.geefTijdelijk());
-    if (afloop.knip.isGelukt() && !echt.empty() && !terPlaatse.vervang(echt)) {
+    if (afloop.knip.isGelukt() && echt.empty()) {
+        afloop.vervangReden = "was eerst niet te vinden";
+    } else if (afloop.knip.isGelukt() && !terPlaatse.vervang(echt)) {
         afloop.vervangReden = terPlaatse.geefReden();
     }
     return afloop;

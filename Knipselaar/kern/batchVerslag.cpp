@@ -48,18 +48,23 @@ wxString noemOnheel(const Afloop& afloop) {
     return afloop.terPlaatse ? "niet geknipt: niet te lezen" : "niet heel: de bron is niet te lezen";
 }
 
+/// Hoeveel fouten er in de markers zijn; waarschuwingen tellen niet mee.
+std::size_t telFouten(const Bevindingen& bevindingen) {
+    const auto genoemd = std::count_if(bevindingen.lijst.begin(), bevindingen.lijst.end(),
+                                       [](const Bevinding& bevinding) { return isFout(bevinding.soort); });
+    return static_cast<std::size_t>(genoemd) + bevindingen.verzwegenFouten;
+}
+
 void beschrijfMarkers(const Bevindingen& bevindingen, BatchBijschriften& bijschriften) {
-    std::size_t fouten = 0;
     for (const Bevinding& bevinding : bevindingen.lijst) {
         bijschriften.bron.push_back(beschrijfMetRegel(bevinding));
-        fouten += bijschriften.bron.back().ernst == Ernst::fout ? 1 : 0;
     }
     if (bevindingen.verzwegen > 0) {
-        bijschriften.bron.push_back(maakBijschrift(
-            Ernst::fout, wxString::Format("en nog %zu keer iets met de markers", bevindingen.verzwegen)));
-        fouten += bevindingen.verzwegen;
+        bijschriften.bron.push_back(
+            maakBijschrift(bevindingen.verzwegenFouten > 0 ? Ernst::fout : Ernst::waarschuwing,
+                           wxString::Format("en nog %zu keer iets met de markers", bevindingen.verzwegen)));
     }
-    if (fouten > 0) {
+    if (const std::size_t fouten = telFouten(bevindingen); fouten > 0) {
         bijschriften.bestemming.push_back(
             maakBijschrift(Ernst::fout, telWoord(fouten, "fout", "fouten") + " in de markers; zie links"));
     }
@@ -110,10 +115,7 @@ void BatchTelling::neem(const Afloop& afloop) {
         ++geknipt_;
         blokken_ += bevindingen.blokken;
     }
-    markerFout_ =
-        markerFout_ || bevindingen.verzwegen > 0 ||
-        std::any_of(bevindingen.lijst.begin(), bevindingen.lijst.end(),
-                    [](const Bevinding& bevinding) { return geefErnst(bevinding.soort) == Ernst::fout; });
+    markerFout_ = markerFout_ || telFouten(bevindingen) > 0;
 }
 
 Bijschrift BatchTelling::geefSamenvatting() const {

@@ -22,28 +22,44 @@ enum class Inhoud { houden, legen };
 /// Een bestand dat openging, of waarom niet.
 struct Opening {
     int bestand = geenBestand;
-    bool bestaat = true;  ///< er staat een gewoon bestand, ook als het niet openging
     std::string reden;
 };
 
+constexpr const char* nietGewoon = "is geen gewoon bestand";
+
 /// Bij een directory heeft de gebruiker geen verkeerde naam gegeven; de naam komt van de bron.
 std::string noemOpenReden(int foutnummer) {
-    return foutnummer == EISDIR ? "is een directory" : noemReden(foutnummer);
+    switch (foutnummer) {
+        case EISDIR:
+            return "is een directory";
+        case ENXIO:  // een pijp waar niemand uit leest, of een socket
+            return nietGewoon;
+        case EEXIST:
+            return "is een link die nergens heen wijst";
+        default:
+            return noemReden(foutnummer);
+    }
+}
+
+/// Of er een gewoon bestand kan staan. Wie er niet bij mag kan het niet weten.
+bool kanGewoonBestandZijn(const wxString& pad) {
+    struct stat gegevens {};
+    return stat(pad.fn_str(), &gegevens) == 0 ? S_ISREG(gegevens.st_mode) : errno == EACCES;
 }
 
 /// Houdt alleen een gewoon bestand open, zo nodig geleegd; al het andere gaat meteen weer dicht.
 Opening houdGewoonBestand(int bestand, Inhoud inhoud) {
     struct stat gegevens {};
     if (bestand == geenBestand || fstat(bestand, &gegevens) != 0) {
-        return {.bestaat = errno != ENOENT && errno != EISDIR, .reden = noemOpenReden(errno)};
+        return {.reden = noemOpenReden(errno)};
     }
     const bool gewoon = S_ISREG(gegevens.st_mode);
     if (gewoon && (inhoud == Inhoud::houden || gegevens.st_size == 0 || ftruncate(bestand, 0) == 0)) {
-        return {.bestand = bestand, .bestaat = true, .reden = {}};
+        return {.bestand = bestand, .reden = {}};
     }
-    std::string reden = gewoon ? noemReden(errno) : "is geen gewoon bestand";
+    std::string reden = gewoon ? noemReden(errno) : nietGewoon;
     close(bestand);
-    return {.bestaat = gewoon, .reden = std::move(reden)};
+    return {.reden = std::move(reden)};
 }
 
 // O_NONBLOCK: op een pijp zonder tegenpartij zou open anders voor altijd wachten. Voor gewone bestanden
@@ -90,7 +106,7 @@ KnipUitslag knipBestand(const wxFileName& bron, const wxFileName& doel, const Kn
         uitslag = knipStroom(origStroom, uitStroom, mal, nakijken);
     }
     uitslag.doelHeelGeschreven = uitStroom.Close() && uitslag.doelHeelGeschreven;
-    uitslag.bronBestaat = vanBron.bestaat;
+    uitslag.bronBestaat = vanBron.bestand != geenBestand || kanGewoonBestandZijn(bron.GetFullPath());
     uitslag.bronReden = std::move(vanBron.reden);
     uitslag.doelReden = std::move(vanDoel.reden);
     vulReden(uitslag.bronHeelGelezen, *origStroom.GetFile(), uitslag.bronReden);

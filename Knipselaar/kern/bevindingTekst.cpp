@@ -58,16 +58,7 @@ Bijschrift maakBijschrift(Ernst ernst, const wxString& tekst) {
 }
 
 Ernst geefErnst(Soort soort) {
-    switch (soort) {
-        case Soort::geenBlok:
-        case Soort::leegBlok:
-        case Soort::bijnaBegin:
-        case Soort::bijnaEind:
-        case Soort::anderBeginInBlok:
-            return Ernst::waarschuwing;
-        default:
-            return Ernst::fout;
-    }
+    return isFout(soort) ? Ernst::fout : Ernst::waarschuwing;
 }
 
 Bijschrift beschrijf(const Bevinding& bevinding) {

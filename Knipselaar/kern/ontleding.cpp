@@ -4,6 +4,19 @@
 
 namespace kern {
 
+bool isFout(Soort soort) {
+    switch (soort) {
+        case Soort::geenBlok:
+        case Soort::leegBlok:
+        case Soort::bijnaBegin:
+        case Soort::bijnaEind:
+        case Soort::anderBeginInBlok:
+            return false;
+        default:
+            return true;
+    }
+}
+
 Ontleder::Ontleder(const MarkerReeks& reeks, OpBlok opBlok, std::size_t hoogstens)
     : reeks_(reeks), opBlok_(std::move(opBlok)), hoogstens_(hoogstens) {}
 
@@ -153,6 +166,7 @@ void Ontleder::meld(std::size_t regel, Soort soort) {
         uitslag_.lijst.push_back({.regel = regel, .soort = soort, .blokBegin = blokBegin});
     } else {
         ++uitslag_.verzwegen;
+        uitslag_.verzwegenFouten += isFout(soort) ? 1 : 0;
     }
 }
 

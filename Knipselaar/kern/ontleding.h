@@ -43,6 +43,9 @@ enum class Soort {
     bijnaEind               ///< bijna een eindmarker, maar niet helemaal
 };
 
+/// Of de markers hier iets anders doen dan wie ze schreef bedoeld kan hebben; anders is het een waarschuwing.
+bool isFout(Soort soort);
+
 struct Bevinding {
     std::size_t regel;  ///< vanaf 1
     Soort soort;
@@ -54,10 +57,11 @@ struct Bevinding {
 
 /// Wat er na afloop over een tekst te zeggen is.
 struct Bevindingen {
-    std::vector<Bevinding> lijst;  ///< in de volgorde van hun regels
-    std::size_t verzwegen = 0;     ///< hoeveel er niet meer in de lijst pasten
-    std::size_t blokken = 0;       ///< ook een blok dat niet eindigt telt mee
-    std::size_t open = 0;          ///< de regel waar een blok begint dat niet eindigt, of 0
+    std::vector<Bevinding> lijst;     ///< in de volgorde van hun regels
+    std::size_t verzwegen = 0;        ///< hoeveel er niet meer in de lijst pasten
+    std::size_t verzwegenFouten = 0;  ///< hoeveel daarvan een fout zijn
+    std::size_t blokken = 0;          ///< ook een blok dat niet eindigt telt mee
+    std::size_t open = 0;             ///< de regel waar een blok begint dat niet eindigt, of 0
 };
 
 /// Ontleedt een tekst die in stukken komt. Houdt zelf alleen vast wat er te melden is.
@@ -69,7 +73,8 @@ class Ontleder {
 
     /// @param reeks      moet langer leven en minstens één paar hebben.
     /// @param opBlok     krijgt elk afgesloten blok, op volgorde.
-    /// @param hoogstens  zoveel bevindingen worden bewaard; de rest wordt alleen geteld.
+    /// @param hoogstens  zoveel bevindingen worden bewaard; de rest wordt alleen geteld. Een blok dat niet
+    ///                   eindigt en wat over de hele tekst gaat komen er altijd bij.
     explicit Ontleder(
         const MarkerReeks& reeks, OpBlok opBlok = [](const Blok&) {}, std::size_t hoogstens = onbeperkt);
 

@@ -26,7 +26,7 @@ struct KnipUitslag {
 };
 
 /// Of een knipbeurt ook nagaat hoeveel blokken er zijn en wat er aan de markers niet klopt. Zij bewaart dan
-/// hoogstens zoveel bevindingen als grootsteAantalBevindingen.
+/// hoogstens zoveel bevindingen als grootsteAantalBevindingen, zoals een Ontleder dat doet.
 enum class Nakijken { nee, ja };
 inline constexpr std::size_t grootsteAantalBevindingen = 100;
 

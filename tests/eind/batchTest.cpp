@@ -1,6 +1,9 @@
 // De batches op het gebouwde programma, met de muis in de keuzerondjes en toetsen in de kiezers.
 
+#include <unistd.h>
+
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
 #include <set>
 #include <sstream>
@@ -76,6 +79,24 @@ class Batch : public Bediening {
         return "";
     }
 
+    /// Laat een bestand of directory niet aan de gebruiker van het programma, ook als dat root is. Te doen na
+    /// het starten, want dan krijgt hij alles.
+    static void weiger(const fs::path& pad, fs::perms rechten) {
+        fs::permissions(pad, rechten);
+        if (geteuid() == 0) {
+            EXPECT_EQ(0, chown(pad.c_str(), 0, 0));
+        }
+    }
+
+    /// Slaat het logboek op; daarna is de batch zeker klaar.
+    std::string bewaarLogboek() {
+        wachtOpVenster(hoofdvenster);
+        druk("ctrl+s");
+        const fs::path log = omgeving_.werk() / "log";
+        kiesPad(opslaanDialoog, log);
+        return hulp::leesBestand(log);
+    }
+
     void sluitAf() {
         druk("ctrl+q");
         EXPECT_EQ(0, wachtOpEinde());
@@ -83,6 +104,9 @@ class Batch : public Bediening {
     }
 
     static constexpr int lang = 15000;      ///< bestanden in een lange run
+    /// Te lezen voor iedereen, te veranderen door niemand.
+    static constexpr fs::perms alleenLezen =
+        fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read | fs::perms::others_exec;
     static constexpr int directoryY = 453;  ///< "Alle bestanden in een directory"
     static constexpr int boomY = 475;       ///< "Alle bestanden recursief in een directory"
     static constexpr int bronY = 435;
@@ -207,12 +231,59 @@ TEST_F(Batch, KniptEenBoomEnBewaartHetLogboek) {
     knip();
     const hulp::Boom verwacht{{"sub", "/"}, {"sub/a.c", geknipt}, {"x.txt", origineel}};
     EXPECT_TRUE(hulp::wachtTot([&] { return hulp::isBoom(doel_, verwacht); }));
-    wachtOpVenster(hoofdvenster);
-    druk("ctrl+s");
-    const fs::path log = omgeving_.werk() / "log";
-    kiesPad(opslaanDialoog, log);
-    EXPECT_EQ("Student bestand 1:" + (doel_ / "sub/a.c").string() + "\n", hulp::leesBestand(log));
+    EXPECT_EQ("Student bestand 1:" + (doel_ / "sub/a.c").string() + "\n", bewaarLogboek());
     sluitAf();
     EXPECT_EQ("2", leesSleutel("Configuratie", "Verwerkingkeuze"));
     EXPECT_EQ(omgeving_.thuis(), leesSleutel("Configuratie", "OrigineelPad"));
+}
+
+TEST_F(Batch, LaatEenGewoneGebruikerEenDirectoryKnippenWaarHijNietOveralBijMag) {
+    hulp::maakBoom(bron_, {{"a.c", origineel}, {"b.c", origineel}, {"dicht.c", origineel}});
+    hulp::maakBoom(doel_, {{"a.c", "was er al"}});
+    startAlsGewoneGebruiker();
+    weiger(bron_ / "dicht.c", fs::perms::none);
+    weiger(doel_, alleenLezen);
+    kiesModus(directoryY, bronY);
+    vulKiezer(bronY, bron_);
+    vulKiezer(doelY, doel_);
+    knip();
+    EXPECT_TRUE(hulp::wachtTot([this] { return hulp::leesBestand(doel_ / "a.c") == geknipt; }));
+    std::string log = "Student dir : " + doel_.string() + "\n";
+    int nummer = 1;
+    for (const std::string& naam : hulp::somOp(bron_)) {
+        log += "Student bestand " + std::to_string(nummer++) + ":" + naam + "\n";
+    }
+    EXPECT_EQ(log, bewaarLogboek());
+    sluitAf();
+    EXPECT_EQ((hulp::Boom{{"a.c", geknipt}}), hulp::leesBoom(doel_));
+    fs::permissions(bron_ / "dicht.c", fs::perms::owner_all);
+    fs::permissions(doel_, fs::perms::owner_all);
+    EXPECT_EQ((hulp::Boom{{"a.c", origineel}, {"b.c", origineel}, {"dicht.c", origineel}}),
+              hulp::leesBoom(bron_));
+}
+
+TEST_F(Batch, LaatTerPlaatseStaanWaarEenGewoneGebruikerNietBijMag) {
+    hulp::maakBoom(doel_, {{"open.c", origineel}, {"dicht.c", origineel}, {"vast/c.c", origineel}});
+    startAlsGewoneGebruiker();
+    weiger(doel_ / "dicht.c", fs::perms::none);
+    weiger(doel_ / "vast", alleenLezen);
+    kiesModus(boomY, doelY);
+    vulKiezer(doelY, doel_);
+    knip();
+    EXPECT_TRUE(hulp::wachtTot([this] { return hulp::leesBestand(doel_ / "open.c") == geknipt; }));
+    std::string log = "Student bestand 1:" + (doel_ / "vast/c.c").string() + "\n";
+    int nummer = 2;
+    for (const std::string& naam : hulp::somOp(doel_)) {
+        if (naam != "vast") {
+            log += "Student bestand " + std::to_string(nummer++) + ":" + (doel_ / naam).string() + "\n";
+        }
+    }
+    EXPECT_EQ(log, bewaarLogboek());
+    sluitAf();
+    fs::permissions(doel_ / "dicht.c", fs::perms::owner_all);
+    fs::permissions(doel_ / "vast", fs::perms::owner_all);
+    EXPECT_EQ(
+        (hulp::Boom{{"open.c", geknipt}, {"dicht.c", origineel}, {"vast", "/"}, {"vast/c.c", origineel}}),
+        hulp::leesBoom(doel_));
+    EXPECT_TRUE(fs::is_empty(std::getenv("TMPDIR")));
 }

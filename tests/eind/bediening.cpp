@@ -1,10 +1,14 @@
 #include "tests/eind/bediening.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <sstream>
 #include <utility>
+
+#include "tests/hulp/gewoneGebruiker.h"
 
 namespace fs = std::filesystem;
 
@@ -26,6 +30,32 @@ std::string Bediening::programmaPad() {
 void Bediening::start(const std::vector<std::string>& argumenten) {
     std::vector<std::string> opdracht{programmaPad()};
     opdracht.insert(opdracht.end(), argumenten.begin(), argumenten.end());
+    startOpdracht(opdracht);
+}
+
+void Bediening::startAlsGewoneGebruiker() {
+    if (geteuid() != 0) {
+        start();
+        return;
+    }
+    const fs::path map = omgeving_.werk().parent_path();
+    std::string programma = programmaPad();
+    if (programma.find('/') != std::string::npos) {
+        // Waar het gebouwd is mag een ander misschien niet komen.
+        programma = map / "knipselaar";
+        fs::copy_file(programmaPad(), programma);
+    }
+    EXPECT_EQ(0, chown(map.c_str(), hulp::niemand, hulp::niemand));
+    for (const auto& deel : fs::recursive_directory_iterator(map)) {
+        EXPECT_EQ(0, lchown(deel.path().c_str(), hulp::niemand, hulp::niemand));
+    }
+    const std::string niemand = std::to_string(hulp::niemand);
+    // Wie zijn dekking laat meten, moet die kunnen opschrijven.
+    startOpdracht({"env", "LLVM_PROFILE_FILE=" + (map / "dekking").string(), "setpriv", "--reuid", niemand,
+                   "--regid", niemand, "--clear-groups", "--pdeathsig", "KILL", programma});
+}
+
+void Bediening::startOpdracht(const std::vector<std::string>& opdracht) {
     programma_ = std::make_unique<hulp::Kindproces>(opdracht, omgeving_.werk() / "uitvoer",
                                                     omgeving_.werk() / "fouten");
     wachtOpVenster(hoofdvenster);

@@ -31,6 +31,10 @@ class Bediening : public testing::Test {
     /// Start het programma en wacht tot het venster er staat en de toetsen krijgt.
     void start(const std::vector<std::string>& argumenten = {});
 
+    /// Hetzelfde als een gebruiker die niet overal bij mag, ook als root de tests draait. De omgeving is
+    /// daarna van die gebruiker, met alles wat erin staat.
+    void startAlsGewoneGebruiker();
+
     /// Drukt toetsen in, zoals "ctrl+o".
     static void druk(const std::string& toetsen);
 
@@ -79,6 +83,9 @@ class Bediening : public testing::Test {
 
     /// De waarde van een sleutel in de opslag op schijf.
     std::string leesSleutel(const std::string& groep, const std::string& sleutel) const;
+
+    /// Start een opdracht die het programma wordt en wacht tot het venster er staat en de toetsen krijgt.
+    void startOpdracht(const std::vector<std::string>& opdracht);
 
     hulp::Omgeving omgeving_{true};
     std::unique_ptr<hulp::Kindproces> programma_;

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,38 @@ inline const kern::KnipTeksten teksten{"BEGIN", "EIND", "WERK"};
 inline const std::string origineel = "a\nBEGIN\nb\nEIND\nc\n";
 inline const std::string geknipt = "a\nWERK\nc\n\n";
 
+/// Een overslag in woorden.
+inline std::string vertel(kern::Overslag reden) {
+    switch (reden) {
+        case kern::Overslag::nietGekozen:
+            return "over: niet gekozen";
+        case kern::Overslag::bronZelf:
+            return "over: de bron zelf";
+        case kern::Overslag::alGeweest:
+            return "over: al geweest";
+        case kern::Overslag::buitenBoom:
+            return "over: buiten de boom";
+    }
+    return "";
+}
+
+/// Een afloop in woorden, met alles wat erin staat.
+inline std::string vertel(const kern::Afloop& afloop) {
+    const std::string blokken = std::to_string(afloop.knip.bevindingen.blokken) + " blok";
+    std::string tekst = (afloop.isGelukt() ? "gelukt" : "mislukt") +
+                        std::string(afloop.terPlaatse ? " ter plaatse, " : " vlak, ") + blokken;
+    if (!afloop.knip.bronHeelGelezen) {
+        tekst += afloop.knip.bronBestaat ? ", bron bestaat" : ", bron bestaat niet";
+    }
+    for (const auto& [wat, reden] :
+         {std::pair{", bron: ", afloop.knip.bronReden}, std::pair{", doel: ", afloop.knip.doelReden},
+          std::pair{", tijdelijk: ", afloop.tijdelijkReden},
+          std::pair{", vervangen: ", afloop.vervangReden}}) {
+        tekst += reden.empty() ? "" : wat + reden;
+    }
+    return tekst;
+}
+
 /// Een opdracht die onthoudt wat er gemeld werd.
 class Opdracht : public kern::BatchOpdracht {
   public:
@@ -35,27 +68,35 @@ class Opdracht : public kern::BatchOpdracht {
         if (voorElkeKnip) {
             voorElkeKnip();
         }
-        return kern::knipBestand(bron, bestemming, teksten);
+        auto uitslag = kern::knipBestand(bron, bestemming, kern::KnipMal(teksten), kern::Nakijken::ja);
+        if (naElkeKnip) {
+            naElkeKnip();
+        }
+        return uitslag;
     }
     void meldOvergeslagen(long nummer, const wxFileName& bestand, kern::Overslag reden) override {
         meld("over", nummer, bestand);
-        overslagen.push_back(reden);
+        loop[bestand.GetFullName().utf8_string()] = vertel(reden);
     }
     void meldVerwerkt(long nummer, const wxFileName& bron, const wxFileName& bestemming) override {
         meld("knip", nummer, bron);
         EXPECT_EQ(bron.GetFullName(), bestemming.GetFullName());
+        laatste_ = bron.GetFullName().utf8_string();
     }
-    void meldAfloop(const kern::Afloop& afloop) override { aflopen.push_back(afloop); }
+    void meldAfloop(const kern::Afloop& afloop) override {
+        EXPECT_EQ(0U, loop.count(laatste_)) << "elk bestand loopt eenmaal af: " << laatste_;
+        loop[laatste_] = vertel(afloop);
+    }
 
     void meldVoortgang(std::size_t gedaan, std::size_t totaal) override {
         voortgang += std::to_string(gedaan) + "/" + std::to_string(totaal) + " ";
     }
 
     std::vector<std::string> gemeld;
-    std::vector<kern::Overslag> overslagen;
-    std::vector<kern::Afloop> aflopen;
     std::string voortgang;
+    std::map<std::string, std::string> loop;  ///< hoe het met elk bestand ging, op naam
     std::function<void()> voorElkeKnip;
+    std::function<void()> naElkeKnip;
 
   private:
     void meld(const std::string& wat, long nummer, const wxFileName& bestand) {
@@ -63,6 +104,7 @@ class Opdracht : public kern::BatchOpdracht {
     }
 
     int bestandType_;
+    std::string laatste_;
 };
 
 inline wxString naarWx(const std::filesystem::path& pad) {

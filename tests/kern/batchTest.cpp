@@ -213,6 +213,93 @@ TEST_F(Boomloop, MeldtEenLinkDieNergensHeenWijstAlsVerwerkt) {
     EXPECT_EQ(links, hulp::leesBoom(boom_));
 }
 
+TEST_F(Vlak, ZegtHoeHetMetElkBestandGing) {
+    ASSERT_EQ(0, mkfifo((boom_ / "pijp.c").c_str(), 0600));
+    hulp::maakBoom(boom_, {{"a.c", origineel + origineel},
+                           {"b.c", "niets te knippen\n"},
+                           {"c.c", origineel},
+                           {"d.c", origineel},
+                           {"e.c", origineel},
+                           {"los.c", "-> nergens"},
+                           {"x.txt", origineel}});
+    const fs::path doel = map_ / "doel";
+    hulp::maakBoom(doel, {{"c.c", "/"}, {"d.c", "-> ../boom/d.c"}, {"e.c", "-> nergens"}, {"los.c", "/"}});
+    Opdracht opdracht;
+    kern::knipDirectory(naarWx(boom_), naarWx(doel),
+                        {"a.c", "b.c", "c.c", "d.c", "e.c", "los.c", "pijp.c", "x.txt"}, opdracht);
+    EXPECT_EQ(
+        (std::map<std::string, std::string>{
+            {"a.c", "gelukt vlak, 2 blok"},
+            {"b.c", "gelukt vlak, 0 blok"},
+            {"c.c", "mislukt vlak, 1 blok, doel: is een directory"},
+            {"d.c", "over: de bron zelf"},
+            {"e.c", "mislukt vlak, 1 blok, doel: is een link die nergens heen wijst"},
+            {"los.c", "mislukt vlak, 0 blok, bron bestaat niet, bron: bestaat niet, doel: is een directory"},
+            {"pijp.c", "mislukt vlak, 0 blok, bron bestaat niet, bron: is geen gewoon bestand"},
+            {"x.txt", "over: niet gekozen"}}),
+        opdracht.loop);
+}
+
+TEST_F(Vlak, SlaatEenBestandDatNietGekozenIsOmDieRedenOver) {
+    hulp::maakBoom(boom_, {{"x.txt", origineel}});
+    hulp::maakBoom(map_ / "doel", {{"x.txt", "-> ../boom/x.txt"}});
+    Opdracht opdracht;
+    kern::knipDirectory(naarWx(boom_), naarWx(map_ / "doel"), {"x.txt"}, opdracht);
+    EXPECT_EQ((std::map<std::string, std::string>{{"x.txt", "over: niet gekozen"}}), opdracht.loop);
+}
+
+TEST_F(Vlak, ZegtWaaromErNietsKomtInEenBestemmingDieErNietIs) {
+    hulp::maakBoom(boom_, {{"a.c", origineel}});
+    Opdracht opdracht;
+    kern::knipDirectory(naarWx(boom_), naarWx(map_ / "nieuw"), {"a.c"}, opdracht);
+    EXPECT_EQ((std::map<std::string, std::string>{{"a.c", "mislukt vlak, 1 blok, doel: bestaat niet"}}),
+              opdracht.loop);
+}
+
+TEST_F(Boomloop, ZegtHoeHetMetElkBestandGing) {
+    ASSERT_EQ(0, mkfifo((boom_ / "pijp.c").c_str(), 0600));
+    hulp::schrijfBestand(map_ / "buiten.c", origineel);
+    hulp::maakBoom(boom_, {{"a.c", origineel},
+                           {"b.c", "niets te knippen\n"},
+                           {"buiten.c", "-> ../buiten.c"},
+                           {"los.c", "-> nergens"},
+                           {"rond.c", "-> rond.c"},
+                           {"x.txt", origineel}});
+    Opdracht opdracht;
+    knipBoom(opdracht);
+    EXPECT_EQ(
+        (std::map<std::string, std::string>{
+            {"a.c", "gelukt ter plaatse, 1 blok"},
+            {"b.c", "gelukt ter plaatse, 0 blok"},
+            {"buiten.c", "over: buiten de boom"},
+            {"los.c", "mislukt ter plaatse, 0 blok, bron bestaat niet, bron: bestaat niet"},
+            {"pijp.c", "mislukt ter plaatse, 0 blok, bron bestaat niet, bron: is geen gewoon bestand"},
+            {"rond.c", "mislukt ter plaatse, 0 blok, bron bestaat niet, bron: de links lopen in een kring"},
+            {"x.txt", "over: niet gekozen"}}),
+        opdracht.loop);
+}
+
+TEST_F(Boomloop, ZegtDatEenAndereNaamAlGekniptIs) {
+    hulp::maakBoom(boom_, {{"a.c", origineel}, {"link.c", "-> a.c"}});
+    Opdracht opdracht;
+    const wxString boom = naarWx(boom_);
+    kern::knipBoom(boom, {boom + "/link.c", boom + "/a.c"}, opdracht);
+    EXPECT_EQ((std::map<std::string, std::string>{{"link.c", "gelukt ter plaatse, 1 blok"},
+                                                  {"a.c", "over: al geweest"}}),
+              opdracht.loop);
+}
+
+TEST_F(Boomloop, NoemtNietGekniptWatEerstNietTeVindenWas) {
+    hulp::maakBoom(boom_, {{"los.c", "-> ../later.c"}});
+    Opdracht opdracht;
+    opdracht.voorElkeKnip = [this] { hulp::schrijfBestand(map_ / "later.c", origineel); };
+    knipBoom(opdracht);
+    EXPECT_EQ((std::map<std::string, std::string>{
+                  {"los.c", "mislukt ter plaatse, 1 blok, vervangen: was eerst niet te vinden"}}),
+              opdracht.loop);
+    EXPECT_EQ(origineel, hulp::leesBestand(map_ / "later.c"));
+}
+
 TEST(Paden, ZijnDezelfdePlaatsHoeZeOokGeschrevenZijn) {
     const hulp::TijdelijkeMap map;
     fs::create_directory(map / "a");

@@ -12,7 +12,10 @@
 #include <vector>
 
 #include "tests/hulp/bestanden.h"
+#include "tests/hulp/bestandsboom.h"
 #include "tests/hulp/beweringen.h"
+#include "tests/hulp/gewoneGebruiker.h"
+#include "tests/hulp/kleineSchijf.h"
 
 namespace fs = std::filesystem;
 
@@ -26,6 +29,16 @@ constexpr const char* geknipt = "a\nWERK\nc\n\n";
 
 wxFileName naarNaam(const fs::path& pad) {
     return wxFileName(wxString(pad.c_str(), wxConvFile));
+}
+
+/// Een socket op schijf; te sluiten.
+int maakSocket(const fs::path& pad) {
+    const int luisteraar = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_un adres{};
+    adres.sun_family = AF_UNIX;
+    pad.string().copy(adres.sun_path, sizeof adres.sun_path - 1);
+    EXPECT_EQ(0, bind(luisteraar, reinterpret_cast<const sockaddr*>(&adres), sizeof adres));
+    return luisteraar;
 }
 
 class BestandKnipper : public testing::Test {
@@ -47,6 +60,27 @@ class BestandKnipper : public testing::Test {
         EXPECT_TRUE(uitslag.bronHeelGelezen);
         EXPECT_FALSE(uitslag.doelHeelGeschreven);
         EXPECT_EQ(doelNietOpen, hulp::neemBeweringen());
+    }
+
+    /// De reden die een bron geeft, met of er een gewoon bestand staat.
+    std::string geefBronReden(const fs::path& bron) {
+        const auto uitslag = knip(bron, uit_);
+        EXPECT_FALSE(uitslag.bronHeelGelezen) << bron;
+        EXPECT_EQ("", uitslag.doelReden) << bron;
+        hulp::neemBeweringen();
+        return uitslag.bronReden + (uitslag.bronBestaat ? " (bestaat)" : "");
+    }
+
+    /// De reden die een doel geeft.
+    std::string geefDoelReden(const fs::path& doel) {
+        hulp::schrijfBestand(in_, origineel);
+        const auto uitslag = knip(in_, doel);
+        EXPECT_TRUE(uitslag.bronHeelGelezen) << doel;
+        EXPECT_TRUE(uitslag.bronBestaat) << doel;
+        EXPECT_EQ("", uitslag.bronReden) << doel;
+        EXPECT_FALSE(uitslag.doelHeelGeschreven) << doel;
+        hulp::neemBeweringen();
+        return uitslag.doelReden;
     }
 
     hulp::TijdelijkeMap map_;
@@ -105,11 +139,7 @@ TEST_F(BestandKnipper, WachtNietOpEenPijp) {
 }
 
 TEST_F(BestandKnipper, LaatEenSocketMetRust) {
-    const int luisteraar = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_un adres{};
-    adres.sun_family = AF_UNIX;
-    in_.string().copy(adres.sun_path, sizeof adres.sun_path - 1);
-    ASSERT_EQ(0, bind(luisteraar, reinterpret_cast<const sockaddr*>(&adres), sizeof adres));
+    const int luisteraar = maakSocket(in_);
     verwachtBronNietOpen(in_, uit_);
     hulp::schrijfBestand(map_ / "bron", origineel);
     verwachtDoelNietOpen(map_ / "bron", in_);
@@ -167,6 +197,8 @@ TEST_F(BestandKnipper, MerktDatNietAllesGeschrevenIs) {
     std::signal(SIGXFSZ, oudSignaal);
     EXPECT_TRUE(uitslag.bronHeelGelezen);
     EXPECT_FALSE(uitslag.doelHeelGeschreven);
+    EXPECT_EQ("", uitslag.bronReden);
+    EXPECT_EQ("het bestand wordt groter dan mag", uitslag.doelReden);
     EXPECT_EQ(std::string(300'000, 'x'), hulp::leesBestand(in_));
 }
 
@@ -176,4 +208,92 @@ TEST_F(BestandKnipper, GeeftEenNieuwBestandDeGewoneRechten) {
     knip(in_, uit_);
     umask(masker);
     EXPECT_EQ(0644, static_cast<int>(fs::status(uit_).permissions()));
+}
+
+TEST_F(BestandKnipper, ZegtWaaromDeBronNietTeLezenIs) {
+    hulp::maakBoom(map_.pad(), {{"map", "/"}, {"los", "-> nergens"}, {"rond", "-> rond"}, {"bestand", "x"}});
+    ASSERT_EQ(0, mkfifo((map_ / "pijp").c_str(), 0600));
+    const int luisteraar = maakSocket(map_ / "socket");
+    EXPECT_EQ("bestaat niet", geefBronReden(map_ / "bestaat-niet"));
+    EXPECT_EQ("bestaat niet", geefBronReden(map_ / "los"));
+    EXPECT_EQ("de links lopen in een kring", geefBronReden(map_ / "rond"));
+    EXPECT_EQ("een deel van het pad is geen directory", geefBronReden(map_ / "bestand/x"));
+    EXPECT_EQ("de naam is te lang", geefBronReden(map_ / std::string(300, 'n')));
+    for (const fs::path& bijzonder : {map_ / "map", map_ / "pijp", map_ / "socket", fs::path("/dev/zero")}) {
+        EXPECT_EQ("is geen gewoon bestand", geefBronReden(bijzonder)) << bijzonder;
+    }
+    close(luisteraar);
+}
+
+TEST_F(BestandKnipper, ZegtWaaromDeBronNietVerderTeLezenIs) {
+    // Het geheugen van een proces is een gewoon bestand dat vanaf het begin niet te lezen is.
+    EXPECT_EQ("Input/output error (bestaat)", geefBronReden("/proc/self/mem"));
+}
+
+TEST_F(BestandKnipper, ZegtDatDeBronNietVoorDezeGebruikerIs) {
+    fs::permissions(map_.pad(), fs::perms::all);
+    hulp::maakBoom(map_.pad(), {{"dicht", origineel}, {"map/x", origineel}});
+    ASSERT_EQ(0, mkfifo((map_ / "pijp").c_str(), 0000));
+    for (const char* naam : {"dicht", "map"}) {
+        chmod((map_ / naam).c_str(), 0000);
+        if (geteuid() == 0) {
+            ASSERT_EQ(0, chown((map_ / naam).c_str(), 1, 1));
+        }
+    }
+    EXPECT_TRUE(hulp::doeAlsGewoneGebruiker([this] {
+        const std::string geenToegang = "geen toegang; geef rechten of kies een andere plaats";
+        EXPECT_EQ(geenToegang + " (bestaat)", geefBronReden(map_ / "dicht"));
+        EXPECT_EQ(geenToegang + " (bestaat)", geefBronReden(map_ / "map/x")) << "het kan er staan";
+        EXPECT_EQ(geenToegang, geefBronReden(map_ / "pijp"));
+        EXPECT_EQ(geenToegang, geefBronReden(map_ / "map"));
+    }));
+    chmod((map_ / "map").c_str(), 0700);
+}
+
+TEST_F(BestandKnipper, ZegtWaaromHetDoelNietTeSchrijvenIs) {
+    hulp::maakBoom(map_.pad(), {{"map", "/"}, {"los", "-> nergens"}, {"rond", "-> rond"}, {"bestand", "x"}});
+    ASSERT_EQ(0, mkfifo((map_ / "pijp").c_str(), 0600));
+    const int luisteraar = maakSocket(map_ / "socket");
+    EXPECT_EQ("bestaat niet", geefDoelReden(map_ / "bestaat-niet/uit"));
+    EXPECT_EQ("is een directory", geefDoelReden(map_ / "map"));
+    EXPECT_EQ("is een link die nergens heen wijst", geefDoelReden(map_ / "los"));
+    EXPECT_EQ("de links lopen in een kring", geefDoelReden(map_ / "rond"));
+    EXPECT_EQ("een deel van het pad is geen directory", geefDoelReden(map_ / "bestand/x"));
+    for (const fs::path& bijzonder : {map_ / "pijp", map_ / "socket", fs::path("/dev/null")}) {
+        EXPECT_EQ("is geen gewoon bestand", geefDoelReden(bijzonder)) << bijzonder;
+    }
+    close(luisteraar);
+}
+
+TEST_F(BestandKnipper, ZegtDatDeSchijfVolIs) {
+    const hulp::KleineSchijf schijf(map_ / "schijf");
+    if (!schijf.isEr()) {
+        GTEST_SKIP() << "alleen root kan een bestandssysteem aankoppelen";
+    }
+    hulp::schrijfBestand(in_, std::string(600'000, 'x') + "\n" + origineel);
+    const auto uitslag = knip(in_, map_ / "schijf/uit.c");
+    EXPECT_TRUE(uitslag.bronHeelGelezen);
+    EXPECT_FALSE(uitslag.doelHeelGeschreven);
+    EXPECT_EQ("", uitslag.bronReden);
+    EXPECT_EQ("de schijf is vol; maak ruimte en probeer het opnieuw", uitslag.doelReden);
+}
+
+TEST_F(BestandKnipper, ZegtVanBeideWatErMisging) {
+    fs::create_directory(uit_);
+    const auto uitslag = knip(in_, uit_);
+    hulp::neemBeweringen();
+    EXPECT_FALSE(uitslag.bronBestaat);
+    EXPECT_EQ("bestaat niet", uitslag.bronReden);
+    EXPECT_EQ("is een directory", uitslag.doelReden);
+}
+
+TEST_F(BestandKnipper, GeeftGeenRedenAlsAllesLukt) {
+    hulp::schrijfBestand(in_, origineel);
+    const auto uitslag = knip(in_, uit_);
+    EXPECT_TRUE(uitslag.isGelukt());
+    EXPECT_TRUE(uitslag.bronBestaat);
+    EXPECT_EQ("", uitslag.bronReden);
+    EXPECT_EQ("", uitslag.doelReden);
+    EXPECT_EQ(0U, uitslag.bevindingen.blokken) << "daar is niet naar gekeken";
+    EXPECT_TRUE(uitslag.bevindingen.lijst.empty());
 }

@@ -2,7 +2,6 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -10,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "tests/hulp/gewoneGebruiker.h"
 #include "tests/hulp/kleineSchijf.h"
 #include "tests/kern/batchProef.h"
 
@@ -23,6 +23,10 @@ using proef::origineel;
 namespace {
 
 using Veilig = proef::Batch;
+using hulp::doeAlsGewoneGebruiker;
+
+constexpr const char* geenToegang = "geen toegang; geef rechten of kies een andere plaats";
+constexpr const char* schijfVol = "de schijf is vol; maak ruimte en probeer het opnieuw";
 
 }  // namespace
 
@@ -109,23 +113,6 @@ TEST_F(Veilig, LaatHetBestandStaanAlsDeTijdelijkeSchijfVolIs) {
     EXPECT_EQ((hulp::Boom{{"groot.c", groot}, {"klein.c", geknipt}}), hulp::leesBoom(boom_));
 }
 
-/// Voert iets uit in een kindproces zonder rechten. True als het daar zonder fout verliep.
-bool doeAlsGewoneGebruiker(const std::function<void()>& handeling) {
-    const pid_t kind = fork();
-    if (kind == 0) {
-        constexpr uid_t niemand = 65534;
-        if (geteuid() == 0 &&
-            (setresgid(niemand, niemand, niemand) != 0 || setresuid(niemand, niemand, niemand) != 0)) {
-            _exit(2);
-        }
-        handeling();
-        _exit(testing::Test::HasFailure() ? 1 : 0);
-    }
-    int status = 0;
-    waitpid(kind, &status, 0);
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
-
 TEST_F(Veilig, LaatAllesStaanZonderTijdelijkeNaam) {
     const hulp::Boom vooraf{{"a.c", origineel}, {"b.c", origineel}};
     hulp::maakBoom(boom_, vooraf);
@@ -200,4 +187,115 @@ TEST_F(Veilig, RuimtNietsOpDatIntussenDeTijdelijkeNaamKreeg) {
     }
     EXPECT_EQ("van een ander", hulp::leesBestand(tijdelijk));
     EXPECT_EQ(geknipt, hulp::leesBestand(boom_ / "a.c"));
+}
+
+TEST_F(Veilig, ZegtWaaromErGeenTijdelijkBestandIs) {
+    hulp::maakBoom(boom_, {{"a.c", origineel}});
+    for (const fs::path& pad : {map_.pad(), boom_, boom_ / "a.c"}) {
+        fs::permissions(pad, fs::perms::all);
+    }
+    chmod(tijdelijk_.c_str(), 0555);
+    EXPECT_TRUE(doeAlsGewoneGebruiker([this] {
+        const kern::TerPlaatse terPlaatse;
+        EXPECT_FALSE(terPlaatse.geefTijdelijk().IsOk());
+        EXPECT_EQ(geenToegang, terPlaatse.geefReden());
+        Opdracht opdracht;
+        knipBoom(opdracht);
+        EXPECT_EQ((std::map<std::string, std::string>{
+                      {"a.c", "mislukt ter plaatse, 1 blok, doel: bestaat niet, tijdelijk: " +
+                                  std::string(geenToegang)}}),
+                  opdracht.loop);
+    }));
+}
+
+TEST_F(Veilig, ZegtNietsZolangAllesLukt) {
+    hulp::maakBoom(boom_, {{"a.c", origineel}});
+    kern::TerPlaatse terPlaatse;
+    EXPECT_EQ("", terPlaatse.geefReden());
+    hulp::schrijfBestand(terPlaatse.geefTijdelijk().GetFullPath().utf8_string(), geknipt);
+    EXPECT_TRUE(terPlaatse.vervang(boom_ / "a.c"));
+    EXPECT_EQ("", terPlaatse.geefReden());
+}
+
+TEST_F(Veilig, ZegtWaaromEenBestandNietVervangenIs) {
+    hulp::maakBoom(boom_, {{"map.c", "/"}, {"a.c", origineel}});
+    kern::TerPlaatse terPlaatse;
+    EXPECT_FALSE(terPlaatse.vervang(boom_ / "map.c"));
+    EXPECT_EQ("is geen gewoon bestand", terPlaatse.geefReden());
+    EXPECT_FALSE(terPlaatse.vervang(boom_ / "bestaat-niet.c"));
+    EXPECT_EQ("bestaat niet", terPlaatse.geefReden());
+    EXPECT_FALSE(terPlaatse.vervang(boom_ / "a.c/b.c"));
+    EXPECT_EQ("een deel van het pad is geen directory", terPlaatse.geefReden());
+    fs::remove(terPlaatse.geefTijdelijk().GetFullPath().utf8_string());
+    EXPECT_FALSE(terPlaatse.vervang(boom_ / "a.c")) << "het knipsel is weg";
+    EXPECT_EQ("bestaat niet", terPlaatse.geefReden());
+}
+
+TEST_F(Veilig, ZegtDatEenBestandIntussenVerdweenOfEenDirectoryWerd) {
+    for (const bool wordtDirectory : {false, true}) {
+        hulp::maakBoom(boom_, {{"a.c", origineel}});
+        Opdracht opdracht;
+        const wxString pad = naarWx(boom_ / "a.c");
+        opdracht.naElkeKnip = [&] {
+            fs::remove(boom_ / "a.c");
+            if (wordtDirectory) {
+                fs::create_directory(boom_ / "a.c");
+            }
+        };
+        kern::knipBoom(naarWx(boom_), {pad}, opdracht);
+        EXPECT_EQ((std::map<std::string, std::string>{
+                      {"a.c", std::string("mislukt ter plaatse, 1 blok, vervangen: ") +
+                                  (wordtDirectory ? "is geen gewoon bestand" : "bestaat niet")}}),
+                  opdracht.loop);
+        fs::remove(boom_ / "a.c");
+    }
+}
+
+TEST_F(Veilig, ZegtDatErNaastHetBestandGeenPlaatsIs) {
+    const hulp::KleineSchijf schijf(boom_);
+    if (!schijf.isEr()) {
+        GTEST_SKIP() << "alleen root kan een bestandssysteem aankoppelen";
+    }
+    hulp::maakBoom(boom_, {{"groot.c", std::string(200'000, 'x') + "\n" + origineel}});
+    Opdracht opdracht;
+    knipBoom(opdracht);
+    EXPECT_EQ((std::map<std::string, std::string>{
+                  {"groot.c", "mislukt ter plaatse, 1 blok, vervangen: " + std::string(schijfVol)}}),
+              opdracht.loop);
+}
+
+TEST_F(Veilig, ZegtDatDeTijdelijkeSchijfVolIs) {
+    const hulp::KleineSchijf schijf(tijdelijk_);
+    if (!schijf.isEr()) {
+        GTEST_SKIP() << "alleen root kan een bestandssysteem aankoppelen";
+    }
+    hulp::maakBoom(boom_, {{"groot.c", std::string(400'000, 'x') + "\n" + origineel}});
+    Opdracht opdracht;
+    knipBoom(opdracht);
+    EXPECT_EQ((std::map<std::string, std::string>{
+                  {"groot.c", "mislukt ter plaatse, 1 blok, doel: " + std::string(schijfVol)}}),
+              opdracht.loop);
+}
+
+TEST_F(Veilig, ZegtDatEenGewoneGebruikerErNietBijMag) {
+    hulp::maakBoom(boom_, {{"dicht.c", origineel}, {"open.c", origineel}, {"vast/b.c", origineel}});
+    for (const fs::path& pad : {map_.pad(), boom_, tijdelijk_}) {
+        fs::permissions(pad, fs::perms::all);
+    }
+    chmod((boom_ / "dicht.c").c_str(), 0000);
+    chmod((boom_ / "vast").c_str(), 0555);
+    if (geteuid() == 0) {
+        ASSERT_EQ(0, chown((boom_ / "dicht.c").c_str(), 1, 1));
+    }
+    EXPECT_TRUE(doeAlsGewoneGebruiker([this] {
+        Opdracht opdracht;
+        knipBoom(opdracht);
+        EXPECT_EQ(
+            (std::map<std::string, std::string>{
+                {"dicht.c", "mislukt ter plaatse, 0 blok, bron bestaat, bron: " + std::string(geenToegang)},
+                {"open.c", "gelukt ter plaatse, 1 blok"},
+                {"b.c", "mislukt ter plaatse, 1 blok, vervangen: " + std::string(geenToegang)}}),
+            opdracht.loop);
+    }));
+    chmod((boom_ / "vast").c_str(), 0755);
 }

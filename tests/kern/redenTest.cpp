@@ -1,0 +1,31 @@
+#include "Knipselaar/kern/reden.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+TEST(Reden, NoemtElkeFoutInHetNederlands) {
+    struct Geval {
+        int foutnummer;
+        const char* reden;
+    };
+    for (const auto& [foutnummer, reden] :
+         {Geval{ENOENT, "bestaat niet"},
+          Geval{EACCES, "geen toegang; geef rechten of kies een andere plaats"},
+          Geval{EPERM, "geen toegang; geef rechten of kies een andere plaats"},
+          Geval{ENOSPC, "de schijf is vol; maak ruimte en probeer het opnieuw"},
+          Geval{EDQUOT, "de schijf is vol; maak ruimte en probeer het opnieuw"},
+          Geval{EFBIG, "het bestand wordt groter dan mag"},
+          Geval{EROFS, "het bestandssysteem is alleen te lezen; kies een andere plaats"},
+          Geval{EISDIR, "is een directory; noem een bestand"},
+          Geval{ENOTDIR, "een deel van het pad is geen directory"}, Geval{ENAMETOOLONG, "de naam is te lang"},
+          Geval{ELOOP, "de links lopen in een kring"}, Geval{EPIPE, "de lezer van de pijp is gestopt"},
+          Geval{EINTR, "onderbroken"}}) {
+        EXPECT_EQ(reden, kern::noemReden(foutnummer)) << foutnummer;
+    }
+}
+
+TEST(Reden, NoemtEenAndereFoutZoalsHetSysteem) {
+    EXPECT_EQ("Input/output error", kern::noemReden(EIO));
+    EXPECT_EQ("Text file busy", kern::noemReden(ETXTBSY));
+}
