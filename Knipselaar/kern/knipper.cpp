@@ -40,6 +40,7 @@ void Knipper::knipLegeRegel(const Uitvoer& uit) {
 
 Geknipt knipTekst(std::string_view tekst, const KnipMal& mal) {
     Geknipt geknipt;
+    geknipt.tekst.reserve(tekst.size());
     const auto voegToe = [&geknipt](std::string_view stuk, Lot lot) {
         const std::size_t begin = geknipt.tekst.size();
         geknipt.tekst += stuk;
