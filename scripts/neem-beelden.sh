@@ -23,15 +23,43 @@ doel_hoogte=115
 # De uitwerking waarmee de handleiding begint.
 schrijf_som() { awk '/^```c bron/ { aan = 1; next } /^```/ && aan { exit } aan' "$hoofdmap/handleiding.md"; }
 
-# Richt /home/docent in: lessen met uitwerkingen, klas voor de opgaven en practicum om ter plaatse te knippen.
+# Een uitwerking waarvan de eerste eindmarker met kleine letters is geschreven.
+schrijf_slordig() {
+    cat <<'EINDE'
+int som(const int *getallen, int aantal)
+{
+    int totaal = 0;
+    //**** Student Begin ****//
+    for (int i = 0; i < aantal; i++) {
+        totaal += getallen[i];
+    }
+    //**** student eind ****//
+    return totaal;
+}
+
+int eerste(const int *getallen)
+{
+    //**** Student Begin ****//
+    return getallen[0];
+    //**** Student Eind ****//
+}
+EINDE
+}
+
+# Richt /home/docent in: lessen met uitwerkingen, klas voor de opgaven, practicum om ter plaatse te knippen en concept
+# met uitwerkingen waar iets aan mankeert.
 richt_in() {
     mount -t tmpfs docent /home
     export HOME=/home/docent
-    mkdir -p "$HOME"/{lessen,klas,practicum/{les1,les2}}
+    mkdir -p "$HOME"/{lessen,klas,practicum/{les1,les2},concept,usb}
     schrijf_som | tee "$HOME"/{lessen,practicum/les1}/som.c >"$HOME/klas/vorige-week.c"
     echo 'Lokaal D1.07, neem een usb-kabel mee.' | tee "$HOME"/{lessen,practicum/les2}/aantekening.txt >/dev/null
     cp "$voorbeelden"/matrix.{cpp,h} "$voorbeelden/teller.vhdl" "$HOME/lessen"
     cp "$voorbeelden"/matrix.{cpp,h} "$HOME/practicum/les2"
+    schrijf_som >"$HOME/concept/som.c"
+    schrijf_som | grep -v Student >"$HOME/concept/ongemarkeerd.c"
+    schrijf_slordig >"$HOME/concept/reeks.c"
+    cp "$voorbeelden/matrix.h" "$HOME/concept"
     find "$HOME" -type f -exec touch -d '2026-09-01 09:00' {} +
     cat >"$HOME/.Knipselaar" <<EINDE
 [Configuratie]
@@ -41,8 +69,11 @@ EINDE
     cd "$HOME"
 }
 
-# Klikt op een plaats van het hoofdvenster, gerekend vanaf linksonder.
-klik() { xdotool mousemove --window "$(venster_nummer "$venster")" "$1" "$((hoogte - $2))" click 1; }
+# Klikt op een plaats van het hoofdvenster, gerekend vanaf linksonder. Een muis die daar blijft, roept een tooltip op.
+klik() {
+    xdotool mousemove --window "$(venster_nummer "$venster")" "$1" "$((hoogte - $2))" click 1
+    xdotool mousemove 0 0
+}
 
 # Vult het tekstveld van een directorykiezer. $1 is de hoogte vanaf de onderrand, $2 het pad.
 vul_kiezer() {
@@ -77,37 +108,53 @@ start() {
     neem_beeld "$venster" "$beelden/begin.png"
 }
 
+# Kiest $1 in de dialoog om te openen.
 kies_origineel() {
-    kies_pad "$openen" "$HOME/lessen/som.c"
+    kies_pad "$openen" "$1"
     wacht_op_venster "$venster"
+}
+
+open_slordig() {
+    xdotool key ctrl+o
+    kies_origineel "$HOME/concept/reeks.c"
 }
 
 enkel_bestand() {
     xdotool key ctrl+o
     neem_dialoog "$openen" "$beelden/openen.png"
-    neem_verandering "$venster" "$beelden/geopend.png" kies_origineel
+    neem_verandering "$venster" "$beelden/geopend.png" kies_origineel "$HOME/lessen/som.c"
     neem_verandering "$venster" "$beelden/geknipt.png" xdotool key ctrl+f
     xdotool key ctrl+s
     neem_dialoog "$opslaan" "$beelden/opslaan.png"
     kies_pad "$opslaan" "$HOME/klas/som.c"
     wacht_op "de opgave staat er niet" test -s "$HOME/klas/som.c"
     wacht_op_venster "$venster"
+    neem_verandering "$venster" "$beelden/fouten.png" open_slordig
 }
 
+# Wijst de directories aan: $1 met originelen, $2 voor de opgaven.
 kies_directories() {
-    vul_kiezer $bron_hoogte "$HOME/lessen"
-    vul_kiezer $doel_hoogte "$HOME/klas"
+    vul_kiezer $bron_hoogte "$1"
+    vul_kiezer $doel_hoogte "$2"
 }
 
 een_directory() {
     neem_verandering "$venster" "$werk/modus.png" klik 60 $modus_directory
-    neem_verandering "$venster" "$beelden/directory.png" kies_directories
+    neem_verandering "$venster" "$beelden/directory.png" kies_directories "$HOME/lessen" "$HOME/klas"
     neem_verandering "$venster" "$beelden/directory-klaar.png" xdotool key ctrl+f
     grep -qF 'Dit stuk software ontbreekt' "$HOME/klas/teller.vhdl"
 }
 
+# Een batch waarbij niet alles lukt: op de usb-stick past één bestand minder dan er is.
+directory_met_fouten() {
+    mount -t tmpfs -o nr_blocks=3 usb "$HOME/usb"
+    kies_directories "$HOME/concept" "$HOME/usb"
+    neem_verandering "$venster" "$beelden/directory-fouten.png" xdotool key ctrl+f
+    umount "$HOME/usb"
+}
+
 gelijke_directories() {
-    vul_kiezer $doel_hoogte "$HOME/lessen"
+    kies_directories "$HOME/lessen" "$HOME/lessen"
     xdotool key ctrl+f
     wacht_op_venster '^Bevestig$'
     neem_beeld '^Bevestig$' "$beelden/gelijk.png"
@@ -133,6 +180,7 @@ richt_in
 start
 enkel_bestand
 een_directory
+directory_met_fouten
 gelijke_directories
 een_boom
 sluit_af
