@@ -8,6 +8,7 @@
 #include <wx/stream.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>

@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 #include <wx/mstream.h>
 
+#include <cstdint>
 #include <string>
 
 #include "Knipselaar/kern/knipper.h"

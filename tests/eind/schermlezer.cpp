@@ -16,6 +16,7 @@
 #include <iostream>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -26,11 +27,31 @@ using Ding = std::unique_ptr<AtspiAccessible, Opruimer>;
 using Staten = std::unique_ptr<AtspiStateSet, Opruimer>;
 
 /// Wat alleen voor de plaats op het scherm bestaat, of hier zonder naam niets zegt.
-bool isIndeling(const std::string& rol, const std::string& naam) {
-    constexpr std::array altijd{"application", "filler", "scroll pane", "scroll bar", "separator"};
-    constexpr std::array naamloos{"panel", "menu"};
+bool isIndeling(AtspiRole rol, const std::string& naam) {
+    constexpr std::array altijd{ATSPI_ROLE_APPLICATION, ATSPI_ROLE_FILLER, ATSPI_ROLE_SCROLL_PANE,
+                                ATSPI_ROLE_SCROLL_BAR, ATSPI_ROLE_SEPARATOR};
+    constexpr std::array naamloos{ATSPI_ROLE_PANEL, ATSPI_ROLE_MENU};
     return std::find(altijd.begin(), altijd.end(), rol) != altijd.end() ||
            (naam.empty() && std::find(naamloos.begin(), naamloos.end(), rol) != naamloos.end());
+}
+
+/// Hoe een rol hier heet. De bibliotheek verandert haar namen van uitgave tot uitgave.
+std::string noemRol(AtspiRole rol) {
+    constexpr std::array<std::pair<AtspiRole, const char*>, 11> namen{
+        {{ATSPI_ROLE_FRAME, "frame"},
+         {ATSPI_ROLE_MENU_BAR, "menu bar"},
+         {ATSPI_ROLE_MENU, "menu"},
+         {ATSPI_ROLE_MENU_ITEM, "menu item"},
+         {ATSPI_ROLE_PANEL, "panel"},
+         {ATSPI_ROLE_LABEL, "label"},
+         {ATSPI_ROLE_TEXT, "text"},
+         {ATSPI_ROLE_RADIO_BUTTON, "radio button"},
+         {ATSPI_ROLE_PUSH_BUTTON, "push button"},
+         {ATSPI_ROLE_TOGGLE_BUTTON, "toggle button"},
+         {ATSPI_ROLE_COMBO_BOX, "combo box"}}};
+    const auto* const gevonden =
+        std::find_if(namen.begin(), namen.end(), [rol](const auto& naam) { return naam.first == rol; });
+    return gevonden == namen.end() ? "rol " + std::to_string(rol) : gevonden->second;
 }
 
 std::string neem(gchar* tekst) {
@@ -41,7 +62,7 @@ std::string neem(gchar* tekst) {
 
 std::string noem(AtspiAccessible* ding) {
     const std::string beschrijving = neem(atspi_accessible_get_description(ding, nullptr));
-    return neem(atspi_accessible_get_role_name(ding, nullptr)) + " \"" +
+    return noemRol(atspi_accessible_get_role(ding, nullptr)) + " \"" +
            neem(atspi_accessible_get_name(ding, nullptr)) + "\"" +
            (beschrijving.empty() ? "" : " (" + beschrijving + ")");
 }
@@ -82,9 +103,8 @@ void bezoek(AtspiAccessible* ding, const std::function<void(AtspiAccessible*)>& 
 }
 
 void toonBoom(AtspiAccessible* ding) {
-    const std::string rol = neem(atspi_accessible_get_role_name(ding, nullptr));
     const std::string naam = neem(atspi_accessible_get_name(ding, nullptr));
-    if (!isIndeling(rol, naam)) {
+    if (!isIndeling(atspi_accessible_get_role(ding, nullptr), naam)) {
         const bool gekozen = heeftStaat(ding, ATSPI_STATE_CHECKED) || heeftStaat(ding, ATSPI_STATE_SELECTED);
         std::cout << noem(ding) << noemLabels(ding) << (gekozen ? ", gekozen" : "")
                   << (heeftStaat(ding, ATSPI_STATE_ENABLED) ? "" : ", uit") << "\n";

@@ -87,7 +87,7 @@ double contrast(const wxColour& een, const wxColour& ander) {
         };
         return 0.2126 * deel(kleur.Red()) + 0.7152 * deel(kleur.Green()) + 0.0722 * deel(kleur.Blue());
     };
-    const auto [donker, licht] = std::minmax(helderheid(een), helderheid(ander));
+    const auto [donker, licht] = std::minmax({helderheid(een), helderheid(ander)});
     return (licht + 0.05) / (donker + 0.05);
 }
 
