@@ -118,6 +118,7 @@ void knipDirectory(const wxString& bron, const wxString& bestemming, const std::
             continue;
         }
         Afloop afloop;
+        afloop.naarZichzelf = zelfdeDirectory;
         afloop.knip = opdracht.knip(bronBestand, doelBestand);
         opdracht.meldVerwerkt(nummer, bronBestand, doelBestand);
         opdracht.meldAfloop(afloop);

@@ -25,10 +25,13 @@ enum class Overslag {
 struct Afloop {
     KnipUitslag knip;
     bool terPlaatse = false;
+    bool naarZichzelf = false;  ///< bron en bestemming waren hetzelfde bestand; het is geleegd voor het lezen
     std::string tijdelijkReden;  ///< waarom er geen tijdelijk bestand te maken was; leeg als het lukte
     std::string vervangReden;    ///< waarom het knipsel de plaats van het bestand niet innam
 
-    bool isGelukt() const { return knip.isGelukt() && tijdelijkReden.empty() && vervangReden.empty(); }
+    bool isGelukt() const {
+        return knip.isGelukt() && !naarZichzelf && tijdelijkReden.empty() && vervangReden.empty();
+    }
 };
 
 /// Wat een batch van zijn opdrachtgever nodig heeft.

@@ -76,6 +76,12 @@ BatchBijschriften beschrijfAfloop(const Afloop& afloop) {
     BatchBijschriften bijschriften;
     const wxString bron = noemBronstoring(afloop);
     const wxString doel = noemDoelstoring(afloop);
+    if (afloop.naarZichzelf && afloop.knip.isGelukt()) {
+        // Over de markers van een bestand dat er niet meer is valt niets te zeggen.
+        const Bijschrift geleegd =
+            maakBijschrift(Ernst::fout, "naar zichzelf geknipt: het bestand is nu leeg");
+        return {.bron = {geleegd}, .bestemming = {geleegd}};
+    }
     if (!bron.empty()) {
         bijschriften.bron.push_back(maakBijschrift(Ernst::fout, bron + noemGevolg(afloop)));
         bijschriften.bestemming.push_back(
@@ -83,7 +89,7 @@ BatchBijschriften beschrijfAfloop(const Afloop& afloop) {
     }
     if (!doel.empty()) {
         bijschriften.bestemming.push_back(maakBijschrift(Ernst::fout, doel + noemGevolg(afloop)));
-        if (afloop.terPlaatse && bron.empty()) {
+        if (bron.empty()) {
             bijschriften.bron.push_back(maakBijschrift(Ernst::fout, "niet geknipt" + noemGevolg(afloop)));
         }
     }

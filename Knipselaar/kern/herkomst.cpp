@@ -11,7 +11,7 @@ wxString noemVeroudering(const Herkomst& herkomst, const wxString& pad, const Kn
         }
     };
     if (pad != herkomst.pad) {
-        oorzaak = "er is een ander bestand geopend";
+        oorzaak = "er is een ander bestand geopend of toegevoegd";
     } else {
         voegToe(origineel != herkomst.origineel, "het origineel is veranderd");
         voegToe(teksten.beginMarker != herkomst.teksten.beginMarker ||

@@ -9,8 +9,8 @@ constexpr std::chrono::milliseconds eersteKeer(1000);
 constexpr std::chrono::milliseconds tussentijd(400);
 }  // namespace
 
-Voortgangstekst::Voortgangstekst(wxString begin, std::function<Tijd()> klok)
-    : begin_(std::move(begin)), klok_(std::move(klok)), volgende_(klok_() + eersteKeer) {}
+Voortgangstekst::Voortgangstekst(const wxString& begin, std::function<Tijd()> klok)
+    : begin_(begin), klok_(std::move(klok)), volgende_(klok_() + eersteKeer) {}
 
 std::optional<wxString> Voortgangstekst::vernieuw(std::size_t gedaan, std::size_t totaal) {
     const Tijd nu = klok_();

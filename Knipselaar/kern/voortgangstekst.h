@@ -19,7 +19,7 @@ class Voortgangstekst {
     /// Begint te tellen.
     /// @param begin  de tekst die er van het begin af staat.
     /// @param klok   zegt hoe laat het is.
-    Voortgangstekst(wxString begin, std::function<Tijd()> klok);
+    Voortgangstekst(const wxString& begin, std::function<Tijd()> klok);
 
     /// De hele tekst als zij nu vernieuwd mag worden, anders niets. Wat zij geeft geldt als getoond.
     std::optional<wxString> vernieuw(std::size_t gedaan, std::size_t totaal);

@@ -71,14 +71,29 @@ TEST(BatchVerslag, NoemtInBeideLogboekenEenBronDieNietTeLezenIs) {
     verwacht(afloop, {"fout | Fout: niet te lezen"}, {"fout | Fout: niet heel: de bron is niet te lezen"});
 }
 
-TEST(BatchVerslag, NoemtEenBestemmingDieNietTeSchrijvenIsAlleenBijDeBestemming) {
+TEST(BatchVerslag, NoemtInBeideLogboekenEenBestemmingDieNietTeSchrijvenIs) {
     for (const std::size_t blokken : {0U, 2U}) {
         Afloop afloop = maakVlak(blokken);
         maakOnschrijfbaar(afloop, "de schijf is vol");
-        verwacht(afloop, {}, {"fout | Fout: niet te schrijven (de schijf is vol)"});
+        verwacht(afloop, {"fout | Fout: niet geknipt"},
+                 {"fout | Fout: niet te schrijven (de schijf is vol)"});
         maakOnschrijfbaar(afloop, "");
-        verwacht(afloop, {}, {"fout | Fout: niet te schrijven"});
+        verwacht(afloop, {"fout | Fout: niet geknipt"}, {"fout | Fout: niet te schrijven"});
     }
+}
+
+TEST(BatchVerslag, ZegtDatEenBestandNaarZichzelfNuLeegIs) {
+    Afloop afloop = maakVlak(0);
+    afloop.knip.bevindingen.lijst = {{1, Soort::geenBlok}};
+    afloop.naarZichzelf = true;
+    const Lijst geleegd{"fout | Fout: naar zichzelf geknipt: het bestand is nu leeg"};
+    verwacht(afloop, geleegd, geleegd);
+    EXPECT_FALSE(afloop.isGelukt());
+    maakOnleesbaar(afloop, "geen toegang");
+    verwacht(afloop,
+             {"fout | Fout: niet te lezen (geen toegang)",
+              "waarschuwing | Let op: geen enkel blok; er valt niets weg"},
+             {"fout | Fout: niet heel: de bron is niet te lezen"});
 }
 
 TEST(BatchVerslag, NoemtAllesWatErMisging) {

@@ -6,6 +6,7 @@
 
 #include <cstdlib>
 
+#include "Knipselaar/venster/merken.h"
 #include "tests/venster/batchVenster.h"
 #include "tests/venster/dialogen.h"
 
@@ -165,6 +166,17 @@ TEST_F(VlakkeBatch, LegtBijJaElkBestandLeeg) {
     doel_ = bron_;
     beantwoordMelding(wxID_YES, [this] { knipDirectory(); });
     EXPECT_EQ((hulp::Boom{{"a.c", "\n"}, {"x.txt", metBlok}}), hulp::leesBoom(bron_));
+    const auto onder = [](wxStyledTextCtrl* log, const char* begin) {
+        int regel = 0;
+        while (!log->GetLine(regel).StartsWith(begin)) {
+            ++regel;
+        }
+        return merken::leesBijschriften(*log, regel);
+    };
+    const std::vector<kern::Bijschrift> geleegd{
+        {kern::Ernst::fout, "Fout: naar zichzelf geknipt: het bestand is nu leeg"}};
+    EXPECT_EQ(geleegd, onder(origineel(), "Orig bestand 1:"));
+    EXPECT_EQ(geleegd, onder(aangepast(), "Student bestand 1:"));
 }
 
 TEST_F(VlakkeBatch, VraagtOokBijEenAndereSchrijfwijze) {

@@ -104,7 +104,9 @@ class BatchVerslag : public BatchTest {
         hulp::maakBoom(doel_, {{"c.c", "/"}, {"d.c", "-> ../bron/d.c"}});
         return {{"a.c", {}},
                 {"b.c", {.bron = {geenBlok}, .bestemming = {}}},
-                {"c.c", {.bron = {}, .bestemming = {"fout | Fout: niet te schrijven (is een directory)"}}},
+                {"c.c",
+                 {.bron = {"fout | Fout: niet geknipt"},
+                  .bestemming = {"fout | Fout: niet te schrijven (is een directory)"}}},
                 {"d.c",
                  {.overgeslagen = true,
                   .bron = {"waarschuwing | Let op: de bestemming is dit bestand zelf"},

@@ -229,7 +229,7 @@ TEST_F(Markering, ZegtBijWelkBestandEenOudResultaatHoort) {
     EXPECT_EQ(Lijst{}, bijschriften(aangepast()));
     const std::string kop = "1 Let op: dit resultaat hoort bij ringbuffer.c; sinds het knippen: ";
     open("matrix.c", "a\nB\nx\nE\n");
-    EXPECT_EQ((Lijst{kop + "er is een ander bestand geopend"}), bijschriften(aangepast()));
+    EXPECT_EQ((Lijst{kop + "er is een ander bestand geopend of toegevoegd"}), bijschriften(aangepast()));
     open("ringbuffer.c", "a\r\nB\r\nx\r\nE\r\n");
     EXPECT_EQ(Lijst{}, bijschriften(aangepast())) << "weer hetzelfde";
     typ(0, "nieuw ");
@@ -262,10 +262,9 @@ TEST_F(Markering, NoemtHetToegevoegdeBestand) {
     EXPECT_EQ(".rbr.", achtergronden(origineel()).substr(0, 5));
     knip();
     open("drie.c", "a\n");
-    EXPECT_EQ(
-        (Lijst{
-            "1 Let op: dit resultaat hoort bij twee.c; sinds het knippen: er is een ander bestand geopend"}),
-        bijschriften(aangepast()));
+    EXPECT_EQ((Lijst{"1 Let op: dit resultaat hoort bij twee.c; sinds het knippen: er is een ander bestand "
+                     "geopend of toegevoegd"}),
+              bijschriften(aangepast()));
 }
 
 TEST_F(Markering, VerdwijntBijEenAndereModus) {
