@@ -91,14 +91,14 @@ class Batch : public Bediening {
     /// Slaat het logboek op; daarna is de batch zeker klaar.
     std::string bewaarLogboek() {
         wachtOpVenster(hoofdvenster);
-        druk("ctrl+s");
+        vraagOpslaan("ctrl+s");
         const fs::path log = omgeving_.werk() / "log";
         kiesPad(opslaanDialoog, log);
         return hulp::leesBestand(log);
     }
 
     void sluitAf() {
-        druk("ctrl+q");
+        EXPECT_TRUE(drukTot("ctrl+q", [this] { return programma_->isAf(); }));
         EXPECT_EQ(0, wachtOpEinde());
         EXPECT_EQ("", fouten());
     }

@@ -65,6 +65,10 @@ void Bediening::druk(const std::string& toetsen) {
     voerUit({"xdotool", "key", "--clearmodifiers", toetsen});
 }
 
+void Bediening::vraagOpslaan(const std::string& toetsen) {
+    EXPECT_TRUE(drukTot(toetsen, [] { return isZichtbaar(opslaanDialoog); })) << toetsen << " vraagt niets";
+}
+
 bool Bediening::isZichtbaar(const std::string& titel) {
     return !voerUit({"xdotool", "search", "--onlyvisible", "--name", titel}).empty();
 }

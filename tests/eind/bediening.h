@@ -65,6 +65,19 @@ class Bediening : public testing::Test {
     /// @param uitsnede  het stuk dat telt, als BREEDTExHOOGTE+LINKS+BOVEN in punten; standaard alles.
     static std::string kiekje(const std::string& venster, const std::string& uitsnede = "0x0+0+0");
 
+    /// Drukt toetsen in tot een voorwaarde geldt. Wat tijdens een knipbeurt gedrukt wordt, vervalt.
+    template <typename Voorwaarde>
+    static bool drukTot(const std::string& toetsen, Voorwaarde&& voorwaarde) {
+        constexpr int evenMs = 3000;
+        return hulp::wachtTot([&] {
+            druk(toetsen);
+            return hulp::wachtTot(voorwaarde, evenMs);
+        });
+    }
+
+    /// Geeft met toetsen een opdracht die om een pad om op te slaan vraagt, ook vlak na een knipbeurt.
+    static void vraagOpslaan(const std::string& toetsen);
+
     /// Sluit het actieve venster zoals het sluitkruis dat doet, tot een voorwaarde geldt. De vensterbeheerder
     /// mist een toets die komt terwijl hij nog bezig is.
     template <typename Voorwaarde>

@@ -35,7 +35,7 @@ class Programma : public Bediening {
         druk("ctrl+o");
         kiesPad(openDialoog, bron);
         druk("ctrl+f");
-        druk("ctrl+s");
+        vraagOpslaan("ctrl+s");
         const fs::path doel = omgeving_.thuis() / naam;
         wachtOpVenster(opslaanDialoog);
         druk("Return");  // de voorgestelde naam in de voorgestelde directory
@@ -86,7 +86,7 @@ TEST_F(Programma, BewaartBijAfsluitenEerstHetResultaat) {
     druk("ctrl+o");
     kiesPad(openDialoog, bron);
     druk("ctrl+f");
-    druk("ctrl+q");
+    vraagOpslaan("ctrl+q");
     const fs::path doel = omgeving_.werk() / "uit.c";
     typPad(opslaanDialoog, doel);
     verwachtRustigEinde();
@@ -291,7 +291,7 @@ TEST_F(Programma, HoudtEenKlikOpDezelfdeModusVoorNiets) {
     kiesPad(openDialoog, bron);
     druk("ctrl+f");
     klik(60, 431);  // "Enkel bestand", de keuze die er al staat
-    druk("ctrl+s");
+    vraagOpslaan("ctrl+s");
     kiesPad(opslaanDialoog, omgeving_.werk() / "uit.c");
     EXPECT_EQ(verwachtKnipsel(hulp::leesBestand(bron)), hulp::leesBestand(omgeving_.werk() / "uit.c"));
     druk("ctrl+q");

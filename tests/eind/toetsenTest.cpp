@@ -137,7 +137,7 @@ TEST_F(Toetsen, LopenDoorHetMenu) {
     druk("Return");
     kiesPad(openDialoog, bron_, linkereditor);
     druk("ctrl+f");
-    druk("ctrl+s");
+    vraagOpslaan("ctrl+s");
     kiesPad(opslaanDialoog, doel_, linkereditor);
     EXPECT_EQ(std::string(origineel) + origineel + "\n", hulp::leesBestand(doel_));
     sluitAf();

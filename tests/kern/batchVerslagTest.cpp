@@ -192,7 +192,8 @@ TEST(BatchVerslag, NoemtEenStoringVoorDeMarkers) {
     Afloop afloop = maakVlak();
     maakOnschrijfbaar(afloop, "is een directory");
     afloop.knip.bevindingen.lijst = {{.regel = 9, .soort = Soort::zonderEind}};
-    verwacht(afloop, {"fout | Fout: regel 9: begin zonder eind: alles hierna valt weg"},
+    verwacht(afloop,
+             {"fout | Fout: niet geknipt", "fout | Fout: regel 9: begin zonder eind: alles hierna valt weg"},
              {"fout | Fout: niet te schrijven (is een directory)",
               "fout | Fout: 1 fout in de markers; zie links"});
     Afloop gebleven = maakTerPlaatse();
