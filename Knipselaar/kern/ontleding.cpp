@@ -36,8 +36,8 @@ void Ontleder::neem(std::string_view regels) {
 void Ontleder::neemStaart(std::string_view regel) {
     basis_ += regel.size();
     const Markerpaar* begin = zoekBegin(regel);
-    const bool sluit = filter_.isInBlok() && paar_->eind.past(regel);
-    if (!sluit && begin != nullptr && !begin->begin.pastOpElkeRegel()) {
+    const bool isEigenEind = filter_.isInBlok() && paar_->eind.past(regel);
+    if (!isEigenEind && begin != nullptr && !begin->begin.pastOpElkeRegel()) {
         meld(nummer_, Soort::beginZonderRegeleinde);
     } else if (isEind(regel)) {
         meld(nummer_, Soort::eindZonderRegeleinde);
