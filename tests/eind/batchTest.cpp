@@ -103,7 +103,7 @@ class Batch : public Bediening {
         EXPECT_EQ("", fouten());
     }
 
-    static constexpr int lang = 15000;  ///< bestanden in een lange run
+    static constexpr int lang = LANGE_RUN;  ///< bestanden in een lange run
     /// Te lezen voor iedereen, te veranderen door niemand.
     static constexpr fs::perms alleenLezen =
         fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read | fs::perms::others_exec;

@@ -31,6 +31,9 @@ TEST(BijnaMarker, VergelijktOokHoofdlettersBuitenAscii) {
     EXPECT_TRUE(marker.lijkt("één één"));
     EXPECT_TRUE(marker.lijkt("# ÉÉN één"));
     EXPECT_FALSE(marker.lijkt("een een"));
+    const BijnaMarker maal(wxString::FromUTF8("3×4"));
+    EXPECT_TRUE(maal.lijkt("3 × 4"));
+    EXPECT_FALSE(maal.lijkt("3÷4")) << "het maalteken is geen hoofdletter";
 }
 
 TEST(BijnaMarker, LijktNietsOpEenMarkerZonderHoofdzaak) {
@@ -54,6 +57,7 @@ TEST(BijnaZoeker, VindtDeEersteRegelVanafEenPlaats) {
     EXPECT_EQ("\t# EIND\n", regels.substr(tweede->begin, tweede->eind - tweede->begin));
     EXPECT_FALSE(zoeker.zoekRegel(regels, tweede->eind)) << "de laatste regel heeft geen regeleinde";
     EXPECT_FALSE(zoeker.zoekRegel("", 0));
+    EXPECT_FALSE(zoeker.zoekRegel("x\n /*", 0));
     EXPECT_EQ(0U, zoeker.geefMarker("BEGIN"));
     EXPECT_EQ(1U, zoeker.geefMarker("eind"));
     EXPECT_FALSE(zoeker.geefMarker("begin eind"));

@@ -143,3 +143,12 @@ TEST(MarkerMasker, NeemtJokersLetterlijkAlsDatMoet) {
     EXPECT_EQ(3U, sterren.zoekRegel("ab\n/* Begin? */\n", 0)->begin);
     EXPECT_FALSE(sterren.zoekRegel("/** Begin? **/\n", 0));
 }
+
+TEST(MarkerMasker, WeetOfElkeRegelPast) {
+    for (const char* marker : {"", "*", "***"}) {
+        EXPECT_TRUE(MarkerMasker(marker).pastOpElkeRegel()) << marker;
+    }
+    for (const char* marker : {"?", "*?", "a", "*a*"}) {
+        EXPECT_FALSE(MarkerMasker(marker).pastOpElkeRegel()) << marker;
+    }
+}

@@ -144,6 +144,23 @@ TEST(Ontleding, ZegtEenmaalDatEenMarkerLeegIs) {
              "a\nb\n");
 }
 
+TEST(Ontleding, KentMarkersDieMiddenInEenTekenVanElkaarVerschillen) {
+    const auto mal = KnipMal({wxString::FromUTF8("€₫"), wxString::FromUTF8("€₭"), "V"});
+    const auto uitslag = ontleed(mal, "a\n€₫\nx\n€₭\n€₭\n");
+    EXPECT_EQ(1U, uitslag.blokken.size());
+    EXPECT_EQ(toon({{5, Soort::zonderBegin}}), toon(uitslag.bevindingen.lijst));
+}
+
+TEST(Ontleding, ZoektAlleenNaarBijnaMarkersAlsDatGevraagdIs) {
+    const kern::MarkerReeks reeks(
+        {{.begin = kern::MarkerMasker("Student Begin"), .eind = kern::MarkerMasker("Student Eind")}},
+        kern::Bijna::nee);
+    Ontleder ontleder(reeks);
+    ontleder.neem("Student Begin\n//Student  \nStudent begin\nStudent Eind\n");
+    ontleder.neemStaart("student eind");
+    EXPECT_EQ("", toon(ontleder.maakAf().lijst));
+}
+
 TEST(Ontleding, BewaartHoogstensZoveelEnTeltDeRest) {
     const KnipMal mal({"B", "E", "V"});
     Ontleder ontleder(

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "Knipselaar/venster/merken.h"
 #include "tests/venster/dialogen.h"
@@ -222,6 +223,17 @@ TEST_F(Markering, MerktEenDeelVanEenRegelAlsDeVervangingMiddenInEindigt) {
     EXPECT_EQ("..vvvvv..", kleuring) << "alleen de vervanging zelf";
 }
 
+TEST_F(Markering, MerktVervangingenDieOpEenRegelStaan) {
+    zetTeksten("B", "E", "V");
+    zetOrigineel("a\nB\nx\nE\nB\ny\nE\nc\n");
+    knip();
+    ASSERT_EQ("a\nVVc\n", tekstVan(aangepast()));
+    EXPECT_EQ("...", achtergronden(aangepast()));
+    EXPECT_NE(0, aangepast()->IndicatorAllOnFor(2));
+    EXPECT_EQ(aangepast()->IndicatorAllOnFor(2), aangepast()->IndicatorAllOnFor(3));
+    EXPECT_EQ(0, aangepast()->IndicatorAllOnFor(4));
+}
+
 TEST_F(Markering, ZegtBijWelkBestandEenOudResultaatHoort) {
     zetTeksten("B", "E", "V\n");
     open("ringbuffer.c", "a\r\nB\r\nx\r\nE\r\n");
@@ -234,9 +246,17 @@ TEST_F(Markering, ZegtBijWelkBestandEenOudResultaatHoort) {
     EXPECT_EQ(Lijst{}, bijschriften(aangepast())) << "weer hetzelfde";
     typ(0, "nieuw ");
     EXPECT_EQ((Lijst{kop + "het origineel is veranderd"}), bijschriften(aangepast()));
+    typ(0, "en ");
+    EXPECT_EQ((Lijst{kop + "het origineel is veranderd"}), bijschriften(aangepast()));
+    origineel()->Undo();
     origineel()->Undo();
     wacht();
     EXPECT_EQ(Lijst{}, bijschriften(aangepast()));
+    const wxFileName pad = std::exchange(lid(&Inzage::huidigBestand), wxFileName("/elders/ringbuffer.c"));
+    wacht();
+    EXPECT_EQ((Lijst{kop + "er is een ander bestand geopend of toegevoegd"}), bijschriften(aangepast()))
+        << "met dezelfde tekst";
+    lid(&Inzage::huidigBestand) = pad;
     lid(&Inzage::beginMarkerTekst)->SetValue("C");
     wacht();
     EXPECT_EQ((Lijst{kop + "een marker is veranderd"}), bijschriften(aangepast()));
