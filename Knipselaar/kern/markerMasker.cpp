@@ -33,6 +33,10 @@ MarkerMasker::MarkerMasker(const wxString& marker, Jokers jokers)
     }
 }
 
+bool MarkerMasker::pastOpElkeRegel() const {
+    return geefAnker().empty() && !heeftVraagteken_;
+}
+
 // Een regel kan alleen passen als alle stukken er op volgorde in staan. Zonder "?" is dat ook genoeg; met
 // "?" beslist de toolkit, die er eigen regels voor heeft (een "?" direct na een "*" telt bijvoorbeeld niet).
 bool MarkerMasker::past(std::string_view regel) const {

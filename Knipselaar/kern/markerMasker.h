@@ -33,7 +33,7 @@ class MarkerMasker {
     const wxString& geefMarker() const { return marker_; }
 
     /// Of elke regel past, omdat de marker leeg is of alleen uit "*" bestaat.
-    bool pastOpElkeRegel() const { return geefAnker().empty() && !heeftVraagteken_; }
+    bool pastOpElkeRegel() const;
 
     /// Of een regel past.
     /// @param regel  één regel in UTF-8 zonder regeleinde.
