@@ -7,6 +7,10 @@
 #include <wx/msgdlg.h>
 #include <wx/stc/stc.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "Knipselaar/kern/batch.h"
 #include "Knipselaar/kern/batchVerslag.h"
 #include "Knipselaar/kern/keuzes.h"
@@ -42,11 +46,10 @@ class Logboek {
     void werkBij() {
         const int begin = editor_.GetLength();
         editor_.AppendTextRaw(regels_.data(), static_cast<int>(regels_.size()));
-        for (const Bij& bij : bijschriften_) {
+        for (const Bij& bij : std::exchange(bijschriften_, {})) {
             bijschrijver_.zet(editor_.LineFromPosition(begin + static_cast<int>(bij.plaats)), bij.lijst);
         }
         regels_.clear();
-        bijschriften_.clear();
     }
 
     /// Zet een bijschrift onder het geheel, en laat alle bijschriften zien.
