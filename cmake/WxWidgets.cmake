@@ -21,5 +21,7 @@ target_compile_definitions(knipselaar_zonder_venster INTERFACE wxUSE_GUI=0)
 
 # GTK zelf, voor het weinige dat de toolkit er niet van doorgeeft: namen voor schermlezers en, in de tests, het
 # Over-venster.
-find_package(PkgConfig REQUIRED)
-pkg_check_modules(GTK3 REQUIRED IMPORTED_TARGET gtk+-3.0)
+if(NOT WIN32)
+  find_package(PkgConfig REQUIRED)
+  pkg_check_modules(GTK3 REQUIRED IMPORTED_TARGET gtk+-3.0)
+endif()

@@ -5,7 +5,7 @@
 
 #include <memory>
 
-#include "Knipselaar/venster/invoergreep.h"
+#include "Knipselaar/venster/systeem/invoergreep.h"
 
 class wxIdleEvent;
 

@@ -1,4 +1,4 @@
-#include "Knipselaar/venster/invoergreep.h"
+#include "Knipselaar/venster/systeem/invoergreep.h"
 
 #include <gtk/gtk.h>
 
