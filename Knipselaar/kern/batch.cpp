@@ -57,7 +57,7 @@ class EchtePaden {
             echteDirectory_ = geefEchtPad(directory);
             leesKenmerken(echteDirectory_, kenmerken_);
         }
-        const std::string echt = plak(echteDirectory_, geefNaam(pad));
+        std::string echt = plak(echteDirectory_, geefNaam(pad));
         Kenmerken kenmerken;
         if (echteDirectory_.empty() || leesEigenKenmerken(echt, kenmerken) ||
             kenmerken.soort == Bestandssoort::link) {
