@@ -30,6 +30,7 @@ std::string Bediening::programmaPad() {
 void Bediening::start(const std::vector<std::string>& argumenten) {
     std::vector<std::string> opdracht{programmaPad()};
     opdracht.insert(opdracht.end(), argumenten.begin(), argumenten.end());
+    omgeving_.startSchermlezerbus();
     startOpdracht(opdracht);
 }
 
@@ -51,8 +52,19 @@ void Bediening::startAlsGewoneGebruiker() {
     }
     const std::string niemand = std::to_string(hulp::niemand);
     // Wie zijn dekking laat meten, moet die kunnen opschrijven.
-    startOpdracht({"env", "LLVM_PROFILE_FILE=" + (map / "dekking").string(), "setpriv", "--reuid", niemand,
-                   "--regid", niemand, "--clear-groups", "--pdeathsig", "KILL", programma});
+    std::vector<std::string> opdracht{"env",         "LLVM_PROFILE_FILE=" + (map / "dekking").string(),
+                                      "setpriv",     "--reuid",
+                                      niemand,       "--regid",
+                                      niemand,       "--clear-groups",
+                                      "--pdeathsig", "KILL"};
+    // Op een bus van een ander komt niemand; wie meekijkt is dus ook van hem.
+    omgeving_.startSchermlezerbus(opdracht);
+    const fs::path kijker = map / "schermlezer";
+    fs::copy_file(SCHERMLEZER, kijker);
+    schermlezer_ = opdracht;
+    schermlezer_.push_back(kijker);
+    opdracht.push_back(programma);
+    startOpdracht(opdracht);
 }
 
 void Bediening::startOpdracht(const std::vector<std::string>& opdracht) {
@@ -133,19 +145,56 @@ void Bediening::kiesPad(const std::string& titel, const fs::path& pad) {
     wachtOpVenster(hoofdvenster);
 }
 
-void Bediening::klik(int x, int y, int knop) {
-    const std::string nummer = wachtOpVenster(hoofdvenster);
-    voerUit({"xdotool", "mousemove", "--window", nummer, std::to_string(x), std::to_string(y), "click",
-             std::to_string(knop)});
+std::string Bediening::kijk(const std::vector<std::string>& vraag) const {
+    std::vector<std::string> opdracht = schermlezer_;
+    opdracht.insert(opdracht.end(), vraag.begin(), vraag.end());
+    return voerUit(opdracht);
 }
 
-std::string Bediening::kiekje(const std::string& venster, const std::string& uitsnede) {
+std::string Bediening::boom() const {
+    return kijk({"boom"});
+}
+
+Vlak Bediening::zoek(const std::string& ding) const {
+    Vlak gevonden;
+    const bool isEr = hulp::wachtTot([&] {
+        std::istringstream plekken(kijk({"plek", ding}));
+        Vlak plek;
+        while (plekken >> plek.links >> plek.boven >> plek.breedte >> plek.hoogte) {
+            gevonden = plek;
+        }
+        return gevonden.hoogte > 0;
+    });
+    EXPECT_TRUE(isEr) << ding << " is er niet";
+    return gevonden;
+}
+
+void Bediening::klik(const Vlak& plek, int knop) {
+    const std::string nummer = wachtOpVenster(hoofdvenster);
+    voerUit({"xdotool", "mousemove", "--window", nummer, std::to_string(plek.links + plek.breedte / 2),
+             std::to_string(plek.boven + plek.hoogte / 2), "click", std::to_string(knop)});
+}
+
+std::string Bediening::kiekje(const std::string& venster, const Vlak& vlak) {
+    const std::string uitsnede = std::to_string(vlak.breedte) + "x" + std::to_string(vlak.hoogte) + "+" +
+                                 std::to_string(vlak.links) + "+" + std::to_string(vlak.boven);
     return voerUit({"import", "-window", venster, "-crop", uitsnede, "-depth", "8", "rgb:-"});
 }
 
-bool Bediening::isBruikbaar(const std::string& uitsnede) {
+bool Bediening::isBruikbaar(const std::string& ding) const {
+    const std::string nu = boom();
+    const std::size_t plek = nu.find("\n" + ding);
+    return plek != std::string::npos &&
+           !nu.substr(plek + 1, nu.find('\n', plek + 1) - plek - 1).ends_with(", uit");
+}
+
+void Bediening::wachtOpBruikbaar(const std::string& ding) const {
+    EXPECT_TRUE(hulp::wachtTot([&] { return isBruikbaar(ding); })) << ding << " blijft uit";
+}
+
+bool Bediening::heeftTekst(const Vlak& vlak) {
     constexpr unsigned char donker = 80;
-    const std::string kleuren = kiekje(wachtOpVenster(hoofdvenster), uitsnede);
+    const std::string kleuren = kiekje(wachtOpVenster(hoofdvenster), vlak);
     for (std::size_t i = 0; i + 2 < kleuren.size(); i += 3) {
         if (std::all_of(&kleuren[i], &kleuren[i] + 3,
                         [](char deel) { return static_cast<unsigned char>(deel) < donker; })) {
@@ -155,10 +204,8 @@ bool Bediening::isBruikbaar(const std::string& uitsnede) {
     return false;
 }
 
-void Bediening::wachtOpBeginmodus() {
-    const char* openen = "52x16+320+438";
-    const char* bron = "80x16+668+427";
-    EXPECT_TRUE(hulp::wachtTot([&] { return isBruikbaar(openen) && !isBruikbaar(bron); }))
+void Bediening::wachtOpBeginmodus() const {
+    EXPECT_TRUE(hulp::wachtTot([this] { return isBruikbaar(openKnop) && !isBruikbaar(bronVeld); }))
         << "geen beginmodus";
 }
 

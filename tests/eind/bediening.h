@@ -2,6 +2,9 @@
 
 // Bedient het gebouwde programma van buiten, zoals een gebruiker: een proces op een eigen beeldscherm met
 // vensterbeheer, toetsen en muisklikken via de X-server. Wacht altijd op wat er te zien is, nooit op de klok.
+// Waar iets staat en of het te gebruiken is, vraagt het zoals een schermlezer: elke uitgave van de toolkit
+// legt haar venster net anders neer. Een ding staat hier als een rol en een naam, zoals: push button
+// "Openen".
 
 #include <gtest/gtest.h>
 
@@ -15,11 +18,26 @@
 
 using hulp::voerUit;
 
+/// Een stuk van het hoofdvenster, in punten vanaf zijn linkerbovenhoek.
+struct Vlak {
+    int links = 0;
+    int boven = 0;
+    int breedte = 0;
+    int hoogte = 0;
+};
+
 class Bediening : public testing::Test {
   protected:
     static constexpr const char* hoofdvenster = "^Knipselaar$";
     static constexpr const char* openDialoog = "^Kies een origineel bestand[.]$";
     static constexpr const char* opslaanDialoog = "^Sla aangepast bestand op[.]$";
+    static constexpr const char* linkereditor = "panel \"Origineel\"";
+    static constexpr const char* rechtereditor = "panel \"Aangepast\"";
+    static constexpr const char* bronVeld = "text \"Bron directory\"";
+    static constexpr const char* doelVeld = "text \"Bestemming directory\"";
+    static constexpr const char* openKnop = "push button \"Openen\"";
+    static constexpr const char* opslaanKnop = "push button \"Opslaan\"";
+    static constexpr const char* knipKnop = "push button \"Zoeken en vervangen\"";
 
     Bediening();
     ~Bediening() override;
@@ -49,21 +67,30 @@ class Bediening : public testing::Test {
     /// Kiest in een bestandsdialoog een pad en wacht tot het hoofdvenster weer aan de beurt is.
     static void kiesPad(const std::string& titel, const std::filesystem::path& pad);
 
-    /// Klikt op een plaats van het hoofdvenster, in punten vanaf zijn linkerbovenhoek.
-    static void klik(int x, int y, int knop = 1);
+    /// Wat een schermlezer in het venster vindt, een ding per regel.
+    std::string boom() const;
 
-    /// Of er op dit stuk van het hoofdvenster zwarte tekst staat. Wat uitgeschakeld is, is grijs; een venster
-    /// dat nog niet aan de beurt is ook.
-    /// @param uitsnede  als bij kiekje.
-    static bool isBruikbaar(const std::string& uitsnede);
+    /// Waar een ding staat; wacht tot het er is. Heten er meer zo, dan het laatste: een vak heet als wat erin
+    /// zit.
+    Vlak zoek(const std::string& ding) const;
+
+    /// Klikt midden op een stuk van het hoofdvenster.
+    static void klik(const Vlak& plek, int knop = 1);
+
+    /// Of een ding er is en niet uit staat.
+    bool isBruikbaar(const std::string& ding) const;
+    void wachtOpBruikbaar(const std::string& ding) const;
+
+    /// Of er op dit stuk van het hoofdvenster zwarte tekst staat.
+    static bool heeftTekst(const Vlak& vlak);
 
     /// Wacht tot het hoofdvenster "Enkel bestand" toont. Vlak na het starten, voor het programma voor het
     /// eerst naar de modus kijkt, zijn ook de kiezers nog bruikbaar.
-    static void wachtOpBeginmodus();
+    void wachtOpBeginmodus() const;
 
     /// De kleuren van een venster, rij na rij drie bytes per punt.
-    /// @param uitsnede  het stuk dat telt, als BREEDTExHOOGTE+LINKS+BOVEN in punten; standaard alles.
-    static std::string kiekje(const std::string& venster, const std::string& uitsnede = "0x0+0+0");
+    /// @param vlak  het stuk dat telt; standaard alles.
+    static std::string kiekje(const std::string& venster, const Vlak& vlak = {});
 
     /// Drukt toetsen in tot een voorwaarde geldt. Wat tijdens een knipbeurt gedrukt wordt, vervalt.
     template <typename Voorwaarde>
@@ -102,4 +129,9 @@ class Bediening : public testing::Test {
 
     hulp::Omgeving omgeving_{true};
     std::unique_ptr<hulp::Kindproces> programma_;
+
+  private:
+    std::string kijk(const std::vector<std::string>& vraag) const;
+
+    std::vector<std::string> schermlezer_{SCHERMLEZER};
 };

@@ -1,17 +1,11 @@
 #pragma once
 
-// Bedient het programma met alleen toetsen en ziet het zoals een schermlezer: wie de toetsen heeft, en hoe
-// alles heet. Een ding staat hier steeds als een rol en een naam, zoals: push button "Openen".
+// Bedient het programma met alleen toetsen en ziet zoals een schermlezer wie ze heeft.
 
 #include "tests/eind/bediening.h"
 
 class Toegang : public Bediening {
   protected:
-    static constexpr const char* linkereditor = "panel \"Origineel\"";
-    static constexpr const char* rechtereditor = "panel \"Aangepast\"";
-
-    Toegang();
-
     /// Start het programma, met de toetsen in de linkereditor, en begint te volgen wie ze krijgt.
     void start();
 
@@ -30,12 +24,6 @@ class Toegang : public Bediening {
 
     /// Kiest een modus met de toetsen en wacht tot de bediening ernaar staat.
     void kiesModus(const std::string& modus) const;
-
-    /// Wat een schermlezer in het venster vindt, een ding per regel.
-    static std::string boom();
-
-    /// Wacht tot een ding te gebruiken is.
-    static void wachtOpBruikbaar(const std::string& ding);
 
     /// Typt tekst waar de toetsen nu zijn.
     static void typ(const std::string& tekst);

@@ -69,14 +69,9 @@ class Toetsen : public Toegang {
     static constexpr const char* beginVeld = "text \"Parse begin\"";
     static constexpr const char* eindVeld = "text \"Parse einde\"";
     static constexpr const char* vervangVeld = "text \"Vervangingstekst\"";
-    static constexpr const char* openKnop = "push button \"Openen\"";
-    static constexpr const char* opslaanKnop = "push button \"Opslaan\"";
-    static constexpr const char* bronVeld = "text \"Bron directory\"";
     static constexpr const char* bronKnop = "push button \"Bladeren\" (Bron directory)";
-    static constexpr const char* doelVeld = "text \"Bestemming directory\"";
     static constexpr const char* doelKnop = "push button \"Bladeren\" (Bestemming directory)";
     static constexpr const char* soortKeuze = "toggle button \"Soort bestanden\"";
-    static constexpr const char* knipKnop = "push button \"Zoeken en vervangen\"";
     static constexpr const char* afsluitKnop = "push button \"Afsluiten\"";
     static constexpr const char* origineel = "a\nBEGIN\nb\nEIND\nc\n";
     fs::path bron_ = omgeving_.werk() / "bron";

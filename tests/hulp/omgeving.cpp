@@ -105,7 +105,10 @@ std::string Omgeving::startBediende(const std::vector<std::string>& opdracht) {
     return regel;
 }
 
-void Omgeving::startSchermlezerbus() {
+void Omgeving::startSchermlezerbus(std::vector<std::string> als) {
+    if (std::getenv("DBUS_SESSION_BUS_ADDRESS") != nullptr) {
+        return;
+    }
     // Alleen deze ene dienst: wat het bureaublad van de machine verder te bieden heeft, hoort hier niet te
     // starten.
     const fs::path diensten = map_ / "diensten";
@@ -116,8 +119,9 @@ void Omgeving::startSchermlezerbus() {
                                    "</listen><servicedir>" + diensten.string() +
                                    "</servicedir><policy context=\"default\"><allow send_destination=\"*\"/>"
                                    "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>");
-    const std::string adres =
-        startBediende({"dbus-daemon", "--config-file=" + instelling.string(), "--nofork", "--print-address"});
+    als.insert(als.end(),
+               {"dbus-daemon", "--config-file=" + instelling.string(), "--nofork", "--print-address"});
+    const std::string adres = startBediende(als);
     setenv("DBUS_SESSION_BUS_ADDRESS", adres.c_str(), 1);
     unsetenv("NO_AT_BRIDGE");
 }

@@ -55,8 +55,9 @@ class Omgeving {
     ~Omgeving();
 
     /// Start een bus waarop een schermlezer meeluistert, en laat programma's die daarna starten eraan
-    /// meedoen.
-    void startSchermlezerbus();
+    /// meedoen. Is die bus er al, dan blijft het bij die.
+    /// @param als  de opdracht waarmee een ander haar start, dan is zij van hem; leeg als dat niet hoeft.
+    void startSchermlezerbus(std::vector<std::string> als = {});
 
     std::filesystem::path thuis() const { return map_ / "thuis"; }
 
