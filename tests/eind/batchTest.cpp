@@ -39,7 +39,7 @@ class Batch : public Bediening {
     void vulKiezer(const std::string& veld, const fs::path& pad) const {
         klik(zoek(veld));
         druk("ctrl+a");
-        voerUit({"xdotool", "type", "--delay", "20", pad.string()});
+        typ(pad);
     }
 
     /// Knipt zodra dat kan.
@@ -164,7 +164,7 @@ TEST_F(Batch, SpaartGelijkeDirectoriesAlsDeVraagWeggedaanWordt) {
     EXPECT_TRUE(hulp::isBoom(bron_, vooraf));
     knip();
     wachtOpVenster(vraag);
-    EXPECT_TRUE(sluitTot([&vraag] { return !isZichtbaar(vraag); }));
+    EXPECT_TRUE(sluitTot([&] { return !isZichtbaar(vraag); }));
     wachtOpVenster(hoofdvenster);
     EXPECT_TRUE(hulp::isBoom(bron_, vooraf));
     sluitAf();
@@ -215,7 +215,7 @@ TEST_F(Batch, LaatVervallenWatErTijdensEenRunGedruktWordt) {
                  std::to_string(plek.links + plek.breedte / 2), std::to_string(plek.boven + plek.hoogte / 2),
                  "click", "1"});
     }
-    voerUit({"xdotool", "type", "x"});
+    typ("x");
     druk("ctrl+q");
     druk("alt+F4");
     EXPECT_LT(tel(doel_), lang - 1) << "de run moet nog bezig zijn";

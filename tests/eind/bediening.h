@@ -1,10 +1,10 @@
 #pragma once
 
 // Bedient het gebouwde programma van buiten, zoals een gebruiker: een proces op een eigen beeldscherm met
-// vensterbeheer, toetsen en muisklikken via de X-server. Wacht altijd op wat er te zien is, nooit op de klok.
-// Waar iets staat en of het te gebruiken is, vraagt het zoals een schermlezer: elke uitgave van de toolkit
-// legt haar venster net anders neer. Een ding staat hier als een rol en een naam, zoals: push button
-// "Openen".
+// vensterbeheer. Toetsen gaan op elk beeldscherm, muisklikken en afdrukken alleen via de X-server. Wacht
+// altijd op wat er te zien is, nooit op de klok. Waar iets staat en of het te gebruiken is, vraagt het zoals
+// een schermlezer: elke uitgave van de toolkit legt haar venster net anders neer. Een ding staat hier als een
+// rol en een naam, zoals: push button "Openen".
 
 #include <gtest/gtest.h>
 
@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/eind/scherm.h"
 #include "tests/hulp/omgeving.h"
 #include "tests/hulp/opdracht.h"
 
@@ -39,14 +40,15 @@ class Bediening : public testing::Test {
     static constexpr const char* opslaanKnop = "push button \"Opslaan\"";
     static constexpr const char* knipKnop = "push button \"Zoeken en vervangen\"";
 
-    Bediening();
+    explicit Bediening(hulp::Beeldscherm beeldscherm = hulp::Beeldscherm::vensterbeheer);
     ~Bediening() override;
 
     /// Het programma dat bediend wordt: dat van deze bouw, of wat KNIPSELAAR_PROGRAMMA noemt (een pad of een
     /// naam uit PATH), zoals een geïnstalleerd programma.
     static std::string programmaPad();
 
-    /// Start het programma en wacht tot het venster er staat en de toetsen krijgt.
+    /// Start het programma en wacht tot het venster er staat en de toetsen krijgt. Op Wayland is het altijd
+    /// van een gewone gebruiker.
     void start(const std::vector<std::string>& argumenten = {});
 
     /// Hetzelfde als een gebruiker die niet overal bij mag, ook als root de tests draait. De omgeving is
@@ -54,18 +56,24 @@ class Bediening : public testing::Test {
     void startAlsGewoneGebruiker();
 
     /// Drukt toetsen in, zoals "ctrl+o".
-    static void druk(const std::string& toetsen);
+    void druk(const std::string& toetsen) const;
 
-    /// Wacht tot een venster met deze titel zichtbaar is en de toetsen krijgt; geeft zijn nummer.
-    static std::string wachtOpVenster(const std::string& titel);
-    static bool isZichtbaar(const std::string& titel);
-    static void wachtTotWeg(const std::string& titel);
+    /// Typt tekst waar de toetsen nu zijn.
+    void typ(const std::string& tekst) const;
+
+    /// Wacht tot een venster met deze titel zichtbaar is en de toetsen krijgt.
+    void wachtOpVenster(const std::string& titel) const;
+    bool isZichtbaar(const std::string& titel) const;
+    void wachtTotWeg(const std::string& titel) const;
+
+    /// Als wachtOpVenster; geeft het nummer dat de X-server het venster gaf.
+    std::string vensterNummer(const std::string& titel) const;
 
     /// Typt in een bestandsdialoog een pad en bevestigt het.
-    static void typPad(const std::string& titel, const std::filesystem::path& pad);
+    void typPad(const std::string& titel, const std::filesystem::path& pad) const;
 
     /// Kiest in een bestandsdialoog een pad en wacht tot het hoofdvenster weer aan de beurt is.
-    static void kiesPad(const std::string& titel, const std::filesystem::path& pad);
+    void kiesPad(const std::string& titel, const std::filesystem::path& pad) const;
 
     /// Wat een schermlezer in het venster vindt, een ding per regel.
     std::string boom() const;
@@ -75,14 +83,14 @@ class Bediening : public testing::Test {
     Vlak zoek(const std::string& ding) const;
 
     /// Klikt midden op een stuk van het hoofdvenster.
-    static void klik(const Vlak& plek, int knop = 1);
+    void klik(const Vlak& plek, int knop = 1) const;
 
     /// Of een ding er is en niet uit staat.
     bool isBruikbaar(const std::string& ding) const;
     void wachtOpBruikbaar(const std::string& ding) const;
 
     /// Of er op dit stuk van het hoofdvenster zwarte tekst staat.
-    static bool heeftTekst(const Vlak& vlak);
+    bool heeftTekst(const Vlak& vlak) const;
 
     /// Wacht tot het hoofdvenster "Enkel bestand" toont. Vlak na het starten, voor het programma voor het
     /// eerst naar de modus kijkt, zijn ook de kiezers nog bruikbaar.
@@ -94,7 +102,7 @@ class Bediening : public testing::Test {
 
     /// Drukt toetsen in tot een voorwaarde geldt. Wat tijdens een knipbeurt gedrukt wordt, vervalt.
     template <typename Voorwaarde>
-    static bool drukTot(const std::string& toetsen, Voorwaarde&& voorwaarde) {
+    bool drukTot(const std::string& toetsen, Voorwaarde&& voorwaarde) const {
         constexpr int evenMs = 3000;
         return hulp::wachtTot([&] {
             druk(toetsen);
@@ -103,13 +111,13 @@ class Bediening : public testing::Test {
     }
 
     /// Geeft met toetsen een opdracht die om een pad om op te slaan vraagt, ook vlak na een knipbeurt.
-    static void vraagOpslaan(const std::string& toetsen);
+    void vraagOpslaan(const std::string& toetsen) const;
 
     /// Sluit het actieve venster zoals het sluitkruis dat doet, tot een voorwaarde geldt. De vensterbeheerder
     /// mist een toets die komt terwijl hij nog bezig is.
     template <typename Voorwaarde>
-    static bool sluitTot(Voorwaarde&& voorwaarde) {
-        return hulp::wachtTot([&voorwaarde] {
+    bool sluitTot(Voorwaarde&& voorwaarde) const {
+        return hulp::wachtTot([&] {
             druk("alt+F4");
             return hulp::wachtTot(voorwaarde, 1000);
         });
@@ -127,11 +135,19 @@ class Bediening : public testing::Test {
     /// Start een opdracht die het programma wordt en wacht tot het venster er staat en de toetsen krijgt.
     void startOpdracht(const std::vector<std::string>& opdracht);
 
-    hulp::Omgeving omgeving_{true};
+    /// De opdracht waarmee een schermlezer iets doet.
+    std::vector<std::string> schermlezer(const std::vector<std::string>& vraag) const;
+
+    hulp::Omgeving omgeving_;
     std::unique_ptr<hulp::Kindproces> programma_;
 
   private:
+    std::vector<std::string> wordGewoneGebruiker();
+    void startAls(const std::vector<std::string>& als, const std::vector<std::string>& argumenten);
     std::string kijk(const std::vector<std::string>& vraag) const;
 
+    hulp::Beeldscherm beeldscherm_;
+    std::unique_ptr<Scherm> scherm_;
+    std::string uitvoerbaar_ = programmaPad();  ///< waar de gebruiker het programma vindt
     std::vector<std::string> schermlezer_{SCHERMLEZER};
 };

@@ -207,7 +207,7 @@ TEST_F(Programma, OverleeftEenOpslagVolOnzin) {
     hulp::schrijfBestand(omgeving_.opslag(), onzin);
     programma_ = std::make_unique<hulp::Kindproces>(
         std::vector<std::string>{programmaPad()}, omgeving_.werk() / "uitvoer", omgeving_.werk() / "fouten");
-    ASSERT_TRUE(hulp::wachtTot([] { return isZichtbaar(hoofdvenster); }));
+    ASSERT_TRUE(hulp::wachtTot([this] { return isZichtbaar(hoofdvenster); }));
     EXPECT_TRUE(sluitTot([this] { return programma_->isAf(); }));
     EXPECT_EQ(0, wachtOpEinde());
 }
@@ -236,8 +236,8 @@ TEST_F(Programma, SchuiftBeideEditorsMetHetWielVanElkVanBeide) {
     Vlak rechts = zoek(rechtereditor);
     rechts.breedte = links.breedte;  // even grote stroken
     // Links en rechts staan dezelfde regelnummers: de strook met nummers hoort overal gelijk te zijn.
-    const auto strook = [](const Vlak& editor) {
-        return kiekje(wachtOpVenster(hoofdvenster), nummerStrook(editor));
+    const auto strook = [this](const Vlak& editor) {
+        return kiekje(vensterNummer(hoofdvenster), nummerStrook(editor));
     };
     const auto isGelijk = [&] { return strook(links) == strook(rechts); };
     ASSERT_TRUE(hulp::wachtTot(isGelijk));
@@ -315,8 +315,8 @@ TEST_F(Programma, HoudtRegelnummersLeesbaarInEenDonkerThema) {
     druk("ctrl+o");
     kiesPad(openDialoog, neemVoorbeeld("ringbuffer.c"));
     const Vlak nummers = nummerStrook(zoek(linkereditor));
-    const auto heeftContrast = [&nummers] {
-        const std::string marge = kiekje(wachtOpVenster(hoofdvenster), nummers);
+    const auto heeftContrast = [&] {
+        const std::string marge = kiekje(vensterNummer(hoofdvenster), nummers);
         const auto [donkerste, lichtste] = std::minmax_element(
             marge.begin(), marge.end(), [](unsigned char een, unsigned char ander) { return een < ander; });
         return static_cast<unsigned char>(*donkerste) < 80 && static_cast<unsigned char>(*lichtste) > 180;

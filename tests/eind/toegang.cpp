@@ -6,8 +6,8 @@
 
 void Toegang::start() {
     Bediening::start();
-    volger_ = std::make_unique<hulp::Kindproces>(std::vector<std::string>{SCHERMLEZER, "volg"},
-                                                 omgeving_.werk() / "volgorde", omgeving_.werk() / "volger");
+    volger_ = std::make_unique<hulp::Kindproces>(schermlezer({"volg"}), omgeving_.werk() / "volgorde",
+                                                 omgeving_.werk() / "volger");
     const bool begonnen = hulp::wachtTot([this] { return !volgorde().empty(); });
     ASSERT_TRUE(begonnen) << hulp::leesBestand(omgeving_.werk() / "volger");
     EXPECT_EQ(linkereditor, volgorde().front());
@@ -55,6 +55,14 @@ void Toegang::kiesModus(const std::string& modus) const {
     wachtOpBruikbaar(doelVeld);
 }
 
-void Toegang::typ(const std::string& tekst) {
-    voerUit({"xdotool", "type", "--delay", "20", tekst});
+void Toegang::vul(const std::string& veld, const std::string& tekst) const {
+    gaNaar(veld);
+    druk("ctrl+a");
+    typ(tekst);
+}
+
+void Toegang::drukOp(const std::string& knop) const {
+    wachtOpBruikbaar(knop);
+    gaNaar(knop);
+    druk("space");
 }

@@ -6,6 +6,8 @@
 
 class Toegang : public Bediening {
   protected:
+    using Bediening::Bediening;
+
     /// Start het programma, met de toetsen in de linkereditor, en begint te volgen wie ze krijgt.
     void start();
 
@@ -25,8 +27,11 @@ class Toegang : public Bediening {
     /// Kiest een modus met de toetsen en wacht tot de bediening ernaar staat.
     void kiesModus(const std::string& modus) const;
 
-    /// Typt tekst waar de toetsen nu zijn.
-    static void typ(const std::string& tekst);
+    /// Vervangt de tekst van een veld.
+    void vul(const std::string& veld, const std::string& tekst) const;
+
+    /// Drukt met de toetsen op een knop, zodra dat kan.
+    void drukOp(const std::string& knop) const;
 
   private:
     std::unique_ptr<hulp::Kindproces> volger_;
