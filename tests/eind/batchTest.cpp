@@ -37,9 +37,8 @@ class Batch : public Bediening {
 
     /// Vult het tekstveld van een kiezer.
     void vulKiezer(const std::string& veld, const fs::path& pad) const {
-        klik(zoek(veld));
-        druk("ctrl+a");
-        typ(pad);
+        gaMetKlikNaar(veld);
+        vervang(veld, pad);
     }
 
     /// Knipt zodra dat kan.

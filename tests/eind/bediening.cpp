@@ -115,8 +115,22 @@ void Bediening::wachtTotWeg(const std::string& titel) const {
     EXPECT_TRUE(hulp::wachtTot([&] { return !isZichtbaar(titel); })) << titel << " blijft staan";
 }
 
+void Bediening::gaMetKlikNaar(const std::string& ding) const {
+    klik(zoek(ding));
+    EXPECT_TRUE(hulp::wachtTot([&] { return kijk({"toetsen"}).starts_with(ding + "\n"); }))
+        << ding << " krijgt de toetsen niet";
+}
+
+void Bediening::vervang(const std::string& veld, const std::string& tekst) const {
+    EXPECT_TRUE(hulp::wachtTot([&] {
+        druk("ctrl+a");
+        typ(tekst);
+        return volgt([&] { return kijk({"toetsen"}) == veld + "\n" + tekst; });
+    })) << tekst
+        << " is niet te typen";
+}
+
 void Bediening::typPad(const std::string& titel, const fs::path& pad) const {
-    constexpr int evenMs = 3000;
     const auto isWeg = [&] { return !isZichtbaar(titel); };
     wachtOpVenster(titel);
     bool opnieuw = false;
@@ -128,7 +142,7 @@ void Bediening::typPad(const std::string& titel, const fs::path& pad) const {
             typ(pad);
             druk("Return");
             // De eerste Return kan nog de lijst met aanvullingen sluiten.
-            if (hulp::wachtTot(isWeg, evenMs)) {
+            if (volgt(isWeg)) {
                 return true;
             }
         }
@@ -136,7 +150,7 @@ void Bediening::typPad(const std::string& titel, const fs::path& pad) const {
         if (!isWeg()) {
             druk("Return");
         }
-        return hulp::wachtTot(isWeg, 2 * evenMs);
+        return volgt(isWeg);
     })) << titel
         << " blijft staan";
 }
@@ -194,7 +208,7 @@ bool Bediening::isBruikbaar(const std::string& ding) const {
 }
 
 void Bediening::wachtOpBruikbaar(const std::string& ding) const {
-    EXPECT_TRUE(hulp::wachtTot([&] { return isBruikbaar(ding); })) << ding << " blijft uit";
+    EXPECT_TRUE(hulp::wachtTot([&] { return isBruikbaar(ding); })) << ding << " blijft uit:\n" << boom();
 }
 
 bool Bediening::heeftTekst(const Vlak& vlak) const {

@@ -69,6 +69,13 @@ class Bediening : public testing::Test {
     /// Als wachtOpVenster; geeft het nummer dat de X-server het venster gaf.
     std::string vensterNummer(const std::string& titel) const;
 
+    /// Klikt op een ding in het hoofdvenster en wacht tot het de toetsen heeft. Een vensterbeheerder geeft
+    /// een klik later door dan de toetsen die erna komen.
+    void gaMetKlikNaar(const std::string& ding) const;
+
+    /// Vervangt de tekst van een veld in het hoofdvenster dat de toetsen al heeft.
+    void vervang(const std::string& veld, const std::string& tekst) const;
+
     /// Typt in een bestandsdialoog een pad en bevestigt het.
     void typPad(const std::string& titel, const std::filesystem::path& pad) const;
 
@@ -100,27 +107,31 @@ class Bediening : public testing::Test {
     /// @param vlak  het stuk dat telt; standaard alles.
     static std::string kiekje(const std::string& venster, const Vlak& vlak = {});
 
-    /// Drukt toetsen in tot een voorwaarde geldt. Wat tijdens een knipbeurt gedrukt wordt, vervalt.
+    /// Wacht op een voorwaarde zolang die nog een gevolg kan zijn van wat net gedrukt is: even, op een drukke
+    /// machine langer.
+    template <typename Voorwaarde>
+    static bool volgt(Voorwaarde&& voorwaarde) {
+        constexpr int evenMs = 1500;
+        return hulp::wachtTot(voorwaarde, evenMs * hulp::drukte());
+    }
+
+    /// Drukt toetsen in tot een voorwaarde geldt. Wat tijdens een knipbeurt gedrukt wordt vervalt, en een
+    /// vensterbeheerder mist een toets die komt terwijl hij nog bezig is.
     template <typename Voorwaarde>
     bool drukTot(const std::string& toetsen, Voorwaarde&& voorwaarde) const {
-        constexpr int evenMs = 3000;
         return hulp::wachtTot([&] {
             druk(toetsen);
-            return hulp::wachtTot(voorwaarde, evenMs);
+            return volgt(voorwaarde);
         });
     }
 
     /// Geeft met toetsen een opdracht die om een pad om op te slaan vraagt, ook vlak na een knipbeurt.
     void vraagOpslaan(const std::string& toetsen) const;
 
-    /// Sluit het actieve venster zoals het sluitkruis dat doet, tot een voorwaarde geldt. De vensterbeheerder
-    /// mist een toets die komt terwijl hij nog bezig is.
+    /// Sluit het actieve venster zoals het sluitkruis dat doet, tot een voorwaarde geldt.
     template <typename Voorwaarde>
     bool sluitTot(Voorwaarde&& voorwaarde) const {
-        return hulp::wachtTot([&] {
-            druk("alt+F4");
-            return hulp::wachtTot(voorwaarde, 1000);
-        });
+        return drukTot("alt+F4", voorwaarde);
     }
 
     /// Wacht tot het programma zelf ophoudt; geeft zijn afloopstatus, of -1 als het blijft lopen.

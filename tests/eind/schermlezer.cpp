@@ -1,8 +1,12 @@
 // Ziet een lopend programma zoals een schermlezer het ziet: over de bus voor toegankelijkheid.
 //
-//   schermlezer boom   noemt alles waar een schermlezer iets over te zeggen heeft, in de volgorde van het
-//   schermlezer plek DING   noemt van alles wat zo heet de plaats in het venster: links, boven, breedte en
-//   hoogte schermlezer volg   noemt wat de toetsen heeft en daarna alles wat ze krijgt, tot het gestopt wordt
+//   boom       noemt alles waar een schermlezer iets over te zeggen heeft, in de volgorde van het venster
+//
+//   plek DING  noemt van alles wat zo heet de plaats in het venster: links, boven, breedte en hoogte
+//
+//   toetsen    noemt wat de toetsen heeft, met op de volgende regels de tekst erin
+//
+//   volg       noemt wat de toetsen heeft en daarna alles wat ze krijgt, tot het gestopt wordt
 //
 // Elke regel is een rol en een naam, zoals: push button "Openen". Daarachter kan een beschrijving tussen
 // haakjes staan en in de boom ook: wat het label ervan is (<-), waar het een label van is (->), en of het
@@ -121,6 +125,16 @@ void toonPlek(AtspiAccessible* ding, const std::string& gezocht) {
     }
 }
 
+void toonToetsen(AtspiAccessible* ding) {
+    if (heeftStaat(ding, ATSPI_STATE_FOCUSED)) {
+        std::cout << noem(ding) << "\n";
+        if (AtspiText* tekst = atspi_accessible_get_text_iface(ding); tekst != nullptr) {
+            std::cout << neem(atspi_text_get_text(tekst, 0, -1, nullptr));
+            g_object_unref(tekst);
+        }
+    }
+}
+
 /// Onthoudt wie de toetsen heeft: de bus meldt hetzelfde vaak twee keer.
 class Volger {
   public:
@@ -162,9 +176,14 @@ int main(int argc, char** argv) {
         std::cerr << "er is geen bus voor toegankelijkheid\n";
         return 1;
     }
+    // Op een drukke machine antwoordt een programma niet binnen de seconde die gewoon is.
+    constexpr gint hoogstensMs = 10000;
+    atspi_set_timeout(hoogstensMs, hoogstensMs);
     const Ding bureaublad(atspi_get_desktop(0));
     if (argv[1] == std::string("boom")) {
         bezoek(bureaublad.get(), toonBoom);
+    } else if (argv[1] == std::string("toetsen")) {
+        bezoek(bureaublad.get(), toonToetsen);
     } else if (argc > 2) {
         bezoek(bureaublad.get(), [argv](AtspiAccessible* ding) { toonPlek(ding, argv[2]); });
     } else {

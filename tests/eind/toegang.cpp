@@ -57,8 +57,7 @@ void Toegang::kiesModus(const std::string& modus) const {
 
 void Toegang::vul(const std::string& veld, const std::string& tekst) const {
     gaNaar(veld);
-    druk("ctrl+a");
-    typ(tekst);
+    vervang(veld, tekst);
 }
 
 void Toegang::drukOp(const std::string& knop) const {

@@ -12,6 +12,7 @@
 #include <memory>
 #include <ostream>
 #include <stdexcept>
+#include <thread>
 
 namespace hulp {
 
@@ -176,6 +177,12 @@ Omgeving::~Omgeving() {
 
 void wachtEven() {
     poll(nullptr, 0, 10);
+}
+
+int drukte() {
+    double wachtenden = 0;
+    getloadavg(&wachtenden, 1);
+    return 1 + static_cast<int>(wachtenden / std::thread::hardware_concurrency());
 }
 
 long klokMs() {

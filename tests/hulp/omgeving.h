@@ -44,7 +44,7 @@ class Kindproces {
 
 /// Wacht op een voorwaarde. False als de grens voorbij is en het nog steeds niet zo is.
 template <typename Voorwaarde>
-bool wachtTot(Voorwaarde&& voorwaarde, int hoogstensMs = 45000);
+bool wachtTot(Voorwaarde&& voorwaarde, int hoogstensMs = 90000);
 
 /// Wat de vensters van een test toont.
 enum class Beeldscherm {
@@ -95,6 +95,9 @@ class Omgeving {
 /// Eén keer kort wachten tussen twee blikken op een voorwaarde van buiten dit proces.
 void wachtEven();
 long klokMs();
+
+/// Hoeveel keer langer dan anders alles duurt: wat er wil draaien, gedeeld door de kernen.
+int drukte();
 
 template <typename Voorwaarde>
 bool wachtTot(Voorwaarde&& voorwaarde, int hoogstensMs) {
