@@ -82,5 +82,5 @@ pakketten_bediening=(xvfb xdotool openbox imagemagick)
 pakketten_pakket=(build-essential debhelper git librsvg2-bin pandoc)
 pakketten_keur_pakket=(lintian desktop-file-utils appstream man-db)
 pakketten_test=("${pakketten_bediening[@]}" libgtest-dev libatspi2.0-dev librsvg2-bin python3 gcc ghdl
-    x11-utils at-spi2-core dbus-daemon git patch make man-db)
+    x11-utils at-spi2-core dbus-daemon git patch make man-db sway wtype grim)
 pakketten_keur=(git clang clang-format clang-tidy cppcheck libbenchmark-dev libclang-rt-14-dev llvm-14)

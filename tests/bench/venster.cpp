@@ -94,7 +94,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     const std::vector<std::string> woorden(argv + 1, argv + argc);
-    const hulp::Omgeving omgeving(false);
+    const hulp::Omgeving omgeving(hulp::Beeldscherm::kaal);
     argc = 1;
     wxSetAssertHandler(nullptr);
     if (!wxEntryStart(argc, argv) || !wxGetApp().CallOnInit()) {

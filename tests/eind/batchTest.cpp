@@ -28,24 +28,22 @@ class Batch : public Bediening {
         fs::create_directory(doel_);
     }
 
-    /// Kiest een modus en wacht tot daarmee een kiezer bruikbaar is.
-    static void kiesModus(int y, int kiezerY) {
-        const std::string tekstveld = "80x16+668+" + std::to_string(kiezerY - 8);
+    /// Kiest een modus en wacht tot daarmee de kiezer van de bestemming bruikbaar is.
+    void kiesModus(const std::string& modus) const {
         wachtOpBeginmodus();
-        klik(60, y);
-        EXPECT_TRUE(hulp::wachtTot([&] { return isBruikbaar(tekstveld); })) << "geen andere modus";
+        klik(zoek(modus));
+        wachtOpBruikbaar(doelVeld);
     }
 
     /// Vult het tekstveld van een kiezer.
-    static void vulKiezer(int y, const fs::path& pad) {
-        klik(700, y);
-        druk("ctrl+a");
-        voerUit({"xdotool", "type", "--delay", "20", pad.string()});
+    void vulKiezer(const std::string& veld, const fs::path& pad) const {
+        gaMetKlikNaar(veld);
+        vervang(veld, pad);
     }
 
     /// Knipt zodra dat kan.
-    static void knip() {
-        EXPECT_TRUE(hulp::wachtTot([] { return isBruikbaar("150x16+205+555"); })) << "knippen kan niet";
+    void knip() const {
+        wachtOpBruikbaar(knipKnop);
         druk("ctrl+f");
     }
 
@@ -55,9 +53,11 @@ class Batch : public Bediening {
             hulp::schrijfBestand(bron_ / (std::to_string(i) + ".c"), origineel);
         }
         start();
-        kiesModus(directoryY, bronY);
-        vulKiezer(bronY, bron_);
-        vulKiezer(doelY, doel_);
+        kiesModus(directoryModus);
+        vulKiezer(bronVeld, bron_);
+        vulKiezer(doelVeld, doel_);
+        knipPlek_ = zoek(knipKnop);
+        anderePlek_ = zoek("radio button \"Enkel bestand\"");
         knip();
         EXPECT_TRUE(hulp::wachtTot([this] { return !fs::is_empty(doel_); }));
     }
@@ -107,12 +107,12 @@ class Batch : public Bediening {
     /// Te lezen voor iedereen, te veranderen door niemand.
     static constexpr fs::perms alleenLezen =
         fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read | fs::perms::others_exec;
-    static constexpr int directoryY = 453;  ///< "Alle bestanden in een directory"
-    static constexpr int boomY = 475;       ///< "Alle bestanden recursief in een directory"
-    static constexpr int bronY = 435;
-    static constexpr int doelY = 474;
+    static constexpr const char* directoryModus = "radio button \"Alle bestanden in een directory\"";
+    static constexpr const char* boomModus = "radio button \"Alle bestanden recursief in een directory\"";
     fs::path bron_ = omgeving_.werk() / "bron";
     fs::path doel_ = omgeving_.werk() / "doel";
+    Vlak knipPlek_;    ///< van een lange run, als het programma op zulke vragen traag antwoordt
+    Vlak anderePlek_;  ///< van een andere modus, dan
 };
 
 }  // namespace
@@ -120,9 +120,9 @@ class Batch : public Bediening {
 TEST_F(Batch, KniptEenDirectory) {
     hulp::maakBoom(bron_, {{"a.c", origineel}, {"b.vhd", origineel}, {"x.txt", origineel}});
     start();
-    kiesModus(directoryY, bronY);
-    vulKiezer(bronY, bron_);
-    vulKiezer(doelY, doel_);
+    kiesModus(directoryModus);
+    vulKiezer(bronVeld, bron_);
+    vulKiezer(doelVeld, doel_);
     knip();
     const hulp::Boom verwacht{{"a.c", geknipt}, {"b.vhd", geknipt}};
     EXPECT_TRUE(hulp::wachtTot([&] { return hulp::isBoom(doel_, verwacht); }));
@@ -135,9 +135,9 @@ TEST_F(Batch, KniptEenDirectory) {
 TEST_F(Batch, VraagtBijGelijkeDirectoriesEnSpaartZeBijNee) {
     hulp::maakBoom(bron_, {{"a.c", origineel}});
     start();
-    kiesModus(directoryY, bronY);
-    vulKiezer(bronY, bron_);
-    vulKiezer(doelY, bron_);
+    kiesModus(directoryModus);
+    vulKiezer(bronVeld, bron_);
+    vulKiezer(doelVeld, bron_);
     knip();
     wachtOpVenster("^Bevestig$");
     druk("alt+n");
@@ -152,9 +152,9 @@ TEST_F(Batch, SpaartGelijkeDirectoriesAlsDeVraagWeggedaanWordt) {
     const hulp::Boom vooraf{{"a.c", origineel}, {"b.vhd", "x\n"}};
     hulp::maakBoom(bron_, vooraf);
     start();
-    kiesModus(directoryY, bronY);
-    vulKiezer(bronY, bron_);
-    vulKiezer(doelY, bron_);
+    kiesModus(directoryModus);
+    vulKiezer(bronVeld, bron_);
+    vulKiezer(doelVeld, bron_);
     knip();
     wachtOpVenster(vraag);
     druk("Escape");
@@ -163,7 +163,7 @@ TEST_F(Batch, SpaartGelijkeDirectoriesAlsDeVraagWeggedaanWordt) {
     EXPECT_TRUE(hulp::isBoom(bron_, vooraf));
     knip();
     wachtOpVenster(vraag);
-    EXPECT_TRUE(sluitTot([&vraag] { return !isZichtbaar(vraag); }));
+    EXPECT_TRUE(sluitTot([&] { return !isZichtbaar(vraag); }));
     wachtOpVenster(hoofdvenster);
     EXPECT_TRUE(hulp::isBoom(bron_, vooraf));
     sluitAf();
@@ -171,9 +171,9 @@ TEST_F(Batch, SpaartGelijkeDirectoriesAlsDeVraagWeggedaanWordt) {
 
 TEST_F(Batch, MeldtEenLegeDirectory) {
     start();
-    kiesModus(directoryY, bronY);
-    vulKiezer(bronY, bron_);
-    vulKiezer(doelY, doel_);
+    kiesModus(directoryModus);
+    vulKiezer(bronVeld, bron_);
+    vulKiezer(doelVeld, doel_);
     knip();
     const std::string melding = "^Knipselaar (Fout|Error)$";
     wachtOpVenster(melding);
@@ -209,9 +209,12 @@ TEST_F(Batch, LaatVervallenWatErTijdensEenRunGedruktWordt) {
     fs::remove(doel_ / eerste);
     const std::string nummer = voerUit({"xdotool", "search", "--onlyvisible", "--name", hoofdvenster});
     druk("ctrl+f");
-    voerUit({"xdotool", "mousemove", "--window", nummer.substr(0, nummer.find('\n')), "300", "563", "click",
-             "1", "mousemove_relative", "--", "-240", "-132", "click", "1"});
-    voerUit({"xdotool", "type", "x"});
+    for (const Vlak& plek : {knipPlek_, anderePlek_}) {
+        voerUit({"xdotool", "mousemove", "--window", nummer.substr(0, nummer.find('\n')),
+                 std::to_string(plek.links + plek.breedte / 2), std::to_string(plek.boven + plek.hoogte / 2),
+                 "click", "1"});
+    }
+    typ("x");
     druk("ctrl+q");
     druk("alt+F4");
     EXPECT_LT(tel(doel_), lang - 1) << "de run moet nog bezig zijn";
@@ -226,8 +229,8 @@ TEST_F(Batch, LaatVervallenWatErTijdensEenRunGedruktWordt) {
 TEST_F(Batch, KniptEenBoomEnBewaartHetLogboek) {
     hulp::maakBoom(doel_, {{"sub/a.c", origineel}, {"x.txt", origineel}});
     start();
-    kiesModus(boomY, doelY);
-    vulKiezer(doelY, doel_);
+    kiesModus(boomModus);
+    vulKiezer(doelVeld, doel_);
     knip();
     const hulp::Boom verwacht{{"sub", "/"}, {"sub/a.c", geknipt}, {"x.txt", origineel}};
     EXPECT_TRUE(hulp::wachtTot([&] { return hulp::isBoom(doel_, verwacht); }));
@@ -243,9 +246,9 @@ TEST_F(Batch, LaatEenGewoneGebruikerEenDirectoryKnippenWaarHijNietOveralBijMag) 
     startAlsGewoneGebruiker();
     weiger(bron_ / "dicht.c", fs::perms::none);
     weiger(doel_, alleenLezen);
-    kiesModus(directoryY, bronY);
-    vulKiezer(bronY, bron_);
-    vulKiezer(doelY, doel_);
+    kiesModus(directoryModus);
+    vulKiezer(bronVeld, bron_);
+    vulKiezer(doelVeld, doel_);
     knip();
     EXPECT_TRUE(hulp::wachtTot([this] { return hulp::leesBestand(doel_ / "a.c") == geknipt; }));
     std::string log = "Student dir : " + doel_.string() + "\n";
@@ -267,8 +270,8 @@ TEST_F(Batch, LaatTerPlaatseStaanWaarEenGewoneGebruikerNietBijMag) {
     startAlsGewoneGebruiker();
     weiger(doel_ / "dicht.c", fs::perms::none);
     weiger(doel_ / "vast", alleenLezen);
-    kiesModus(boomY, doelY);
-    vulKiezer(doelY, doel_);
+    kiesModus(boomModus);
+    vulKiezer(doelVeld, doel_);
     knip();
     EXPECT_TRUE(hulp::wachtTot([this] { return hulp::leesBestand(doel_ / "open.c") == geknipt; }));
     std::string log = "Student bestand 1:" + (doel_ / "vast/c.c").string() + "\n";

@@ -12,7 +12,8 @@
 
 namespace fs = std::filesystem;
 
-Bediening::Bediening() = default;
+Bediening::Bediening(hulp::Beeldscherm beeldscherm)
+    : omgeving_(beeldscherm), beeldscherm_(beeldscherm), scherm_(maakScherm(beeldscherm)) {}
 
 // Eerst het programma, dan pas het beeldscherm: anders sterft het aan een verbroken verbinding.
 Bediening::~Bediening() {
@@ -28,31 +29,53 @@ std::string Bediening::programmaPad() {
 }
 
 void Bediening::start(const std::vector<std::string>& argumenten) {
-    std::vector<std::string> opdracht{programmaPad()};
-    opdracht.insert(opdracht.end(), argumenten.begin(), argumenten.end());
-    startOpdracht(opdracht);
+    startAls(beeldscherm_ == hulp::Beeldscherm::wayland ? wordGewoneGebruiker() : std::vector<std::string>(),
+             argumenten);
 }
 
 void Bediening::startAlsGewoneGebruiker() {
+    startAls(wordGewoneGebruiker(), {});
+}
+
+/// Geeft de opdracht die een andere opdracht als gewone gebruiker uitvoert; leeg als dat al zo is.
+std::vector<std::string> Bediening::wordGewoneGebruiker() {
     if (geteuid() != 0) {
-        start();
-        return;
+        return {};
     }
     const fs::path map = omgeving_.werk().parent_path();
-    std::string programma = programmaPad();
-    if (programma.find('/') != std::string::npos) {
+    if (uitvoerbaar_.find('/') != std::string::npos) {
         // Waar het gebouwd is mag een ander misschien niet komen.
-        programma = map / "knipselaar";
-        fs::copy_file(programmaPad(), programma);
+        uitvoerbaar_ = map / "knipselaar";
+        fs::copy_file(programmaPad(), uitvoerbaar_);
     }
+    const fs::path kijker = map / "schermlezer";
+    fs::copy_file(SCHERMLEZER, kijker);
     EXPECT_EQ(0, chown(map.c_str(), hulp::niemand, hulp::niemand));
     for (const auto& deel : fs::recursive_directory_iterator(map)) {
         EXPECT_EQ(0, lchown(deel.path().c_str(), hulp::niemand, hulp::niemand));
     }
     const std::string niemand = std::to_string(hulp::niemand);
     // Wie zijn dekking laat meten, moet die kunnen opschrijven.
-    startOpdracht({"env", "LLVM_PROFILE_FILE=" + (map / "dekking").string(), "setpriv", "--reuid", niemand,
-                   "--regid", niemand, "--clear-groups", "--pdeathsig", "KILL", programma});
+    const std::vector<std::string> als{"env",         "LLVM_PROFILE_FILE=" + (map / "dekking").string(),
+                                       "setpriv",     "--reuid",
+                                       niemand,       "--regid",
+                                       niemand,       "--clear-groups",
+                                       "--pdeathsig", "KILL"};
+    schermlezer_ = als;
+    schermlezer_.push_back(kijker);
+    return als;
+}
+
+void Bediening::startAls(const std::vector<std::string>& als, const std::vector<std::string>& argumenten) {
+    if (beeldscherm_ == hulp::Beeldscherm::wayland) {
+        omgeving_.startWayland(als);
+    }
+    // Op een bus van een ander komt niemand; wie meekijkt is dus ook van hem.
+    omgeving_.startSchermlezerbus(als);
+    std::vector<std::string> opdracht = als;
+    opdracht.push_back(uitvoerbaar_);
+    opdracht.insert(opdracht.end(), argumenten.begin(), argumenten.end());
+    startOpdracht(opdracht);
 }
 
 void Bediening::startOpdracht(const std::vector<std::string>& opdracht) {
@@ -61,61 +84,65 @@ void Bediening::startOpdracht(const std::vector<std::string>& opdracht) {
     wachtOpVenster(hoofdvenster);
 }
 
-void Bediening::druk(const std::string& toetsen) {
-    voerUit({"xdotool", "key", "--clearmodifiers", toetsen});
+void Bediening::druk(const std::string& toetsen) const {
+    scherm_->druk(toetsen);
 }
 
-void Bediening::vraagOpslaan(const std::string& toetsen) {
-    EXPECT_TRUE(drukTot(toetsen, [] { return isZichtbaar(opslaanDialoog); })) << toetsen << " vraagt niets";
+void Bediening::typ(const std::string& tekst) const {
+    scherm_->typ(tekst);
 }
 
-bool Bediening::isZichtbaar(const std::string& titel) {
-    return !voerUit({"xdotool", "search", "--onlyvisible", "--name", titel}).empty();
+void Bediening::vraagOpslaan(const std::string& toetsen) const {
+    EXPECT_TRUE(drukTot(toetsen, [this] { return isZichtbaar(opslaanDialoog); }))
+        << toetsen << " vraagt niets";
 }
 
-namespace {
-
-/// Het nummer van het zichtbare venster met deze titel dat het laatst verscheen; leeg als het er niet is.
-std::string zoekVenster(const std::string& titel) {
-    std::istringstream gevonden(voerUit({"xdotool", "search", "--onlyvisible", "--name", titel}));
-    std::string nummer;
-    std::string kandidaat;
-    while (gevonden >> kandidaat) {
-        nummer = kandidaat;
-    }
-    return nummer;
+bool Bediening::isZichtbaar(const std::string& titel) const {
+    return scherm_->isZichtbaar(titel);
 }
 
-bool isActief(const std::string& titel) {
-    const std::string nummer = zoekVenster(titel);
-    return !nummer.empty() && voerUit({"xdotool", "getactivewindow"}) == nummer + "\n";
+void Bediening::wachtOpVenster(const std::string& titel) const {
+    EXPECT_TRUE(hulp::wachtTot([&] { return scherm_->isActief(titel); })) << "geen actief venster " << titel;
 }
 
-}  // namespace
-
-std::string Bediening::wachtOpVenster(const std::string& titel) {
-    EXPECT_TRUE(hulp::wachtTot([&titel] { return isActief(titel); })) << "geen actief venster " << titel;
-    return zoekVenster(titel);
+std::string Bediening::vensterNummer(const std::string& titel) const {
+    wachtOpVenster(titel);
+    std::string nummer = voerUit({"xdotool", "getactivewindow"});
+    return nummer.substr(0, nummer.find('\n'));
 }
 
-void Bediening::wachtTotWeg(const std::string& titel) {
-    EXPECT_TRUE(hulp::wachtTot([&titel] { return !isZichtbaar(titel); })) << titel << " blijft staan";
+void Bediening::wachtTotWeg(const std::string& titel) const {
+    EXPECT_TRUE(hulp::wachtTot([&] { return !isZichtbaar(titel); })) << titel << " blijft staan";
 }
 
-void Bediening::typPad(const std::string& titel, const fs::path& pad) {
-    constexpr int evenMs = 3000;
-    const auto isWeg = [&titel] { return !isZichtbaar(titel); };
+void Bediening::gaMetKlikNaar(const std::string& ding) const {
+    klik(zoek(ding));
+    EXPECT_TRUE(hulp::wachtTot([&] { return kijk({"toetsen"}).starts_with(ding + "\n"); }))
+        << ding << " krijgt de toetsen niet";
+}
+
+void Bediening::vervang(const std::string& veld, const std::string& tekst) const {
+    EXPECT_TRUE(hulp::wachtTot([&] {
+        druk("ctrl+a");
+        typ(tekst);
+        return volgt([&] { return kijk({"toetsen"}) == veld + "\n" + tekst; });
+    })) << tekst
+        << " is niet te typen";
+}
+
+void Bediening::typPad(const std::string& titel, const fs::path& pad) const {
+    const auto isWeg = [&] { return !isZichtbaar(titel); };
     wachtOpVenster(titel);
     bool opnieuw = false;
     // Op een drukke machine vult de dialoog nog aan terwijl er getypt wordt, en klopt het pad niet. Dan
     // blijft zij staan, soms achter een melding, en gaat het nog eens.
     EXPECT_TRUE(hulp::wachtTot([&] {
-        if (!std::exchange(opnieuw, true) || isActief(titel)) {
+        if (!std::exchange(opnieuw, true) || scherm_->isActief(titel)) {
             druk("ctrl+a");
-            voerUit({"xdotool", "type", "--delay", "20", pad.string()});
+            typ(pad);
             druk("Return");
             // De eerste Return kan nog de lijst met aanvullingen sluiten.
-            if (hulp::wachtTot(isWeg, evenMs)) {
+            if (volgt(isWeg)) {
                 return true;
             }
         }
@@ -123,29 +150,70 @@ void Bediening::typPad(const std::string& titel, const fs::path& pad) {
         if (!isWeg()) {
             druk("Return");
         }
-        return hulp::wachtTot(isWeg, 2 * evenMs);
+        return volgt(isWeg);
     })) << titel
         << " blijft staan";
 }
 
-void Bediening::kiesPad(const std::string& titel, const fs::path& pad) {
+void Bediening::kiesPad(const std::string& titel, const fs::path& pad) const {
     typPad(titel, pad);
     wachtOpVenster(hoofdvenster);
 }
 
-void Bediening::klik(int x, int y, int knop) {
-    const std::string nummer = wachtOpVenster(hoofdvenster);
-    voerUit({"xdotool", "mousemove", "--window", nummer, std::to_string(x), std::to_string(y), "click",
-             std::to_string(knop)});
+std::vector<std::string> Bediening::schermlezer(const std::vector<std::string>& vraag) const {
+    std::vector<std::string> opdracht = schermlezer_;
+    opdracht.insert(opdracht.end(), vraag.begin(), vraag.end());
+    return opdracht;
 }
 
-std::string Bediening::kiekje(const std::string& venster, const std::string& uitsnede) {
+std::string Bediening::kijk(const std::vector<std::string>& vraag) const {
+    return voerUit(schermlezer(vraag));
+}
+
+std::string Bediening::boom() const {
+    return kijk({"boom"});
+}
+
+Vlak Bediening::zoek(const std::string& ding) const {
+    Vlak gevonden;
+    const bool isEr = hulp::wachtTot([&] {
+        std::istringstream plekken(kijk({"plek", ding}));
+        Vlak plek;
+        while (plekken >> plek.links >> plek.boven >> plek.breedte >> plek.hoogte) {
+            gevonden = plek;
+        }
+        return gevonden.hoogte > 0;
+    });
+    EXPECT_TRUE(isEr) << ding << " is er niet";
+    return gevonden;
+}
+
+void Bediening::klik(const Vlak& plek, int knop) const {
+    const std::string nummer = vensterNummer(hoofdvenster);
+    voerUit({"xdotool", "mousemove", "--window", nummer, std::to_string(plek.links + plek.breedte / 2),
+             std::to_string(plek.boven + plek.hoogte / 2), "click", std::to_string(knop)});
+}
+
+std::string Bediening::kiekje(const std::string& venster, const Vlak& vlak) {
+    const std::string uitsnede = std::to_string(vlak.breedte) + "x" + std::to_string(vlak.hoogte) + "+" +
+                                 std::to_string(vlak.links) + "+" + std::to_string(vlak.boven);
     return voerUit({"import", "-window", venster, "-crop", uitsnede, "-depth", "8", "rgb:-"});
 }
 
-bool Bediening::isBruikbaar(const std::string& uitsnede) {
+bool Bediening::isBruikbaar(const std::string& ding) const {
+    const std::string nu = boom();
+    const std::size_t plek = nu.find("\n" + ding);
+    return plek != std::string::npos &&
+           !nu.substr(plek + 1, nu.find('\n', plek + 1) - plek - 1).ends_with(", uit");
+}
+
+void Bediening::wachtOpBruikbaar(const std::string& ding) const {
+    EXPECT_TRUE(hulp::wachtTot([&] { return isBruikbaar(ding); })) << ding << " blijft uit:\n" << boom();
+}
+
+bool Bediening::heeftTekst(const Vlak& vlak) const {
     constexpr unsigned char donker = 80;
-    const std::string kleuren = kiekje(wachtOpVenster(hoofdvenster), uitsnede);
+    const std::string kleuren = kiekje(vensterNummer(hoofdvenster), vlak);
     for (std::size_t i = 0; i + 2 < kleuren.size(); i += 3) {
         if (std::all_of(&kleuren[i], &kleuren[i] + 3,
                         [](char deel) { return static_cast<unsigned char>(deel) < donker; })) {
@@ -155,10 +223,8 @@ bool Bediening::isBruikbaar(const std::string& uitsnede) {
     return false;
 }
 
-void Bediening::wachtOpBeginmodus() {
-    const char* openen = "52x16+320+438";
-    const char* bron = "80x16+668+427";
-    EXPECT_TRUE(hulp::wachtTot([&] { return isBruikbaar(openen) && !isBruikbaar(bron); }))
+void Bediening::wachtOpBeginmodus() const {
+    EXPECT_TRUE(hulp::wachtTot([this] { return isBruikbaar(openKnop) && !isBruikbaar(bronVeld); }))
         << "geen beginmodus";
 }
 

@@ -64,10 +64,10 @@ class OverEnStatistiek : public Bediening {
     }
 
     /// Opent het Over-venster; geeft zijn nummer.
-    static std::string openOver() {
+    std::string openOver() const {
         wachtOpVenster(hoofdvenster);
         druk("ctrl+k");
-        return wachtOpVenster(overVenster);
+        return vensterNummer(overVenster);
     }
 };
 
@@ -146,13 +146,13 @@ TEST_F(OverEnStatistiek, LaatVensterEnOpslagZoalsZeWaren) {
     const std::vector<std::string> vooraf = leesInstellingen();
     EXPECT_FALSE(vooraf.empty());
     start();
-    const std::string venster = wachtOpVenster(hoofdvenster);
+    const std::string venster = vensterNummer(hoofdvenster);
     wachtOpBeginmodus();
     const std::string beeld = kiekjeInRust(venster);
     openOver();
     druk("Escape");
     wachtTotWeg(overVenster);
-    EXPECT_EQ(venster, wachtOpVenster(hoofdvenster));
+    EXPECT_EQ(venster, vensterNummer(hoofdvenster));
     // De cursor knippert: het beeld is pas weer gelijk als hij in dezelfde stand staat.
     EXPECT_TRUE(hulp::wachtTot([&] { return kiekje(venster) == beeld; })) << "het venster is veranderd";
     sluitAf();
@@ -161,7 +161,7 @@ TEST_F(OverEnStatistiek, LaatVensterEnOpslagZoalsZeWaren) {
 
 TEST_F(OverEnStatistiek, SluitOokMetHetOverVensterOpen) {
     start();
-    const std::string hoofd = wachtOpVenster(hoofdvenster);
+    const std::string hoofd = vensterNummer(hoofdvenster);
     openOver();
     voerUit({"xdotool", "windowactivate", "--sync", hoofd});
     wachtOpVenster(hoofdvenster);

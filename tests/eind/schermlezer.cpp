@@ -1,8 +1,12 @@
 // Ziet een lopend programma zoals een schermlezer het ziet: over de bus voor toegankelijkheid.
 //
-//   schermlezer boom   noemt alles waar een schermlezer iets over te zeggen heeft, in de volgorde van het
-//   venster schermlezer volg   noemt wat de toetsen heeft en daarna alles wat ze krijgt, tot het gestopt
-//   wordt
+//   boom       noemt alles waar een schermlezer iets over te zeggen heeft, in de volgorde van het venster
+//
+//   plek DING  noemt van alles wat zo heet de plaats in het venster: links, boven, breedte en hoogte
+//
+//   toetsen    noemt wat de toetsen heeft, met op de volgende regels de tekst erin
+//
+//   volg       noemt wat de toetsen heeft en daarna alles wat ze krijgt, tot het gestopt wordt
 //
 // Elke regel is een rol en een naam, zoals: push button "Openen". Daarachter kan een beschrijving tussen
 // haakjes staan en in de boom ook: wat het label ervan is (<-), waar het een label van is (->), en of het
@@ -28,8 +32,8 @@ using Staten = std::unique_ptr<AtspiStateSet, Opruimer>;
 
 /// Wat alleen voor de plaats op het scherm bestaat, of hier zonder naam niets zegt.
 bool isIndeling(AtspiRole rol, const std::string& naam) {
-    constexpr std::array altijd{ATSPI_ROLE_APPLICATION, ATSPI_ROLE_FILLER, ATSPI_ROLE_SCROLL_PANE,
-                                ATSPI_ROLE_SCROLL_BAR, ATSPI_ROLE_SEPARATOR};
+    constexpr std::array altijd{ATSPI_ROLE_DESKTOP_FRAME, ATSPI_ROLE_APPLICATION, ATSPI_ROLE_FILLER,
+                                ATSPI_ROLE_SCROLL_PANE,   ATSPI_ROLE_SCROLL_BAR,  ATSPI_ROLE_SEPARATOR};
     constexpr std::array naamloos{ATSPI_ROLE_PANEL, ATSPI_ROLE_MENU};
     return std::find(altijd.begin(), altijd.end(), rol) != altijd.end() ||
            (naam.empty() && std::find(naamloos.begin(), naamloos.end(), rol) != naamloos.end());
@@ -111,6 +115,26 @@ void toonBoom(AtspiAccessible* ding) {
     }
 }
 
+void toonPlek(AtspiAccessible* ding, const std::string& gezocht) {
+    if (noem(ding) == gezocht) {
+        AtspiComponent* deel = atspi_accessible_get_component_iface(ding);
+        AtspiRect* vlak = atspi_component_get_extents(deel, ATSPI_COORD_TYPE_WINDOW, nullptr);
+        std::cout << vlak->x << " " << vlak->y << " " << vlak->width << " " << vlak->height << "\n";
+        g_free(vlak);
+        g_object_unref(deel);
+    }
+}
+
+void toonToetsen(AtspiAccessible* ding) {
+    if (heeftStaat(ding, ATSPI_STATE_FOCUSED)) {
+        std::cout << noem(ding) << "\n";
+        if (AtspiText* tekst = atspi_accessible_get_text_iface(ding); tekst != nullptr) {
+            std::cout << neem(atspi_text_get_text(tekst, 0, -1, nullptr));
+            g_object_unref(tekst);
+        }
+    }
+}
+
 /// Onthoudt wie de toetsen heeft: de bus meldt hetzelfde vaak twee keer.
 class Volger {
   public:
@@ -147,18 +171,21 @@ void volg(AtspiAccessible* bureaublad) {
 
 }  // namespace
 
-int main(int /*argc*/, char** argv) {
+int main(int argc, char** argv) {
     if (atspi_init() != 0) {
         std::cerr << "er is geen bus voor toegankelijkheid\n";
         return 1;
     }
+    // Op een drukke machine antwoordt een programma niet binnen de seconde die gewoon is.
+    constexpr gint hoogstensMs = 10000;
+    atspi_set_timeout(hoogstensMs, hoogstensMs);
     const Ding bureaublad(atspi_get_desktop(0));
     if (argv[1] == std::string("boom")) {
-        const gint aantal = atspi_accessible_get_child_count(bureaublad.get(), nullptr);
-        for (gint i = 0; i < aantal; ++i) {
-            const Ding programma(atspi_accessible_get_child_at_index(bureaublad.get(), i, nullptr));
-            bezoek(programma.get(), toonBoom);
-        }
+        bezoek(bureaublad.get(), toonBoom);
+    } else if (argv[1] == std::string("toetsen")) {
+        bezoek(bureaublad.get(), toonToetsen);
+    } else if (argc > 2) {
+        bezoek(bureaublad.get(), [argv](AtspiAccessible* ding) { toonPlek(ding, argv[2]); });
     } else {
         volg(bureaublad.get());
     }

@@ -4,14 +4,10 @@
 #include <sstream>
 #include <stdexcept>
 
-Toegang::Toegang() {
-    omgeving_.startSchermlezerbus();
-}
-
 void Toegang::start() {
     Bediening::start();
-    volger_ = std::make_unique<hulp::Kindproces>(std::vector<std::string>{SCHERMLEZER, "volg"},
-                                                 omgeving_.werk() / "volgorde", omgeving_.werk() / "volger");
+    volger_ = std::make_unique<hulp::Kindproces>(schermlezer({"volg"}), omgeving_.werk() / "volgorde",
+                                                 omgeving_.werk() / "volger");
     const bool begonnen = hulp::wachtTot([this] { return !volgorde().empty(); });
     ASSERT_TRUE(begonnen) << hulp::leesBestand(omgeving_.werk() / "volger");
     EXPECT_EQ(linkereditor, volgorde().front());
@@ -56,23 +52,16 @@ void Toegang::kiesModus(const std::string& modus) const {
     gaNaar("radio button \"Enkel bestand\"");
     gaNaar("radio button \"" + modus + "\"", "Down");
     druk("space");
-    wachtOpBruikbaar("text \"Bestemming directory\"");
+    wachtOpBruikbaar(doelVeld);
 }
 
-std::string Toegang::boom() {
-    return voerUit({SCHERMLEZER, "boom"});
+void Toegang::vul(const std::string& veld, const std::string& tekst) const {
+    gaNaar(veld);
+    vervang(veld, tekst);
 }
 
-void Toegang::wachtOpBruikbaar(const std::string& ding) {
-    const bool bruikbaar = hulp::wachtTot([&ding] {
-        const std::string nu = boom();
-        const std::size_t plek = nu.find("\n" + ding);
-        return plek != std::string::npos &&
-               !nu.substr(plek + 1, nu.find('\n', plek + 1) - plek - 1).ends_with(", uit");
-    });
-    EXPECT_TRUE(bruikbaar) << ding << " blijft uit";
-}
-
-void Toegang::typ(const std::string& tekst) {
-    voerUit({"xdotool", "type", "--delay", "20", tekst});
+void Toegang::drukOp(const std::string& knop) const {
+    wachtOpBruikbaar(knop);
+    gaNaar(knop);
+    druk("space");
 }

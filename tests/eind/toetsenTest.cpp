@@ -1,5 +1,5 @@
-// Het programma zonder muis: waar de tabtoets langs komt, en elke modus van begin tot eind met alleen
-// toetsen.
+// Het programma zonder muis, met X en met Wayland: waar de tabtoets langs komt, en elke modus van begin tot
+// eind met alleen toetsen.
 
 #include <algorithm>
 
@@ -12,8 +12,10 @@ namespace {
 
 using Dingen = std::vector<std::string>;
 
-class Toetsen : public Toegang {
+class Toetsen : public Toegang, public testing::WithParamInterface<hulp::Beeldscherm> {
   protected:
+    Toetsen() : Toegang(GetParam()) {}
+
     /// Een stap verder of terug. In een editor is de tabtoets een tab; met Ctrl erbij verlaat zij hem.
     std::string stap(bool terug = false) const {
         const std::string hier = volgorde().back();
@@ -29,20 +31,6 @@ class Toetsen : public Toegang {
             dingen.push_back(stap(terug));
         } while (dingen.back() != linkereditor && dingen.size() < 20);
         return dingen;
-    }
-
-    /// Vervangt de tekst van een veld.
-    void vul(const std::string& veld, const std::string& tekst) const {
-        gaNaar(veld);
-        druk("ctrl+a");
-        typ(tekst);
-    }
-
-    /// Drukt met de toetsen op een knop.
-    void drukOp(const std::string& knop) const {
-        wachtOpBruikbaar(knop);
-        gaNaar(knop);
-        druk("space");
     }
 
     void vulTeksten() const {
@@ -69,14 +57,9 @@ class Toetsen : public Toegang {
     static constexpr const char* beginVeld = "text \"Parse begin\"";
     static constexpr const char* eindVeld = "text \"Parse einde\"";
     static constexpr const char* vervangVeld = "text \"Vervangingstekst\"";
-    static constexpr const char* openKnop = "push button \"Openen\"";
-    static constexpr const char* opslaanKnop = "push button \"Opslaan\"";
-    static constexpr const char* bronVeld = "text \"Bron directory\"";
     static constexpr const char* bronKnop = "push button \"Bladeren\" (Bron directory)";
-    static constexpr const char* doelVeld = "text \"Bestemming directory\"";
     static constexpr const char* doelKnop = "push button \"Bladeren\" (Bestemming directory)";
     static constexpr const char* soortKeuze = "toggle button \"Soort bestanden\"";
-    static constexpr const char* knipKnop = "push button \"Zoeken en vervangen\"";
     static constexpr const char* afsluitKnop = "push button \"Afsluiten\"";
     static constexpr const char* origineel = "a\nBEGIN\nb\nEIND\nc\n";
     fs::path bron_ = omgeving_.werk() / "bron";
@@ -85,7 +68,11 @@ class Toetsen : public Toegang {
 
 }  // namespace
 
-TEST_F(Toetsen, LopenBijEnkelBestandLangsAllesWatAanStaat) {
+INSTANTIATE_TEST_SUITE_P(Beeldschermen, Toetsen,
+                         testing::Values(hulp::Beeldscherm::vensterbeheer, hulp::Beeldscherm::wayland),
+                         testing::PrintToStringParamName());
+
+TEST_P(Toetsen, LopenBijEnkelBestandLangsAllesWatAanStaat) {
     start();
     openEnKnip();
     Dingen verwacht{beginVeld,
@@ -104,7 +91,7 @@ TEST_F(Toetsen, LopenBijEnkelBestandLangsAllesWatAanStaat) {
     EXPECT_EQ(verwacht, rondgang(true));
 }
 
-TEST_F(Toetsen, LopenBijEenDirectoryLangsBeideKiezers) {
+TEST_P(Toetsen, LopenBijEenDirectoryLangsBeideKiezers) {
     start();
     kiesModus("Alle bestanden in een directory");
     EXPECT_EQ((Dingen{beginVeld, eindVeld, rechtereditor, vervangVeld,
@@ -113,7 +100,7 @@ TEST_F(Toetsen, LopenBijEenDirectoryLangsBeideKiezers) {
               rondgang());
 }
 
-TEST_F(Toetsen, LopenBijEenBoomLangsEenKiezer) {
+TEST_P(Toetsen, LopenBijEenBoomLangsEenKiezer) {
     start();
     kiesModus("Alle bestanden recursief in een directory");
     EXPECT_EQ((Dingen{beginVeld, eindVeld, rechtereditor, vervangVeld,
@@ -122,7 +109,7 @@ TEST_F(Toetsen, LopenBijEenBoomLangsEenKiezer) {
               rondgang());
 }
 
-TEST_F(Toetsen, LopenDoorHetMenu) {
+TEST_P(Toetsen, LopenDoorHetMenu) {
     start();
     openEnKnip();
     Dingen dingen{ga("F10")};
@@ -143,7 +130,7 @@ TEST_F(Toetsen, LopenDoorHetMenu) {
     sluitAf();
 }
 
-TEST_F(Toetsen, KnippenEenBestand) {
+TEST_P(Toetsen, KnippenEenBestand) {
     hulp::schrijfBestand(bron_, origineel);
     start();
     vulTeksten();
@@ -160,7 +147,7 @@ TEST_F(Toetsen, KnippenEenBestand) {
     sluitAf();
 }
 
-TEST_F(Toetsen, KnippenEenDirectory) {
+TEST_P(Toetsen, KnippenEenDirectory) {
     hulp::maakBoom(bron_, {{"a.c", origineel}, {"b.txt", origineel}});
     fs::create_directory(doel_);
     start();
@@ -178,7 +165,7 @@ TEST_F(Toetsen, KnippenEenDirectory) {
     sluitAf();
 }
 
-TEST_F(Toetsen, KnippenEenBoom) {
+TEST_P(Toetsen, KnippenEenBoom) {
     hulp::maakBoom(doel_, {{"sub/a.c", origineel}, {"b.txt", origineel}});
     start();
     vulTeksten();

@@ -10,7 +10,9 @@
 #include <csignal>
 #include <cstdlib>
 #include <memory>
+#include <ostream>
 #include <stdexcept>
+#include <thread>
 
 namespace hulp {
 
@@ -64,7 +66,11 @@ void Kindproces::stuur(int signaal) const {
     kill(nummer_, signaal);
 }
 
-Omgeving::Omgeving(bool metVensterbeheer) {
+void PrintTo(Beeldscherm beeldscherm, std::ostream* uit) {
+    *uit << (beeldscherm == Beeldscherm::wayland ? "Wayland" : "X");
+}
+
+Omgeving::Omgeving(Beeldscherm beeldscherm) {
     for (const fs::path& map : {thuis(), werk(), map_ / "tmp", map_ / "xdg"}) {
         fs::create_directory(map);
     }
@@ -74,14 +80,19 @@ Omgeving::Omgeving(bool metVensterbeheer) {
     setenv("XDG_RUNTIME_DIR", (map_ / "xdg").c_str(), 1);
     for (const char* variabele :
          {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS",
-          "AT_SPI_BUS_ADDRESS", "SESSION_MANAGER", "GTK_THEME", "LC_ALL"}) {
+          "AT_SPI_BUS_ADDRESS", "SESSION_MANAGER", "GTK_THEME", "LC_ALL", "DISPLAY"}) {
         unsetenv(variabele);
     }
     setenv("LANG", "nl_NL.UTF-8", 1);
-    setenv("GDK_BACKEND", "x11", 1);
     setenv("GSETTINGS_BACKEND", "memory", 1);  // geen instellingen van het bureaublad
     setenv("NO_AT_BRIDGE", "1", 1);            // zolang er geen bus voor schermlezers is
+    if (beeldscherm != Beeldscherm::wayland) {
+        startX(beeldscherm == Beeldscherm::vensterbeheer);
+    }
+}
 
+void Omgeving::startX(bool metVensterbeheer) {
+    setenv("GDK_BACKEND", "x11", 1);
     const std::string beeldscherm = startBediende(
         {"Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"});
     setenv("DISPLAY", (":" + beeldscherm).c_str(), 1);
@@ -93,9 +104,39 @@ Omgeving::Omgeving(bool metVensterbeheer) {
     }
 }
 
+void Omgeving::startWayland(const std::vector<std::string>& als) {
+    if (std::getenv("WAYLAND_DISPLAY") != nullptr) {
+        return;
+    }
+    // Op een bureaublad zweven vensters, en ze sluiten met deze toets.
+    const fs::path instelling = map_ / "sway.conf";
+    schrijfBestand(instelling,
+                   "xwayland disable\n"
+                   "output * resolution 1280x1024\n"
+                   "for_window [app_id=\".*\"] floating enable\n"
+                   "bindsym Mod1+F4 kill\n"
+                   "exec echo $WAYLAND_DISPLAY\n");
+    setenv("WLR_BACKENDS", "headless", 1);
+    setenv("WLR_RENDERER", "pixman", 1);
+    setenv("WLR_LIBINPUT_NO_DEVICES", "1", 1);
+    setenv("SWAYSOCK", (map_ / "xdg" / "sway").c_str(), 1);
+    std::vector<std::string> opdracht = als;
+    opdracht.insert(opdracht.end(), {"sway", "--config", instelling.string()});
+    const std::string beeldscherm = startBediende(opdracht);
+    setenv("WAYLAND_DISPLAY", beeldscherm.c_str(), 1);
+    setenv("GDK_BACKEND", "wayland", 1);
+    // Dit toetsenbord wordt niet gebruikt, het is er alleen: zonder krijgt geen venster de toetsen, en gaat
+    // de eerste toets van elk volgend toetsenbord verloren.
+    constexpr const char* langMs = "1000000000";
+    bedienden_.push_back(std::make_unique<Kindproces>(std::vector<std::string>{"wtype", "-s", langMs},
+                                                      map_ / "wtype.log", map_ / "wtype.log"));
+    wachtTot([] { return std::system("swaymsg -t get_inputs 2>/dev/null | grep -q virtual_keyboard") == 0; });
+}
+
 std::string Omgeving::startBediende(const std::vector<std::string>& opdracht) {
-    const fs::path uitvoer = map_ / (opdracht[0] + ".uit");
-    const fs::path fouten = map_ / (opdracht[0] + ".log");
+    const std::string nummer = std::to_string(bedienden_.size());
+    const fs::path uitvoer = map_ / ("bediende" + nummer + ".uit");
+    const fs::path fouten = map_ / ("bediende" + nummer + ".log");
     bedienden_.push_back(std::make_unique<Kindproces>(opdracht, uitvoer, fouten));
     if (!wachtTot([&uitvoer] { return fs::exists(uitvoer) && leesBestand(uitvoer).ends_with('\n'); })) {
         throw std::runtime_error(opdracht[0] + " start niet: " + leesBestand(fouten));
@@ -105,7 +146,10 @@ std::string Omgeving::startBediende(const std::vector<std::string>& opdracht) {
     return regel;
 }
 
-void Omgeving::startSchermlezerbus() {
+void Omgeving::startSchermlezerbus(std::vector<std::string> als) {
+    if (std::getenv("DBUS_SESSION_BUS_ADDRESS") != nullptr) {
+        return;
+    }
     // Alleen deze ene dienst: wat het bureaublad van de machine verder te bieden heeft, hoort hier niet te
     // starten.
     const fs::path diensten = map_ / "diensten";
@@ -116,13 +160,14 @@ void Omgeving::startSchermlezerbus() {
                                    "</listen><servicedir>" + diensten.string() +
                                    "</servicedir><policy context=\"default\"><allow send_destination=\"*\"/>"
                                    "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>");
-    const std::string adres =
-        startBediende({"dbus-daemon", "--config-file=" + instelling.string(), "--nofork", "--print-address"});
+    als.insert(als.end(),
+               {"dbus-daemon", "--config-file=" + instelling.string(), "--nofork", "--print-address"});
+    const std::string adres = startBediende(als);
     setenv("DBUS_SESSION_BUS_ADDRESS", adres.c_str(), 1);
     unsetenv("NO_AT_BRIDGE");
 }
 
-// Andersom dan ze gestart zijn: de X-server gaat als laatste weg.
+// Andersom dan ze gestart zijn: het beeldscherm gaat als laatste weg.
 Omgeving::~Omgeving() {
     while (!bedienden_.empty()) {
         bedienden_.pop_back();
@@ -132,6 +177,12 @@ Omgeving::~Omgeving() {
 
 void wachtEven() {
     poll(nullptr, 0, 10);
+}
+
+int drukte() {
+    double wachtenden = 0;
+    getloadavg(&wachtenden, 1);
+    return 1 + static_cast<int>(wachtenden / std::thread::hardware_concurrency());
 }
 
 long klokMs() {

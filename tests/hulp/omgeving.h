@@ -1,11 +1,12 @@
 #pragma once
 
 // De omgeving van één testrun: een eigen thuisdirectory, een eigen tijdelijke directory en een eigen
-// X-server. Tests lopen daardoor naast elkaar en komen nooit aan de instellingen van de gebruiker.
+// beeldscherm. Tests lopen daardoor naast elkaar en komen nooit aan de instellingen van de gebruiker.
 
 #include <sys/types.h>
 
 #include <filesystem>
+#include <iosfwd>
 #include <memory>
 #include <string>
 #include <vector>
@@ -43,20 +44,36 @@ class Kindproces {
 
 /// Wacht op een voorwaarde. False als de grens voorbij is en het nog steeds niet zo is.
 template <typename Voorwaarde>
-bool wachtTot(Voorwaarde&& voorwaarde, int hoogstensMs = 45000);
+bool wachtTot(Voorwaarde&& voorwaarde, int hoogstensMs = 90000);
+
+/// Wat de vensters van een test toont.
+enum class Beeldscherm {
+    kaal,           ///< een X-server
+    vensterbeheer,  ///< een X-server met een vensterbeheerder, voor tests die met toetsen en muis werken
+    wayland,        ///< een beeldscherm van Wayland; het begint pas met startWayland
+};
+
+/// De naam, zodat GoogleTest bij een test zegt op welk beeldscherm hij draait.
+void PrintTo(Beeldscherm beeldscherm, std::ostream* uit);
 
 /// Maakt van een proces met beeldscherm een test: zet onder meer HOME, TMPDIR en DISPLAY om. Eén tegelijk.
 class Omgeving {
   public:
-    /// @param metVensterbeheer  start ook een vensterbeheerder, voor tests die met toetsen en muis werken.
-    explicit Omgeving(bool metVensterbeheer);
+    explicit Omgeving(Beeldscherm beeldscherm);
     Omgeving(const Omgeving&) = delete;
     Omgeving& operator=(const Omgeving&) = delete;
     ~Omgeving();
 
+    /// Start een beeldscherm van Wayland, met een toetsenbord. Is het er al, dan blijft het bij dat.
+    /// @param als  de opdracht waarmee een gewone gebruiker het start: root wordt geweigerd. Leeg als dat
+    /// niet
+    ///             hoeft.
+    void startWayland(const std::vector<std::string>& als);
+
     /// Start een bus waarop een schermlezer meeluistert, en laat programma's die daarna starten eraan
-    /// meedoen.
-    void startSchermlezerbus();
+    /// meedoen. Is die bus er al, dan blijft het bij die.
+    /// @param als  de opdracht waarmee een ander haar start, dan is zij van hem; leeg als dat niet hoeft.
+    void startSchermlezerbus(std::vector<std::string> als = {});
 
     std::filesystem::path thuis() const { return map_ / "thuis"; }
 
@@ -69,6 +86,7 @@ class Omgeving {
   private:
     /// Start een hulpproces dat met één regel meldt waar het te vinden is; geeft die regel.
     std::string startBediende(const std::vector<std::string>& opdracht);
+    void startX(bool metVensterbeheer);
 
     TijdelijkeMap map_;
     std::vector<std::unique_ptr<Kindproces>> bedienden_;
@@ -77,6 +95,9 @@ class Omgeving {
 /// Eén keer kort wachten tussen twee blikken op een voorwaarde van buiten dit proces.
 void wachtEven();
 long klokMs();
+
+/// Hoeveel keer langer dan anders alles duurt: wat er wil draaien, gedeeld door de kernen.
+int drukte();
 
 template <typename Voorwaarde>
 bool wachtTot(Voorwaarde&& voorwaarde, int hoogstensMs) {

@@ -40,7 +40,7 @@ int main(int argc, char** argv) {
     if (GTEST_FLAG_GET(list_tests)) {
         return RUN_ALL_TESTS();
     }
-    const hulp::Omgeving omgeving(false);
+    const hulp::Omgeving omgeving(hulp::Beeldscherm::kaal);
     zetOmgeving(omgeving);
     wxLog::SetLogLevel(wxLOG_Info);
     hulp::vangBeweringen();
