@@ -4,6 +4,8 @@
 // niets van te zien: niets wordt grijs, en wie de toetsen had krijgt ze daarna terug. Een vraag die er later
 // bij komt is gewoon te beantwoorden.
 
+#include <memory>
+
 class wxWindow;
 
 class Invoerslot {
@@ -15,5 +17,7 @@ class Invoerslot {
     ~Invoerslot();
 
   private:
-    wxWindow& venster_;
+    class Slot;  ///< wat het systeem ervoor nodig heeft
+
+    std::unique_ptr<Slot> slot_;
 };
