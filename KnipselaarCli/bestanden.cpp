@@ -1,103 +1,68 @@
 #include "KnipselaarCli/bestanden.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <sys/xattr.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
-#include <vector>
 
-#include "Knipselaar/kern/buurbestand.h"
+#include "Knipselaar/kern/systeem/aantekening.h"
+#include "Knipselaar/kern/systeem/bestand.h"
+#include "Knipselaar/kern/systeem/buurbestand.h"
+#include "Knipselaar/kern/systeem/paden.h"
 #include "KnipselaarCli/fout.h"
-#include "KnipselaarCli/onderbreking.h"
 
 namespace cli {
 
 namespace {
 
+using std::filesystem::perms;
+
 constexpr std::size_t leesBlok = 256 * 1024;
 /// Eén byte om het einde mee te vinden, en één voor wie er nog iets achter wil.
 constexpr std::size_t kleinsteRuimte = 2;
 constexpr std::size_t schrijfBlok = 64 * 1024;
-constexpr mode_t gewoneRechten = 0777;
-constexpr const char* aantekening = "user.knipselaar";
 
-/// Een open bestand dat zichzelf sluit.
-class Kanaal {
-  public:
-    explicit Kanaal(int nummer) : nummer_(nummer) {}
-    Kanaal(const Kanaal&) = delete;
-    Kanaal& operator=(const Kanaal&) = delete;
-    ~Kanaal() {
-        if (isOpen()) {
-            close(nummer_);
-        }
-    }
-
-    bool isOpen() const { return nummer_ >= 0; }
-    int geefNummer() const { return nummer_; }
-
-  private:
-    int nummer_;
-};
-
-[[noreturn]] void gooi(const std::string& pad, const char* wat, int foutnummer) {
-    throw Fout(pad + ": kan niet " + wat + " worden: " + noemReden(foutnummer));
+[[noreturn]] void gooi(const std::string& pad, const char* wat, const std::error_code& fout) {
+    throw Fout(pad + ": kan niet " + wat + " worden: " + noemReden(fout));
 }
 
 /// Leest tot het einde, achter wat er al is.
-bool leesVerder(int kanaal, kern::Bytes& bytes) {
+std::error_code leesVerder(int kanaal, kern::Bytes& bytes) {
     for (;;) {
         const std::size_t lengte = bytes.geef().size();
         if (bytes.geefRuimte() - lengte < kleinsteRuimte) {
             bytes.maakRuimte(std::max(2 * bytes.geefRuimte(), lengte + leesBlok));
         }
-        const ssize_t gelezen = read(kanaal, bytes.geefBegin() + lengte, bytes.geefRuimte() - lengte);
-        if (gelezen < 0 && errno == EINTR && !isOnderbroken()) {
-            continue;
+        const kern::Gelezen gelezen =
+            kern::lees(kanaal, {bytes.geefBegin() + lengte, bytes.geefRuimte() - lengte});
+        if (gelezen.fout || gelezen.aantal == 0) {
+            return gelezen.fout;
         }
-        if (gelezen <= 0) {
-            return gelezen == 0;
-        }
-        bytes.zetLengte(lengte + static_cast<std::size_t>(gelezen));
+        bytes.zetLengte(lengte + gelezen.aantal);
     }
 }
 
-/// Het masker van de gebruiker is alleen te lezen door het te zetten; dat mag maar één draad doen.
-mode_t geefMasker() {
-    static const mode_t masker = [] {
-        const mode_t oud = umask(0);
-        umask(oud);
-        return oud;
-    }();
-    return masker;
-}
-
 /// Wat er bij een uitvoerbestand aangetekend wordt: wie het daarna nog schrijft, verandert lengte of tijd.
-std::string maakAantekening(Uitvoersoort soort, const struct stat& gegevens) {
+std::string maakAantekening(Uitvoersoort soort, const kern::Kenmerken& kenmerken) {
     constexpr std::array namen{"bestand", "directory", "boom"};
     std::string tekst = namen.at(static_cast<std::size_t>(soort));
-    for (const auto getal :
-         {static_cast<long long>(gegevens.st_size), static_cast<long long>(gegevens.st_mtim.tv_sec),
-          static_cast<long long>(gegevens.st_mtim.tv_nsec)}) {
+    for (const std::string& getal : {std::to_string(kenmerken.lengte), std::to_string(kenmerken.seconden),
+                                     std::to_string(kenmerken.nanoseconden)}) {
         tekst += ' ';
-        tekst += std::to_string(getal);
+        tekst += getal;
     }
     return tekst;
 }
 
 /// Lukt de aantekening niet, dan vraagt een volgende run of het bestand overschreven mag worden.
 void tekenAan(int kanaal, Uitvoersoort soort) {
-    struct stat gegevens {};
-    if (fstat(kanaal, &gegevens) == 0) {
-        const std::string waarde = maakAantekening(soort, gegevens);
-        fsetxattr(kanaal, aantekening, waarde.data(), waarde.size(), 0);
+    kern::Kenmerken kenmerken;
+    if (!kern::leesKenmerken(kanaal, kenmerken)) {
+        kern::tekenAan(kanaal, maakAantekening(soort, kenmerken));
+    }
+}
+
+void schrijfBytes(int kanaal, std::string_view bytes) {
+    if (const auto fout = kern::schrijf(kanaal, bytes)) {
+        throw Fout(noemReden(fout));
     }
 }
 
@@ -106,46 +71,30 @@ void tekenAan(int kanaal, Uitvoersoort soort) {
 Inhoud leesInhoud(const std::string& pad) {
     Inhoud inhoud;
     if (pad == standaardinvoer) {
-        inhoud.rechten = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
-        if (!leesVerder(STDIN_FILENO, inhoud.bytes)) {
-            gooi("standaardinvoer", "gelezen", errno);
+        inhoud.rechten = perms::owner_read | perms::owner_write | perms::group_read | perms::group_write |
+                         perms::others_read | perms::others_write;
+        if (const auto fout = leesVerder(kern::invoerkanaal, inhoud.bytes)) {
+            gooi("standaardinvoer", "gelezen", fout);
         }
         return inhoud;
     }
-    // O_NONBLOCK: op een pijp zonder tegenpartij zou open anders voor altijd wachten.
-    const Kanaal kanaal(open(pad.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    struct stat gegevens {};
-    if (!kanaal.isOpen() || fstat(kanaal.geefNummer(), &gegevens) != 0) {
-        gooi(pad, "gelezen", errno);
+    const kern::Opening bron = kern::openBron(pad);
+    if (bron.fout) {
+        gooi(pad, "gelezen", bron.fout);
     }
-    if (!S_ISREG(gegevens.st_mode)) {
-        throw Fout(pad + (S_ISDIR(gegevens.st_mode)
+    if (!bron.bestand.isOpen()) {
+        throw Fout(pad + (bron.kenmerken.soort == kern::Bestandssoort::directory
                               ? ": is een directory; noem een bestand, of geef --naar of --ter-plaatse"
                               : ": is geen gewoon bestand; gebruik '-' voor de standaardinvoer"));
     }
-    inhoud.rechten = gegevens.st_mode & gewoneRechten;
+    inhoud.rechten = bron.kenmerken.rechten & perms::all;
     // Het bestand mag intussen korter of langer geworden zijn.
-    inhoud.bytes.maakRuimte(static_cast<std::size_t>(gegevens.st_size) + kleinsteRuimte);
-    if (!leesVerder(kanaal.geefNummer(), inhoud.bytes)) {
-        gooi(pad, "gelezen", errno);
+    inhoud.bytes.maakRuimte(static_cast<std::size_t>(bron.kenmerken.lengte) + kleinsteRuimte);
+    if (const auto fout = leesVerder(bron.bestand.geefKanaal(), inhoud.bytes)) {
+        gooi(pad, "gelezen", fout);
     }
     return inhoud;
 }
-
-namespace {
-
-void schrijfBytes(int kanaal, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t geschreven = write(kanaal, bytes.data(), bytes.size());
-        // Een onderbroken aanroep kan al een deel geschreven hebben.
-        if (isOnderbroken() || (geschreven < 0 && errno != EINTR)) {
-            throw Fout(noemReden(isOnderbroken() ? EINTR : errno));
-        }
-        bytes.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(geschreven, 0)));
-    }
-}
-
-}  // namespace
 
 void schrijfAlles(int kanaal, const Stukken& stukken) {
     std::array<char, schrijfBlok> plaats;  // NOLINT(cppcoreguidelines-pro-type-member-init): wordt gevuld
@@ -164,10 +113,10 @@ void schrijfAlles(int kanaal, const Stukken& stukken) {
     schrijfBytes(kanaal, blok.geef());
 }
 
-void schrijfUitvoer(const std::string& pad, const Stukken& stukken, mode_t rechten, Uitvoersoort soort) {
+void schrijfUitvoer(const std::string& pad, const Stukken& stukken, perms rechten, Uitvoersoort soort) {
     kern::Buurbestand nieuw(pad);
     if (!nieuw.isOpen()) {
-        gooi(pad, "geschreven", errno);
+        gooi(pad, "geschreven", nieuw.geefFout());
     }
     try {
         schrijfAlles(nieuw.geefKanaal(), stukken);
@@ -175,38 +124,40 @@ void schrijfUitvoer(const std::string& pad, const Stukken& stukken, mode_t recht
         throw Fout(pad + ": kan niet geschreven worden: " + fout.what());
     }
     tekenAan(nieuw.geefKanaal(), soort);
-    if (fchmod(nieuw.geefKanaal(), rechten & gewoneRechten & ~geefMasker()) != 0 || !nieuw.ruil()) {
-        gooi(pad, "geschreven", errno);
+    if (const auto fout = nieuw.ruil(rechten)) {
+        gooi(pad, "geschreven", fout);
     }
 }
 
 bool isEerdereUitvoer(const std::string& pad, Uitvoersoort soort) {
-    std::array<char, 80> gelezen{};
-    struct stat gegevens {};
-    const ssize_t lengte = lgetxattr(pad.c_str(), aantekening, gelezen.data(), gelezen.size());
-    return lengte > 0 && lstat(pad.c_str(), &gegevens) == 0 &&
-           std::string_view(gelezen.data(), static_cast<std::size_t>(lengte)) ==
-               maakAantekening(soort, gegevens);
+    const std::string aantekening = kern::leesAantekening(pad);
+    kern::Kenmerken kenmerken;
+    return !aantekening.empty() && !kern::leesEigenKenmerken(pad, kenmerken) &&
+           aantekening == maakAantekening(soort, kenmerken);
 }
 
 void vervangTerPlaatse(const std::string& pad, const Stukken& stukken) {
-    const std::unique_ptr<char, decltype(&std::free)> echt(realpath(pad.c_str(), nullptr), &std::free);
-    struct stat oud {};
-    if (echt == nullptr || stat(echt.get(), &oud) != 0) {
-        gooi(pad, "vervangen", errno);
+    std::error_code storing;
+    kern::Kenmerken oud;
+    const std::string echt = kern::geefEchtPad(pad, storing);
+    if (!storing) {
+        storing = kern::leesKenmerken(echt, oud);
     }
-    kern::Buurbestand nieuw(echt.get());
+    if (storing) {
+        gooi(pad, "vervangen", storing);
+    }
+    kern::Buurbestand nieuw(echt);
     if (!nieuw.isOpen()) {
-        throw Fout(pad + ": blijft zoals het is: ernaast is geen bestand te maken: " + noemReden(errno));
+        throw Fout(pad +
+                   ": blijft zoals het is: ernaast is geen bestand te maken: " + noemReden(nieuw.geefFout()));
     }
     try {
         schrijfAlles(nieuw.geefKanaal(), stukken);
     } catch (const Fout& fout) {
         throw Fout(pad + ": blijft zoals het is: " + fout.what());
     }
-    nieuw.beginTeBewaren();
-    if (!nieuw.neemRechtenOver(oud) || !nieuw.neemPlaatsIn()) {
-        gooi(pad, "vervangen", errno);
+    if (const auto fout = nieuw.vervang(oud)) {
+        gooi(pad, "vervangen", fout);
     }
 }
 

@@ -3,8 +3,7 @@
 // Bestanden lezen en schrijven zonder iets half achter te laten. Namen zijn de bytes van het bestandssysteem,
 // in welke codering ook. Wat niet lukt gooit Fout, met de naam en de reden.
 
-#include <sys/types.h>
-
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -24,7 +23,7 @@ using Stukken = std::function<void(const Ontvanger&)>;
 
 struct Inhoud {
     kern::Bytes bytes;
-    mode_t rechten = 0;  ///< rwx voor eigenaar, groep en anderen
+    std::filesystem::perms rechten{};  ///< rwx voor eigenaar, groep en anderen
 };
 
 /// Leest een gewoon bestand, of de standaardinvoer.
@@ -36,7 +35,8 @@ enum class Uitvoersoort { bestand, directory, boom };
 /// Schrijft een nieuw bestand, of vervangt er een in één keer: op elk moment staat er het oude of het nieuwe.
 /// Tekent er waar het bestandssysteem dat toelaat bij aan dat het uitvoer is.
 /// @param rechten  van de bron; het masker van de gebruiker gaat eraf.
-void schrijfUitvoer(const std::string& pad, const Stukken& stukken, mode_t rechten, Uitvoersoort soort);
+void schrijfUitvoer(const std::string& pad, const Stukken& stukken, std::filesystem::perms rechten,
+                    Uitvoersoort soort);
 
 /// Of dit gewone bestand nog precies is wat een eerdere run van deze soort schreef. Niet als het
 /// bestandssysteem geen aantekening bewaart.

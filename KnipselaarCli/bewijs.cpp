@@ -1,9 +1,9 @@
 #include "KnipselaarCli/bewijs.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <functional>
 
+#include "Knipselaar/kern/systeem/paden.h"
 #include "KnipselaarCli/bestanden.h"
 #include "KnipselaarCli/boom.h"
 #include "KnipselaarCli/brontekst.h"
@@ -85,15 +85,15 @@ void Bewijs::laatToe(std::string_view tekst) {
 
 std::vector<Bewijsvondst> Bewijs::leesNa(const std::string& plaats) const {
     std::vector<Bewijsvondst> vondsten;
-    std::error_code fout;
-    if (!std::filesystem::is_directory(plaats, fout)) {
+    kern::Kenmerken kenmerken;
+    if (kern::leesKenmerken(plaats, kenmerken) || kenmerken.soort != kern::Bestandssoort::directory) {
         leesBestandNa(plaats, vondsten);
         return vondsten;
     }
     for (const Boomdeel& deel :
          loopAf(plaats, {.recursief = true, .verborgen = true, .versiebeheer = false})) {
-        if (deel.soort == Soort::bestand) {
-            leesBestandNa(plak(plaats, deel.pad), vondsten);
+        if (deel.soort == kern::Bestandssoort::bestand) {
+            leesBestandNa(kern::plak(plaats, deel.pad), vondsten);
         }
     }
     return vondsten;

@@ -4,6 +4,8 @@
 #include <array>
 #include <filesystem>
 
+#include "Knipselaar/kern/systeem/directory.h"
+#include "Knipselaar/kern/systeem/paden.h"
 #include "KnipselaarCli/fout.h"
 
 namespace cli {
@@ -12,49 +14,31 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// De directory zegt het meestal zelf al; alleen anders wordt er naar het bestand gekeken.
-Soort bepaalSoort(const fs::directory_entry& deel) {
-    std::error_code fout;
-    if (deel.is_symlink(fout)) {
-        return Soort::link;
-    }
-    if (deel.is_regular_file(fout)) {
-        return Soort::bestand;
-    }
-    return deel.is_directory(fout) ? Soort::directory : Soort::anders;
-}
-
-bool hoortErbij(const Boomdeel& deel, const LoopWens& wens) {
-    if (deel.soort == Soort::directory && isVersiebeheer(deel.pad)) {
+bool hoortErbij(const kern::Deel& deel, const LoopWens& wens) {
+    if (deel.soort == kern::Bestandssoort::directory && isVersiebeheer(deel.naam)) {
         return wens.versiebeheer;
     }
-    return wens.verborgen || !deel.pad.starts_with('.');
+    return wens.verborgen || !deel.verborgen;
 }
 
-std::vector<Boomdeel> lees(const std::string& directory, const LoopWens& wens) {
-    std::vector<Boomdeel> delen;
-    std::error_code fout;
-    for (fs::directory_iterator plek(directory, fout); !fout && plek != fs::directory_iterator();
-         plek.increment(fout)) {
-        Boomdeel deel{.pad = plek->path().filename().string(), .soort = bepaalSoort(*plek)};
-        if (hoortErbij(deel, wens)) {
-            delen.push_back(std::move(deel));
-        }
+std::vector<kern::Deel> lees(const std::string& directory, const LoopWens& wens) {
+    std::vector<kern::Deel> delen;
+    if (const auto fout = kern::leesDirectory(directory, delen)) {
+        throw Fout(directory + ": kan niet gelezen worden: " + noemReden(fout));
     }
-    if (fout) {
-        throw Fout(directory + ": kan niet gelezen worden: " + noemReden(fout.value()));
-    }
-    std::sort(delen.begin(), delen.end(), [](const Boomdeel& a, const Boomdeel& b) { return a.pad < b.pad; });
+    std::erase_if(delen, [&wens](const kern::Deel& deel) { return !hoortErbij(deel, wens); });
+    std::sort(delen.begin(), delen.end(),
+              [](const kern::Deel& a, const kern::Deel& b) { return a.naam < b.naam; });
     return delen;
 }
 
 void loop(const std::string& wortel, const std::string& voor, const LoopWens& wens,
           std::vector<Boomdeel>& uit) {
-    for (Boomdeel& deel : lees(plak(wortel, voor), wens)) {
-        deel.pad = plak(voor, deel.pad);
-        uit.push_back(deel);
-        if (wens.recursief && deel.soort == Soort::directory) {
-            loop(wortel, deel.pad, wens, uit);
+    for (const kern::Deel& deel : lees(kern::plak(wortel, voor), wens)) {
+        const std::string pad = kern::plak(voor, deel.naam);
+        uit.push_back({.pad = pad, .soort = deel.soort});
+        if (wens.recursief && deel.soort == kern::Bestandssoort::directory) {
+            loop(wortel, pad, wens, uit);
         }
     }
 }
@@ -73,34 +57,14 @@ std::vector<Boomdeel> loopAf(const std::string& directory, const LoopWens& wens)
     return delen;
 }
 
-std::string_view geefNaam(std::string_view pad) {
-    return pad.substr(pad.rfind('/') + 1);
-}
-
-std::string plak(std::string_view directory, std::string_view pad) {
-    if (directory.empty() || pad.empty()) {
-        return std::string(directory.empty() ? pad : directory);
-    }
-    std::string uit(directory);
-    if (!uit.ends_with('/')) {
-        uit += '/';
-    }
-    return uit += pad;
-}
-
 std::string maakEcht(const std::string& pad) {
     std::error_code fout;
     const fs::path echt = fs::weakly_canonical(fs::absolute(pad), fout);
     if (fout) {
-        throw Fout(pad + ": " + noemReden(fout.value()));
+        throw Fout(pad + ": " + noemReden(fout));
     }
     const std::string tekst = echt.string();
     return tekst.size() > 1 && tekst.ends_with('/') ? tekst.substr(0, tekst.size() - 1) : tekst;
-}
-
-bool ligtIn(std::string_view pad, std::string_view directory) {
-    return pad == directory || directory == "/" ||
-           (pad.starts_with(directory) && pad.substr(directory.size()).starts_with('/'));
 }
 
 }  // namespace cli

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <thread>
 
+#include "Knipselaar/kern/systeem/onderbreking.h"
 #include "KnipselaarCli/fout.h"
 #include "KnipselaarCli/melder.h"
-#include "KnipselaarCli/onderbreking.h"
 #include "KnipselaarCli/opties.h"
 #include "KnipselaarCli/plan.h"
 #include "KnipselaarCli/ploeg.h"
@@ -47,7 +47,7 @@ class Run {
         doeTaken(0, directories, 1);
         doeTaken(directories, plan_.taken.size(), kiesDraden(opties_, plan_.taken.size() - directories));
         melder_.wisVoortgang();
-        if (isOnderbroken()) {
+        if (kern::isOnderbroken()) {
             return misbruikOfStoring;
         }
         if (opties_.bewijs) {
@@ -69,7 +69,7 @@ class Run {
             [&](std::size_t i) {
                 return cli::voerUit(plan_.taken[eerste + i], opties_, teksten_, plan_.soort);
             },
-            [] { return !isOnderbroken(); });
+            [] { return !kern::isOnderbroken(); });
         ploeg.werk(draden, [&](std::size_t i, const Uitslag& uitslag) {
             neem(plan_.taken[eerste + i], uitslag);
             melder_.meldVoortgang(i + 1, aantal);
@@ -77,7 +77,7 @@ class Run {
     }
 
     void neem(const Taak& taak, const Uitslag& uitslag) {
-        if (isOnderbroken()) {
+        if (kern::isOnderbroken()) {
             return;
         }
         const std::string naam = taak.bron == standaardinvoer ? "standaardinvoer" : taak.bron;
@@ -130,7 +130,7 @@ Afloop voerUit(const std::vector<std::string>& woorden) {
         }
         return Run(opties, melder).voerUit();
     } catch (const std::exception& fout) {
-        if (!isOnderbroken()) {
+        if (!kern::isOnderbroken()) {
             Melder(false).meldRun(fout.what(), Ernst::fout);
         }
         return misbruikOfStoring;
@@ -143,9 +143,9 @@ CliApp::CliApp(std::vector<std::string> woorden)
     : ConsoleApp("knipselaar-cli"), woorden_(std::move(woorden)) {}
 
 int CliApp::OnRun() {
-    vangSignalen();
+    kern::vangOnderbreking();
     const Afloop afloop = voerUit(woorden_);
-    sterfAanSignaal();
+    kern::sterfAanOnderbreking();
     return afloop;
 }
 

@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-#include "Knipselaar/kern/reden.h"
+#include "Knipselaar/kern/systeem/reden.h"
 
 namespace cli {
 

@@ -1,11 +1,10 @@
 #include "KnipselaarCli/melder.h"
 
-#include <unistd.h>
-
 #include <array>
 #include <cstdio>
 #include <cstdlib>
 
+#include "Knipselaar/kern/systeem/bestand.h"
 #include "KnipselaarCli/bestanden.h"
 #include "KnipselaarCli/fout.h"
 
@@ -24,7 +23,7 @@ void schrijfFoutkanaal(std::string_view tekst) {
 bool magKleur() {
     const char* geenKleur = std::getenv("NO_COLOR");
     const char* terminal = std::getenv("TERM");
-    return isatty(STDERR_FILENO) != 0 && (geenKleur == nullptr || *geenKleur == '\0') &&
+    return kern::isTerminal(kern::foutkanaal) && (geenKleur == nullptr || *geenKleur == '\0') &&
            terminal != nullptr && std::string_view(terminal) != "dumb";
 }
 
@@ -39,7 +38,7 @@ std::string noemDuur(std::chrono::seconds duur) {
 }  // namespace
 
 Melder::Melder(bool stil)
-    : stil_(stil), kleur_(magKleur()), voortgang_(!stil && isatty(STDERR_FILENO) != 0) {}
+    : stil_(stil), kleur_(magKleur()), voortgang_(!stil && kern::isTerminal(kern::foutkanaal)) {}
 
 void Melder::meld(std::string_view pad, const Melding& melding) {
     schrijfMelding(std::string(pad) + ":" + std::to_string(melding.regel), melding.ernst, melding.tekst);
@@ -68,7 +67,7 @@ void Melder::schrijfMelding(std::string_view voor, Ernst ernst, std::string_view
 void Melder::schrijf(std::string_view tekst) {
     wisVoortgang();
     try {
-        schrijfAlles(STDOUT_FILENO, [tekst](const Ontvanger& uit) { uit(tekst); });
+        schrijfAlles(kern::uitvoerkanaal, [tekst](const Ontvanger& uit) { uit(tekst); });
     } catch (const Fout& fout) {
         throw Fout(std::string("standaarduitvoer: kan niet geschreven worden: ") + fout.what());
     }

@@ -1,13 +1,12 @@
 #include "KnipselaarCli/plan.h"
 
-#include <fnmatch.h>
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <map>
 #include <set>
 
+#include "Knipselaar/kern/systeem/masker.h"
+#include "Knipselaar/kern/systeem/paden.h"
 #include "KnipselaarCli/boom.h"
 #include "KnipselaarCli/fout.h"
 
@@ -18,26 +17,13 @@ namespace fs = std::filesystem;
 namespace {
 
 bool isDirectory(const std::string& pad) {
-    std::error_code fout;
-    return fs::is_directory(pad, fout);
+    kern::Kenmerken kenmerken;
+    return !kern::leesKenmerken(pad, kenmerken) && kenmerken.soort == kern::Bestandssoort::directory;
 }
 
 bool bestaat(const std::string& pad) {
-    struct stat gegevens {};
-    return lstat(pad.c_str(), &gegevens) == 0;
-}
-
-bool isLink(const std::string& pad) {
-    struct stat gegevens {};
-    return lstat(pad.c_str(), &gegevens) == 0 && S_ISLNK(gegevens.st_mode);
-}
-
-/// Of twee paden hetzelfde bestand of dezelfde directory zijn, ook via een link of een tweede naam.
-bool isZelfde(const std::string& een, const std::string& ander) {
-    struct stat eerste {};
-    struct stat tweede {};
-    return stat(een.c_str(), &eerste) == 0 && stat(ander.c_str(), &tweede) == 0 &&
-           eerste.st_dev == tweede.st_dev && eerste.st_ino == tweede.st_ino;
+    kern::Kenmerken kenmerken;
+    return !kern::leesEigenKenmerken(pad, kenmerken);
 }
 
 /// Waar een link heen wijst, zoals het in de link staat.
@@ -48,9 +34,8 @@ std::string leesLink(const std::string& pad) {
 
 /// Of een link in deze boom bij iets uitkomt dat er zelf ook in zit, ook als de boom verhuist.
 bool blijftBinnen(const std::string& link, const std::string& boom) {
-    std::error_code fout;
-    const fs::path echt = fs::canonical(link, fout);
-    return !fout && !leesLink(link).starts_with('/') && ligtIn(echt.string(), maakEcht(boom));
+    const std::string echt = kern::geefEchtPad(link);
+    return !echt.empty() && !fs::path(leesLink(link)).is_absolute() && kern::ligtIn(echt, maakEcht(boom));
 }
 
 /// Kiest in directories wat geknipt wordt, en onthoudt welk masker iets vond.
@@ -67,8 +52,8 @@ class Kiezer {
         bool gekozen = false;
         for (const std::string& masker : opties_.maskers) {
             const bool heelPad = masker.find('/') != std::string::npos;
-            const std::string wat(heelPad ? std::string_view(pad) : geefNaam(pad));
-            if (fnmatch(masker.c_str(), wat.c_str(), heelPad ? FNM_PATHNAME : 0) == 0) {
+            const std::string wat(heelPad ? std::string_view(pad) : kern::geefNaam(pad));
+            if (kern::pastOp(masker, wat, heelPad)) {
                 gebruikt_.insert(masker);
                 gekozen = true;
             }
@@ -137,12 +122,11 @@ class Planner {
             neemBestand(bron);
             return;
         }
-        std::error_code fout;
-        const fs::file_status status = fs::status(bron, fout);
-        if (!fs::exists(status)) {
-            throw Fout(bron + ": kan niet gelezen worden: " + noemReden(fout.value()) + "; kijk de naam na");
+        kern::Kenmerken kenmerken;
+        if (const auto fout = kern::leesKenmerken(bron, kenmerken)) {
+            throw Fout(bron + ": kan niet gelezen worden: " + noemReden(fout) + "; kijk de naam na");
         }
-        if (fs::is_directory(status)) {
+        if (kenmerken.soort == kern::Bestandssoort::directory) {
             neemDirectory(bron);
         } else {
             neemBestand(bron);
@@ -151,10 +135,10 @@ class Planner {
 
     void neemBestand(const std::string& bron) {
         if (opties_.naar) {
-            voegToe(Handeling::knip, bron, plak(*opties_.naar, geefNaam(bron)));
+            voegToe(Handeling::knip, bron, kern::plak(*opties_.naar, kern::geefNaam(bron)));
         } else if (opties_.uit) {
             // Wie een link noemt, bedoelt het bestand waar zij heen wijst.
-            const std::string doel = isLink(*opties_.uit) ? maakEcht(*opties_.uit) : *opties_.uit;
+            const std::string doel = kern::isLink(*opties_.uit) ? maakEcht(*opties_.uit) : *opties_.uit;
             plan_.nalezen.push_back(doel);
             voegToe(Handeling::knip, bron, doel);
         } else {
@@ -187,40 +171,41 @@ class Planner {
     static void keurLigging(const std::string& bron, const std::string& naar) {
         const std::string echteBron = maakEcht(bron);
         const std::string echteNaar = maakEcht(naar);
-        if (echteBron == echteNaar || isZelfde(bron, naar)) {
+        if (echteBron == echteNaar || kern::isZelfdePlaats(bron, naar)) {
             throw Fout(naar + ": is dezelfde directory als " + bron +
                        "; kies een andere, of geef --ter-plaatse");
         }
-        if (ligtIn(echteNaar, echteBron)) {
+        if (kern::ligtIn(echteNaar, echteBron)) {
             throw Fout(naar + ": ligt in de bron " + bron + "; kies een bestemming erbuiten");
         }
-        if (ligtIn(echteBron, echteNaar)) {
+        if (kern::ligtIn(echteBron, echteNaar)) {
             throw Fout(naar + ": daar ligt de bron " + bron + " in; kies een andere bestemming");
         }
     }
 
     void neemDeel(const std::string& boom, const Boomdeel& deel) {
         const bool heleBoom = opties_.naar && opties_.recursief;
-        const std::string bron = plak(boom, deel.pad);
-        const std::string doel = opties_.naar ? plak(*opties_.naar, deel.pad) : std::string();
+        const std::string bron = kern::plak(boom, deel.pad);
+        const std::string doel = opties_.naar ? kern::plak(*opties_.naar, deel.pad) : std::string();
         switch (deel.soort) {
-            case Soort::directory:
+            case kern::Bestandssoort::directory:
                 if (heleBoom) {
                     voegToe(Handeling::maakDirectory, bron, doel);
                 }
                 break;
-            case Soort::link:
+            case kern::Bestandssoort::link:
                 neemLink(boom, deel, bron, doel);
                 break;
-            case Soort::bestand:
+            case kern::Bestandssoort::bestand:
                 if (kiezer_.isGekozen(deel.pad)) {
                     // Er zit geen link tussen de directory en wat er bij het lopen in gevonden is.
-                    voegGekozenToe(bron, plak(echteBoom_, deel.pad), doel);
+                    voegGekozenToe(bron, kern::plak(echteBoom_, deel.pad), doel);
                 } else if (heleBoom) {
                     voegToe(Handeling::neemOver, bron, doel);
                 }
                 break;
-            case Soort::anders:
+            case kern::Bestandssoort::onbekend:
+            case kern::Bestandssoort::anders:
                 if (heleBoom || kiezer_.isGekozen(deel.pad)) {
                     plan_.waarschuwingen.push_back(bron + ": is geen gewoon bestand; overgeslagen");
                 }
@@ -288,7 +273,7 @@ class Planner {
 
     void keurBestemming(const Taak& taak) const {
         const std::string& doel = taak.doel;
-        if (isZelfde(taak.bron, doel)) {
+        if (kern::isZelfdePlaats(taak.bron, doel)) {
             throw Fout(doel + ": is hetzelfde bestand als de bron " + taak.bron +
                        "; kies een andere bestemming, of geef --ter-plaatse");
         }
@@ -296,7 +281,7 @@ class Planner {
             return;
         }
         if (taak.handeling == Handeling::maakDirectory) {
-            if (isLink(doel) && !taak.bron.empty()) {
+            if (kern::isLink(doel) && !taak.bron.empty()) {
                 throw Fout(doel + ": is een link; haal haar weg, anders wordt er buiten " + *opties_.naar +
                            " geschreven");
             }
@@ -305,12 +290,13 @@ class Planner {
             }
             return;
         }
-        if (isDirectory(doel) && !isLink(doel)) {
+        if (isDirectory(doel) && !kern::isLink(doel)) {
             throw Fout(doel + (opties_.uit ? ": is een directory; geef --naar, of noem een bestand"
                                            : ": bestaat al en is een directory; haal haar weg"));
         }
-        struct stat gegevens {};
-        if (lstat(doel.c_str(), &gegevens) == 0 && !S_ISREG(gegevens.st_mode) && !S_ISLNK(gegevens.st_mode)) {
+        kern::Kenmerken kenmerken;
+        if (!kern::leesEigenKenmerken(doel, kenmerken) && kenmerken.soort != kern::Bestandssoort::bestand &&
+            kenmerken.soort != kern::Bestandssoort::link) {
             throw Fout(doel + ": bestaat al en is geen gewoon bestand; kies een andere bestemming");
         }
         if (!opties_.overschrijf && !isEerder(taak)) {
@@ -321,7 +307,7 @@ class Planner {
     }
 
     bool isEerder(const Taak& taak) const {
-        if (isLink(taak.doel)) {
+        if (kern::isLink(taak.doel)) {
             return taak.handeling == Handeling::legLink && leesLink(taak.doel) == leesLink(taak.bron);
         }
         return isEerdereUitvoer(taak.doel, plan_.soort);

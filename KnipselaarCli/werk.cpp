@@ -1,15 +1,13 @@
 #include "KnipselaarCli/werk.h"
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <filesystem>
 
+#include "Knipselaar/kern/systeem/bestand.h"
+#include "Knipselaar/kern/systeem/onderbreking.h"
 #include "KnipselaarCli/bestanden.h"
 #include "KnipselaarCli/fout.h"
 #include "KnipselaarCli/knipsel.h"
-#include "KnipselaarCli/onderbreking.h"
 #include "KnipselaarCli/verschil.h"
 
 namespace cli {
@@ -69,7 +67,7 @@ class Knipbeurt {
         return teksten_.geefVervanging(opties_.taal.value_or(kiesTaal(taak_.bron)));
     }
 
-    void knip(const Brontekst& bron, const Ontleding& ontleding, mode_t rechten) {
+    void knip(const Brontekst& bron, const Ontleding& ontleding, fs::perms rechten) {
         if (opties_.bewijs) {
             uitslag_.stof = verzamelStof(bron.geefTekst(), ontleding.blokken, opties_.bewijsLengte);
         }
@@ -86,7 +84,7 @@ class Knipbeurt {
         }
     }
 
-    void verwerk(const Brontekst& bron, const Ontleding& ontleding, Knipsel& knipsel, mode_t rechten) {
+    void verwerk(const Brontekst& bron, const Ontleding& ontleding, Knipsel& knipsel, fs::perms rechten) {
         if (opties_.json || opties_.opdracht == Opdracht::droog) {
             tel(bron, ontleding, knipsel);
         }
@@ -122,16 +120,16 @@ class Knipbeurt {
         uitslag_.regelsEruit = uitslag_.regelsErin - weg + vervangen * erbij;
     }
 
-    void schrijf(Knipsel& knipsel, mode_t rechten) {
-        if (isOnderbroken()) {
-            throw Fout(noemReden(EINTR));
+    void schrijf(Knipsel& knipsel, fs::perms rechten) {
+        if (kern::isOnderbroken()) {
+            throw Fout(noemReden(std::make_error_code(std::errc::interrupted)));
         }
         const Stukken stukken = [&knipsel](const Ontvanger& uit) { knipsel.geef(uit); };
         if (opties_.terPlaatse) {
             vervangTerPlaatse(taak_.doel, stukken);
         } else if (taak_.doel.empty()) {
             try {
-                schrijfAlles(STDOUT_FILENO, stukken);
+                schrijfAlles(kern::uitvoerkanaal, stukken);
             } catch (const Fout& fout) {
                 throw Fout(std::string("standaarduitvoer: kan niet geschreven worden: ") + fout.what());
             }
@@ -151,7 +149,7 @@ void maakDirectory(const Taak& taak) {
     std::error_code fout;
     fs::create_directories(taak.doel, fout);
     if (fout) {
-        throw Fout(taak.doel + ": kan niet gemaakt worden: " + noemReden(fout.value()));
+        throw Fout(taak.doel + ": kan niet gemaakt worden: " + noemReden(fout));
     }
 }
 
@@ -169,7 +167,7 @@ void legLink(const Taak& taak) {
         fs::create_symlink(naar, taak.doel, fout);
     }
     if (fout) {
-        throw Fout(taak.doel + ": kan niet gemaakt worden: " + noemReden(fout.value()));
+        throw Fout(taak.doel + ": kan niet gemaakt worden: " + noemReden(fout));
     }
 }
 

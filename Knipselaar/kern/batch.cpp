@@ -7,40 +7,53 @@
 #include <string>
 #include <unordered_set>
 
-#include "Knipselaar/kern/paden.h"
+#include "Knipselaar/kern/systeem/directory.h"
+#include "Knipselaar/kern/systeem/paden.h"
 #include "Knipselaar/kern/terPlaatse.h"
 
 namespace kern {
 
 namespace {
 
-/// Verzamelt bestanden zoals wxDir::GetAllFiles, maar gaat niet door links naar directories.
-class Verzamelaar : public wxDirTraverser {
-  public:
-    explicit Verzamelaar(std::vector<wxString>& paden) : paden_(paden) {}
+/// Of een naam in tekst te schrijven is. Is zij dat niet, dan is wat zij noemt langs die tekst niet te
+/// vinden.
+bool isTeSchrijven(const std::string& naam) {
+    return naarPad(naarTekst(naam)) == naam;
+}
 
-    wxDirTraverseResult OnFile(const wxString& pad) override {
-        paden_.push_back(pad);
-        return wxDIR_CONTINUE;
+/// Noemt wat wxDir::GetAllFiles noemt, in die volgorde, maar gaat niet door links naar directories. De
+/// toolkit zou bij elke naam tweemaal vragen wat het is; de directory zegt het meestal zelf al. Een
+/// subdirectory die niet opengaat is leeg.
+/// @param directory  met een scheidingsteken achteraan.
+void verzamel(const wxString& directory, std::vector<wxString>& paden) {
+    std::vector<Deel> delen;
+    leesDirectory(naarPad(directory), delen);
+    std::vector<wxString> bestanden;
+    for (const Deel& deel : delen) {
+        if (deel.verborgen) {
+            continue;
+        }
+        const wxString pad = directory + naarTekst(deel.naam);
+        Kenmerken doel;
+        if (deel.soort == Bestandssoort::directory && isTeSchrijven(deel.naam)) {
+            verzamel(pad + wxFileName::GetPathSeparator(), paden);
+        } else if (deel.soort != Bestandssoort::link || leesKenmerken(naarPad(pad), doel) ||
+                   doel.soort != Bestandssoort::directory) {
+            bestanden.push_back(pad);
+        }
     }
-
-    wxDirTraverseResult OnDir(const wxString& pad) override {
-        return isLink(pad) ? wxDIR_IGNORE : wxDIR_CONTINUE;
-    }
-
-  private:
-    std::vector<wxString>& paden_;
-};
+    paden.insert(paden.end(), bestanden.begin(), bestanden.end());
+}
 
 /// Houdt bij welke echte bestanden van een boom al aan de beurt waren.
 class Beurten {
   public:
-    explicit Beurten(const wxString& boom) : wortel_(geefEchtPad(boom)) {}
+    explicit Beurten(const wxString& boom) : wortel_(geefEchtPad(naarPad(boom))) {}
 
     /// Waarom dit echte pad niet aan de beurt mag; niets als het in de boom ligt en nog niet aan de beurt
     /// was. Daarna was het dat wel. Van een boom die zelf niet te vinden is ligt niets binnen.
     std::optional<Overslag> neem(const std::string& echt) {
-        const bool binnen = wortel_ == "/" || (!wortel_.empty() && echt.starts_with(wortel_ + "/"));
+        const bool binnen = !wortel_.empty() && ligtIn(echt, wortel_);
         if (!binnen) {
             return Overslag::buitenBoom;
         }
@@ -57,7 +70,8 @@ std::optional<Overslag> keurVlak(const wxFileName& bron, const wxFileName& doel,
     if (!opdracht.isGekozen(bron)) {
         return Overslag::nietGekozen;
     }
-    const bool zouLegen = !zelfdeDirectory && isZelfdePlaats(bron.GetFullPath(), doel.GetFullPath());
+    const bool zouLegen =
+        !zelfdeDirectory && isZelfdePlaats(naarPad(bron.GetFullPath()), naarPad(doel.GetFullPath()));
     return zouLegen ? std::optional(Overslag::bronZelf) : std::nullopt;
 }
 
@@ -98,15 +112,14 @@ std::vector<wxString> lijstBoom(const wxString& boom) {
     wxASSERT(recurDir.IsOpened());
     std::vector<wxString> paden;
     if (recurDir.IsOpened()) {
-        Verzamelaar verzamelaar(paden);
-        recurDir.Traverse(verzamelaar, wxEmptyString, wxDIR_FILES | wxDIR_DIRS);
+        verzamel(recurDir.GetNameWithSep(), paden);
     }
     return paden;
 }
 
 void knipDirectory(const wxString& bron, const wxString& bestemming, const std::vector<wxString>& namen,
                    BatchOpdracht& opdracht) {
-    const bool zelfdeDirectory = isZelfdePlaats(bron, bestemming);
+    const bool zelfdeDirectory = isZelfdePlaats(naarPad(bron), naarPad(bestemming));
     long nummer = 1;
     std::size_t gedaan = 0;
     for (const wxString& naam : namen) {
@@ -135,7 +148,7 @@ void knipBoom(const wxString& boom, const std::vector<wxString>& paden, BatchOpd
         const wxFileName bestand(pad);
         // Een pad dat nergens heen wijst wordt gemeld als verwerkt, maar nooit vervangen: ook als het daarna
         // wel te vinden is, kan het al aan de beurt geweest zijn of buiten de boom liggen.
-        const std::string echt = geefEchtPad(pad);
+        const std::string echt = geefEchtPad(naarPad(pad));
         std::optional<Overslag> overslag;
         if (!opdracht.isGekozen(bestand)) {
             overslag = Overslag::nietGekozen;

@@ -4,10 +4,11 @@
 // toch meteen gelezen, en bij een groot bestand kost dat evenveel als het knippen zelf.
 
 #include <cstddef>
-#include <cstdlib>
 #include <memory>
 #include <span>
 #include <string_view>
+
+#include "Knipselaar/kern/systeem/geheugen.h"
 
 namespace kern {
 
@@ -46,7 +47,7 @@ class Bytes {
 
         void operator()(char* bytes) const {
             if (!geleend) {
-                std::free(bytes);  // NOLINT(cppcoreguidelines-no-malloc)
+                geefGeheugenTerug(bytes);
             }
         }
     };

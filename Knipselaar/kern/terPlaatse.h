@@ -6,12 +6,12 @@
 // eerst een kopie onder een tijdelijke naam naast het bestand staan, en wordt die hernoemd. Geen tijdelijk
 // bestand overleeft het object.
 
-#include <sys/stat.h>
 #include <wx/filename.h>
 
 #include <string>
+#include <system_error>
 
-class wxFile;
+#include "Knipselaar/kern/systeem/kenmerken.h"
 
 namespace kern {
 
@@ -35,9 +35,7 @@ class TerPlaatse {
     bool vervang(const std::string& echt);
 
   private:
-    bool hernoem(int knipsel, const struct stat& oud, const std::string& echt);
-    bool kopieer(wxFile& knipsel, const struct stat& oud, const std::string& echt);
-    bool onthoudReden(bool gelukt);
+    bool onthoudReden(const std::error_code& fout);
 
     wxFileName tijdelijk_;
     std::string reden_;

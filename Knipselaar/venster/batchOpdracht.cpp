@@ -11,7 +11,7 @@
 #include "Knipselaar/kern/batchVerslag.h"
 #include "Knipselaar/kern/keuzes.h"
 #include "Knipselaar/kern/logregels.h"
-#include "Knipselaar/kern/paden.h"
+#include "Knipselaar/kern/systeem/paden.h"
 #include "Knipselaar/venster/bezigVenster.h"
 #include "Knipselaar/venster/identificaties.h"
 #include "Knipselaar/venster/markeerder.h"
@@ -158,7 +158,7 @@ kern::KnipUitslag ParserVenster::knipVoorBatch(const wxFileName& bron, const wxF
 void ParserVenster::verwerkDirectory(BezigVenster& bezig) {
     // Naar zichzelf geknipt raakt elk bestand leeg; dat mag alleen als de gebruiker het wil. Wie de vraag met
     // Escape of het sluitkruis wegdoet, wil het niet.
-    if (kern::isZelfdePlaats(origineelPad, aangepastPad) &&
+    if (kern::isZelfdePlaats(kern::naarPad(origineelPad), kern::naarPad(aangepastPad)) &&
         wxMessageBox(wxGetTranslation("Bron en bestemming directories zijn gelijk.\nToch doorgaan?"),
                      "Bevestig", wxYES_NO, this) != wxYES) {
         return;

@@ -2,7 +2,7 @@
 
 #include <sys/stat.h>
 
-#include "Knipselaar/kern/paden.h"
+#include "Knipselaar/kern/systeem/paden.h"
 #include "tests/kern/batchProef.h"
 
 namespace fs = std::filesystem;
@@ -305,12 +305,12 @@ TEST(Paden, ZijnDezelfdePlaatsHoeZeOokGeschrevenZijn) {
     fs::create_directory(map / "a");
     fs::create_directory(map / "b");
     fs::create_directory_symlink("a", map / "link");
-    const wxString a = naarWx(map / "a");
-    for (const wxString& ander : {a, a + "/", a + "/.", a + "//", a + "/../a", naarWx(map / "link")}) {
+    const std::string a = map / "a";
+    for (const std::string& ander : {a, a + "/", a + "/.", a + "//", a + "/../a", (map / "link").string()}) {
         EXPECT_TRUE(kern::isZelfdePlaats(a, ander)) << ander;
     }
-    EXPECT_FALSE(kern::isZelfdePlaats(a, naarWx(map / "b")));
-    EXPECT_FALSE(kern::isZelfdePlaats(a, naarWx(map / "bestaat-niet")));
+    EXPECT_FALSE(kern::isZelfdePlaats(a, map / "b"));
+    EXPECT_FALSE(kern::isZelfdePlaats(a, map / "bestaat-niet"));
     EXPECT_TRUE(kern::isZelfdePlaats("/bestaat/niet", "/bestaat/niet"));
     EXPECT_FALSE(kern::isZelfdePlaats("/bestaat/niet", "/bestaat/ook/niet"));
 }

@@ -1,9 +1,9 @@
-#include "Knipselaar/kern/buurbestand.h"
+#include "Knipselaar/kern/systeem/buurbestand.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <string_view>
 
 #include "tests/hulp/bestanden.h"
@@ -13,6 +13,7 @@ namespace fs = std::filesystem;
 
 using hulp::Boom;
 using kern::Buurbestand;
+using kern::Kenmerken;
 
 namespace {
 
@@ -22,13 +23,17 @@ void schrijf(const Buurbestand& bestand, std::string_view tekst) {
 
 class BuurbestandTest : public testing::Test {
   protected:
-    static struct stat geefGegevens(const Buurbestand& bestand) {
-        struct stat gegevens {};
-        EXPECT_EQ(0, fstat(bestand.geefKanaal(), &gegevens));
-        return gegevens;
+    static Kenmerken geefKenmerken(const Buurbestand& bestand) {
+        Kenmerken kenmerken;
+        EXPECT_FALSE(kern::leesKenmerken(bestand.geefKanaal(), kenmerken));
+        return kenmerken;
     }
 
-    static mode_t geefRechten(const Buurbestand& bestand) { return geefGegevens(bestand).st_mode & 07777U; }
+    Kenmerken geefKenmerkenVanDoel() const {
+        Kenmerken kenmerken;
+        EXPECT_FALSE(kern::leesEigenKenmerken(doel_, kenmerken));
+        return kenmerken;
+    }
 
     /// Wat er in de directory staat, met de namen zonder hun toevallige deel.
     Boom leesBoom() const {
@@ -44,13 +49,18 @@ class BuurbestandTest : public testing::Test {
     fs::path doel_ = map_ / "a.c";
 };
 
+constexpr auto gewoneRechten = static_cast<fs::perms>(0750);
+constexpr auto alleRechten = static_cast<fs::perms>(06750);
+
 enum class Weg { hernoemen, ruilen };
 
 /// Langs beide wegen naar de plaats van de bestemming.
 class BuurbestandPlaats : public BuurbestandTest, public testing::WithParamInterface<Weg> {
   protected:
-    static bool neemPlaatsIn(Buurbestand& nieuw) {
-        return GetParam() == Weg::ruilen ? nieuw.ruil() : nieuw.neemPlaatsIn();
+    static std::error_code neemPlaatsIn(Buurbestand& nieuw) {
+        Kenmerken oud;
+        oud.rechten = gewoneRechten;
+        return GetParam() == Weg::ruilen ? nieuw.ruil(gewoneRechten) : nieuw.vervang(oud);
     }
 };
 
@@ -65,8 +75,7 @@ TEST_P(BuurbestandPlaats, IsVanDeBestemmingOfVanHetBuurbestand) {
         Boom samen = vooraf;
         samen[".Knipselaar"] = "nieuw";
         EXPECT_EQ(samen, leesBoom());
-        nieuw.beginTeBewaren();
-        EXPECT_TRUE(neemPlaatsIn(nieuw));
+        EXPECT_FALSE(neemPlaatsIn(nieuw));
         EXPECT_EQ((Boom{{"a.c", "nieuw"}}), leesBoom());
         fs::remove(doel_);
     }
@@ -86,8 +95,7 @@ TEST_P(BuurbestandPlaats, BlijftVanEenDirectory) {
     hulp::schrijfBestand(doel_ / "b.c", "erin");
     {
         Buurbestand nieuw(doel_.string());
-        EXPECT_FALSE(neemPlaatsIn(nieuw));
-        EXPECT_EQ(EISDIR, errno);
+        EXPECT_EQ(std::errc::is_a_directory, neemPlaatsIn(nieuw));
     }
     EXPECT_EQ((Boom{{"a.c", "/"}, {"a.c/b.c", "erin"}}), leesBoom());
 }
@@ -97,49 +105,57 @@ TEST_P(BuurbestandPlaats, BlijftVanDeBestemmingAlsHetBuurbestandNietHeelIs) {
     {
         Buurbestand nieuw(doel_.string());
         ASSERT_EQ(0, close(nieuw.geefKanaal())) << "dan mislukt het sluiten straks";
-        EXPECT_FALSE(neemPlaatsIn(nieuw));
-        EXPECT_EQ(EBADF, errno);
+        EXPECT_EQ(std::errc::bad_file_descriptor, neemPlaatsIn(nieuw));
     }
     EXPECT_EQ((Boom{{"a.c", "oud"}}), leesBoom());
 }
 
 TEST_F(BuurbestandTest, IsNietOpenWaarGeenDirectoryIs) {
-    Buurbestand nieuw((map_ / "weg/a.c").string());
-    EXPECT_EQ(ENOENT, errno);
+    const Buurbestand nieuw((map_ / "weg/a.c").string());
     EXPECT_FALSE(nieuw.isOpen());
+    EXPECT_EQ(std::errc::no_such_file_or_directory, nieuw.geefFout());
 }
 
 TEST_F(BuurbestandTest, KomtZonderDirectoryInDeHuidige) {
     const fs::path oud = fs::current_path();
     fs::current_path(map_.pad());
     Buurbestand nieuw("b.c");
-    EXPECT_TRUE(nieuw.neemPlaatsIn());
+    EXPECT_FALSE(nieuw.ruil(gewoneRechten));
     fs::current_path(oud);
     EXPECT_EQ((Boom{{"b.c", ""}}), leesBoom());
 }
 
 TEST_F(BuurbestandTest, NeemtDeRechtenOver) {
-    const Buurbestand nieuw(doel_.string());
-    struct stat van = geefGegevens(nieuw);
-    EXPECT_EQ(0600U, geefRechten(nieuw));
-    van.st_mode = 06750;
-    EXPECT_TRUE(nieuw.neemRechtenOver(van));
-    EXPECT_EQ(06750U, geefRechten(nieuw));
+    Buurbestand nieuw(doel_.string());
+    Kenmerken van = geefKenmerken(nieuw);
+    EXPECT_EQ(fs::perms::owner_read | fs::perms::owner_write, van.rechten);
+    van.rechten = alleRechten;
+    EXPECT_FALSE(nieuw.vervang(van));
+    EXPECT_EQ(alleRechten, geefKenmerkenVanDoel().rechten);
 }
 
 TEST_F(BuurbestandTest, NeemtVanEenVreemdeEigenaarGeenBijzondereRechtenOver) {
-    const Buurbestand nieuw(doel_.string());
-    struct stat van = geefGegevens(nieuw);
-    van.st_uid = 0;
-    van.st_gid = 0;
-    van.st_mode = 06750;
+    fs::permissions(map_.pad(), fs::perms::all);
+    Buurbestand nieuw(doel_.string());
+    Kenmerken van = geefKenmerken(nieuw);
+    van.eigenaar = 0;
+    van.groep = 0;
+    van.rechten = alleRechten;
     constexpr uid_t niemand = 65534;
     const bool isRoot = geteuid() == 0;
     ASSERT_TRUE(!isRoot || (fchown(nieuw.geefKanaal(), niemand, niemand) == 0 && seteuid(niemand) == 0));
-    EXPECT_TRUE(nieuw.neemRechtenOver(van));
+    EXPECT_FALSE(nieuw.vervang(van));
     ASSERT_TRUE(!isRoot || seteuid(0) == 0);
-    EXPECT_EQ(0750U, geefRechten(nieuw));
-    EXPECT_NE(0U, geefGegevens(nieuw).st_uid);
+    EXPECT_EQ(gewoneRechten, geefKenmerkenVanDoel().rechten);
+    EXPECT_NE(0U, geefKenmerkenVanDoel().eigenaar);
+}
+
+TEST_F(BuurbestandTest, KrijgtBijHetRuilenDeGevraagdeRechtenZonderHetMasker) {
+    const mode_t oud = umask(0);
+    umask(oud);
+    Buurbestand nieuw(doel_.string());
+    EXPECT_FALSE(nieuw.ruil(fs::perms::mask));
+    EXPECT_EQ(fs::perms::all & ~static_cast<fs::perms>(oud), geefKenmerkenVanDoel().rechten);
 }
 
 INSTANTIATE_TEST_SUITE_P(Wegen, BuurbestandPlaats, testing::Values(Weg::hernoemen, Weg::ruilen),

@@ -1,8 +1,17 @@
-#include "Knipselaar/kern/reden.h"
+#include "Knipselaar/kern/systeem/reden.h"
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <system_error>
+
+namespace {
+
+std::string noem(int foutnummer) {
+    return kern::noemReden({foutnummer, std::generic_category()});
+}
+
+}  // namespace
 
 TEST(Reden, NoemtElkeFoutInHetNederlands) {
     struct Geval {
@@ -21,11 +30,11 @@ TEST(Reden, NoemtElkeFoutInHetNederlands) {
           Geval{ENOTDIR, "een deel van het pad is geen directory"}, Geval{ENAMETOOLONG, "de naam is te lang"},
           Geval{ELOOP, "de links lopen in een kring"}, Geval{EPIPE, "de lezer van de pijp is gestopt"},
           Geval{EINTR, "onderbroken"}}) {
-        EXPECT_EQ(reden, kern::noemReden(foutnummer)) << foutnummer;
+        EXPECT_EQ(reden, noem(foutnummer)) << foutnummer;
     }
 }
 
 TEST(Reden, NoemtEenAndereFoutZoalsHetSysteem) {
-    EXPECT_EQ("Input/output error", kern::noemReden(EIO));
-    EXPECT_EQ("Text file busy", kern::noemReden(ETXTBSY));
+    EXPECT_EQ("Input/output error", noem(EIO));
+    EXPECT_EQ("Text file busy", noem(ETXTBSY));
 }

@@ -1,12 +1,11 @@
-#include "Knipselaar/kern/reden.h"
+#include "Knipselaar/kern/systeem/reden.h"
 
 #include <cerrno>
-#include <system_error>
 
 namespace kern {
 
-std::string noemReden(int foutnummer) {
-    switch (foutnummer) {
+std::string noemReden(const std::error_code& fout) {
+    switch (fout.value()) {
         case ENOENT:
             return "bestaat niet";
         case EACCES:
@@ -32,7 +31,7 @@ std::string noemReden(int foutnummer) {
         case EINTR:
             return "onderbroken";
         default:
-            return std::generic_category().message(foutnummer);
+            return fout.message();
     }
 }
 

@@ -1,10 +1,10 @@
-#include "KnipselaarCli/onderbreking.h"
+#include "Knipselaar/kern/systeem/onderbreking.h"
 
 #include <array>
 #include <atomic>
 #include <csignal>
 
-namespace cli {
+namespace kern {
 
 namespace {
 
@@ -17,7 +17,7 @@ void onthoud(int signaal) {
 
 }  // namespace
 
-void vangSignalen() {
+void vangOnderbreking() {
     for (const int signaal : std::array{SIGINT, SIGTERM, SIGHUP}) {
         struct sigaction nieuw {};
         struct sigaction oud {};
@@ -34,11 +34,11 @@ bool isOnderbroken() {
     return gevangen != 0;
 }
 
-void sterfAanSignaal() {
+void sterfAanOnderbreking() {
     if (gevangen != 0) {
         std::signal(gevangen, SIG_DFL);
         std::raise(gevangen);
     }
 }
 
-}  // namespace cli
+}  // namespace kern

@@ -1,0 +1,23 @@
+#pragma once
+
+// Wat er in een directory staat.
+
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include "Knipselaar/kern/systeem/kenmerken.h"
+
+namespace kern {
+
+struct Deel {
+    std::string naam;
+    Bestandssoort soort = Bestandssoort::onbekend;  ///< van de naam zelf; links worden niet gevolgd
+    bool verborgen = false;  ///< zoals het systeem dat bedoelt: op POSIX begint de naam met een punt
+};
+
+/// Voegt achteraan toe wat er in een directory staat, zonder "." en "..", in de volgorde van het systeem.
+/// Mislukt het onderweg, dan blijft wat er al was.
+std::error_code leesDirectory(const std::string& pad, std::vector<Deel>& uit);
+
+}  // namespace kern

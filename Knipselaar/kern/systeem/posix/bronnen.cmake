@@ -1,0 +1,14 @@
+set(systeem_bronnen
+  kern/systeem/posix/aantekening.cpp
+  kern/systeem/posix/bestand.cpp
+  kern/systeem/posix/buurbestand.cpp
+  kern/systeem/posix/console.cpp
+  kern/systeem/posix/directory.cpp
+  kern/systeem/posix/geheugen.cpp
+  kern/systeem/posix/kenmerken.cpp
+  kern/systeem/posix/masker.cpp
+  kern/systeem/posix/onderbreking.cpp
+  kern/systeem/posix/paden.cpp
+  kern/systeem/posix/rechten.cpp
+  kern/systeem/posix/reden.cpp
+  kern/systeem/posix/vervanging.cpp)
