@@ -4,6 +4,7 @@
 #include <io.h>
 
 #include <algorithm>
+#include <cerrno>
 
 #include "Knipselaar/kern/systeem/onderbreking.h"
 #include "Knipselaar/kern/systeem/windows/breed.h"
@@ -45,7 +46,7 @@ Opening houdGewoonBestand(Handvat& handvat, int wijze) {
         return opening;
     }
     opening.fout = leesKenmerken(opening.bestand.geefKanaal(), opening.kenmerken);
-    if (opening.kenmerken.soort != Soort::bestand) {
+    if (opening.kenmerken.soort != Bestandssoort::bestand) {
         opening.bestand = Bestand();
     }
     return opening;
@@ -54,12 +55,8 @@ Opening houdGewoonBestand(Handvat& handvat, int wijze) {
 /// Een apparaat of een pijp gaat niet eens open.
 Opening weiger() {
     Opening opening;
-    opening.kenmerken.soort = Soort::anders;
+    opening.kenmerken.soort = Bestandssoort::anders;
     return opening;
-}
-
-bool isNietGevonden(const std::error_code& fout) {
-    return fout == windows::maakFout(ERROR_FILE_NOT_FOUND);
 }
 
 /// Maakt een bestand waar er geen is. Door een link die nergens heen wijst zou er elders een ontstaan.
@@ -108,7 +105,7 @@ Opening openDoel(const std::string& pad) {
     Handvat handvat(CreateFileW(voluit.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
                                 OPEN_EXISTING, altijd, nullptr));
     Opening opening = houdGewoonBestand(handvat, _O_WRONLY);
-    if (isNietGevonden(opening.fout)) {
+    if (opening.fout == std::errc::no_such_file_or_directory) {
         return maakNieuw(pad, voluit);
     }
     if (opening.bestand.isOpen() && opening.kenmerken.lengte > 0 &&

@@ -9,16 +9,16 @@ namespace kern {
 
 namespace {
 
-Soort bepaalSoort(const WIN32_FIND_DATAW& deel) {
+Bestandssoort bepaalSoort(const WIN32_FIND_DATAW& deel) {
     // Bij een naam die ergens anders heen wijst staat hier hoe; zie ook kenmerken.cpp.
     if ((deel.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
         IsReparseTagNameSurrogate(deel.dwReserved0)) {
-        return Soort::link;
+        return Bestandssoort::link;
     }
     if ((deel.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-        return Soort::directory;
+        return Bestandssoort::directory;
     }
-    return (deel.dwFileAttributes & FILE_ATTRIBUTE_DEVICE) != 0 ? Soort::anders : Soort::bestand;
+    return (deel.dwFileAttributes & FILE_ATTRIBUTE_DEVICE) != 0 ? Bestandssoort::anders : Bestandssoort::bestand;
 }
 
 /// Wat van een andere wereld komt heet ook hier verborgen: ".git", ".vscode".
@@ -41,8 +41,7 @@ std::error_code leesDirectory(const std::string& pad, std::vector<Deel>& uit) {
         &FindClose);
     if (zoeker.get() == INVALID_HANDLE_VALUE) {
         // De wortel van een lege schijf heeft ook geen "." en "..".
-        const auto fout = windows::geefFout();
-        return fout == windows::maakFout(ERROR_FILE_NOT_FOUND) ? std::error_code() : fout;
+        return GetLastError() == ERROR_FILE_NOT_FOUND ? std::error_code() : windows::geefFout();
     }
     do {
         const std::wstring_view naam(deel.cFileName);

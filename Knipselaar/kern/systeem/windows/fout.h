@@ -8,17 +8,14 @@
 
 namespace kern::windows {
 
-inline std::error_code maakFout(DWORD nummer) {
-    return {static_cast<int>(nummer), std::system_category()};
-}
+/// Waar de C-bibliotheek een naam voor de fout heeft, is het haar foutnummer, zodat de rest van het programma haar
+/// met std::errc kan vergelijken. Anders dat van Windows.
+std::error_code maakFout(DWORD nummer);
 
 /// Van de laatste aanroep van deze draad.
-inline std::error_code geefFout() {
-    return maakFout(GetLastError());
-}
+std::error_code geefFout();
 
-inline std::error_code keur(BOOL gelukt) {
-    return gelukt != 0 ? std::error_code() : geefFout();
-}
+/// Niets als een aanroep lukte, anders de fout.
+std::error_code keur(BOOL gelukt);
 
 }  // namespace kern::windows

@@ -54,7 +54,7 @@ void leesTijd(const FILETIME& tijd, Kenmerken& uit) {
 
 std::error_code neemOver(HANDLE handvat, Kenmerken& uit) {
     if (GetFileType(handvat) != FILE_TYPE_DISK) {
-        uit.soort = Soort::anders;
+        uit.soort = Bestandssoort::anders;
         return {};
     }
     BY_HANDLE_FILE_INFORMATION gegevens{};
@@ -62,10 +62,10 @@ std::error_code neemOver(HANDLE handvat, Kenmerken& uit) {
         return windows::geefFout();
     }
     if (isLink(handvat)) {
-        uit.soort = Soort::link;
+        uit.soort = Bestandssoort::link;
     } else {
         const bool directory = (gegevens.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-        uit.soort = directory ? Soort::directory : Soort::bestand;
+        uit.soort = directory ? Bestandssoort::directory : Bestandssoort::bestand;
     }
     uit.schijf = gegevens.dwVolumeSerialNumber;
     uit.nummer = voegSamen(gegevens.nFileIndexHigh, gegevens.nFileIndexLow);
@@ -82,7 +82,7 @@ std::error_code neemOver(HANDLE handvat, Kenmerken& uit) {
 std::error_code leesVan(const std::string& pad, DWORD wijze, Kenmerken& uit) {
     const std::wstring voluit = windows::maakVoluit(pad);
     if (windows::isApparaat(voluit)) {
-        uit.soort = Soort::anders;
+        uit.soort = Bestandssoort::anders;
         uit.nummer = std::hash<std::wstring>()(voluit);
         return {};
     }

@@ -39,7 +39,7 @@ wxString naarTekst(const std::string& pad) {
 
 bool isLink(const std::string& pad) {
     Kenmerken kenmerken;
-    return !leesEigenKenmerken(pad, kenmerken) && kenmerken.soort == Soort::link;
+    return !leesEigenKenmerken(pad, kenmerken) && kenmerken.soort == Bestandssoort::link;
 }
 
 bool isZelfdePlaats(const std::string& een, const std::string& ander) {
@@ -49,17 +49,24 @@ bool isZelfdePlaats(const std::string& een, const std::string& ander) {
                             eerste.isZelfdePlaats(tweede));
 }
 
-std::string geefEchtPad(const std::string& pad) {
+std::string geefEchtPad(const std::string& pad, std::error_code& fout) {
     const std::wstring voluit = windows::maakVoluit(pad);
     if (windows::isApparaat(voluit)) {
+        fout = windows::maakFout(ERROR_INVALID_NAME);
         return {};
     }
     const windows::Handvat handvat(CreateFileW(voluit.c_str(), FILE_READ_ATTRIBUTES, windows::deelAlles, nullptr,
                                                OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
     if (!handvat.isOpen()) {
+        fout = windows::geefFout();
         return {};
     }
     return windows::maakSmal(windows::maakLeesbaar(windows::geefPad(handvat.geef())));
+}
+
+std::string geefEchtPad(const std::string& pad) {
+    std::error_code fout;
+    return geefEchtPad(pad, fout);
 }
 
 bool ligtIn(std::string_view pad, std::string_view directory) {

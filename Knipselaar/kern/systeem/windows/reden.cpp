@@ -1,51 +1,36 @@
 #include "Knipselaar/kern/systeem/reden.h"
 
-#include <windows.h>
-
 #include <cerrno>
+
+#include "Knipselaar/kern/systeem/windows/fout.h"
 
 namespace kern {
 
 namespace {
 
-/// Hoe de C-bibliotheek een fout van Windows zou noemen; nul als zij daar geen naam voor heeft.
-int naarErrno(int nummer) {
-    switch (nummer) {
-        case ERROR_FILE_NOT_FOUND:
-        case ERROR_PATH_NOT_FOUND:
-        case ERROR_INVALID_DRIVE:
-        case ERROR_BAD_NETPATH:
-        case ERROR_BAD_NET_NAME:
-        case ERROR_INVALID_NAME:
-            return ENOENT;
-        case ERROR_ACCESS_DENIED:
-        case ERROR_PRIVILEGE_NOT_HELD:
-            return EACCES;
-        case ERROR_DISK_FULL:
-        case ERROR_HANDLE_DISK_FULL:
-        case ERROR_NOT_ENOUGH_QUOTA:
-            return ENOSPC;
-        case ERROR_FILE_TOO_LARGE:
-            return EFBIG;
-        case ERROR_WRITE_PROTECT:
-            return EROFS;
-        case ERROR_DIRECTORY:
-            return ENOTDIR;
-        case ERROR_FILENAME_EXCED_RANGE:
-        case ERROR_BUFFER_OVERFLOW:
-            return ENAMETOOLONG;
-        case ERROR_CANT_RESOLVE_FILENAME:
-            return ELOOP;
-        case ERROR_BROKEN_PIPE:
-        case ERROR_NO_DATA:
-            return EPIPE;
+std::string noemVanWindows(const std::error_code& fout) {
+    switch (fout.value()) {
+        case ERROR_SHARING_VIOLATION:
+        case ERROR_LOCK_VIOLATION:
+            return "een ander programma heeft het open; sluit het daar";
+        case ERROR_FILE_READ_ONLY:
+            return "het bestand is alleen-lezen; haal dat kenmerk eraf";
         default:
-            return 0;
+            return fout.message();
     }
 }
 
-std::string noem(int foutnummer, const std::error_code& fout) {
-    switch (foutnummer) {
+}  // namespace
+
+std::string noemReden(const std::error_code& fout) {
+    // De toolkit geeft de fouten van Windows zoals ze zijn.
+    const std::error_code eigen = fout.category() == std::system_category()
+                                      ? windows::maakFout(static_cast<DWORD>(fout.value()))
+                                      : fout;
+    if (eigen.category() == std::system_category()) {
+        return noemVanWindows(eigen);
+    }
+    switch (eigen.value()) {
         case ENOENT:
             return "bestaat niet";
         case EACCES:
@@ -70,24 +55,7 @@ std::string noem(int foutnummer, const std::error_code& fout) {
         case EINTR:
             return "onderbroken";
         default:
-            return fout.message();
-    }
-}
-
-}  // namespace
-
-std::string noemReden(const std::error_code& fout) {
-    if (fout.category() != std::system_category()) {
-        return noem(fout.value(), fout);
-    }
-    switch (fout.value()) {
-        case ERROR_SHARING_VIOLATION:
-        case ERROR_LOCK_VIOLATION:
-            return "een ander programma heeft het open; sluit het daar";
-        case ERROR_FILE_READ_ONLY:
-            return "het bestand is alleen-lezen; haal dat kenmerk eraf";
-        default:
-            return noem(naarErrno(fout.value()), fout);
+            return eigen.message();
     }
 }
 
