@@ -1,12 +1,11 @@
 ; Het installatieprogramma voor Windows: voor de gebruiker zelf, zonder beheerdersrechten. Wat het neerzet en wat het
 ; weer weghaalt staat in twee lijsten die scripts/pakket-windows.sh maakt; zo haalt het niets weg dat niet van hem is.
-Unicode true
+Target amd64-unicode
 ManifestDPIAware true
 SetCompressor /SOLID lzma
 RequestExecutionLevel user
 
 !include "MUI2.nsh"
-!include "x64.nsh"
 
 !define PRODUCT "Knipselaar"
 !define MAKER "Werkplaats Knipselaar"
@@ -37,13 +36,6 @@ VIAddVersionKey /LANG=0x0413 "LegalCopyright" "(c)2025-2026 ing. Team Knipselaar
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "Dutch"
-
-Function .onInit
-    ${IfNot} ${RunningX64}
-        MessageBox MB_OK|MB_ICONSTOP "${PRODUCT} vraagt een Windows van 64 bits." /SD IDOK
-        Abort
-    ${EndIf}
-FunctionEnd
 
 Section
     !include "${LIJSTEN}\neer.nsh"
