@@ -45,6 +45,38 @@ void verzamel(const wxString& directory, std::vector<wxString>& paden) {
     paden.insert(paden.end(), bestanden.begin(), bestanden.end());
 }
 
+/// Zoekt echte paden van bestanden die in groepen bij elkaar liggen: van een directory één keer, zolang zij
+/// dezelfde blijft. Elk deel van elk pad navragen kost het systeem meer dan het lezen van een bestand.
+class EchtePaden {
+  public:
+    /// Zoals geefEchtPad.
+    std::string zoek(const std::string& pad) {
+        const std::string directory = pad.substr(0, pad.size() - geefNaam(pad).size());
+        if (directory != directory_ || !isNogDezelfde()) {
+            directory_ = directory;
+            echteDirectory_ = geefEchtPad(directory);
+            leesKenmerken(echteDirectory_, kenmerken_);
+        }
+        const std::string echt = plak(echteDirectory_, geefNaam(pad));
+        Kenmerken kenmerken;
+        if (echteDirectory_.empty() || leesEigenKenmerken(echt, kenmerken) ||
+            kenmerken.soort == Bestandssoort::link) {
+            return geefEchtPad(pad);
+        }
+        return echt;
+    }
+
+  private:
+    bool isNogDezelfde() const {
+        Kenmerken nu;
+        return !leesKenmerken(echteDirectory_, nu) && nu.isZelfdePlaats(kenmerken_);
+    }
+
+    std::string directory_;
+    std::string echteDirectory_;
+    Kenmerken kenmerken_;
+};
+
 /// Houdt bij welke echte bestanden van een boom al aan de beurt waren.
 class Beurten {
   public:
@@ -140,7 +172,9 @@ void knipDirectory(const wxString& bron, const wxString& bestemming, const std::
 }
 
 void knipBoom(const wxString& boom, const std::vector<wxString>& paden, BatchOpdracht& opdracht) {
+    const wxString tijdelijkeDirectory = wxFileName::GetTempDir();
     Beurten beurten(boom);
+    EchtePaden echtePaden;
     long nummer = 0;
     for (const wxString& pad : paden) {
         opdracht.meldVoortgang(static_cast<std::size_t>(nummer), paden.size());
@@ -148,7 +182,7 @@ void knipBoom(const wxString& boom, const std::vector<wxString>& paden, BatchOpd
         const wxFileName bestand(pad);
         // Een pad dat nergens heen wijst wordt gemeld als verwerkt, maar nooit vervangen: ook als het daarna
         // wel te vinden is, kan het al aan de beurt geweest zijn of buiten de boom liggen.
-        const std::string echt = geefEchtPad(naarPad(pad));
+        const std::string echt = echtePaden.zoek(naarPad(pad));
         std::optional<Overslag> overslag;
         if (!opdracht.isGekozen(bestand)) {
             overslag = Overslag::nietGekozen;
@@ -159,7 +193,7 @@ void knipBoom(const wxString& boom, const std::vector<wxString>& paden, BatchOpd
             opdracht.meldOvergeslagen(nummer, bestand, *overslag);
             continue;
         }
-        TerPlaatse terPlaatse;
+        TerPlaatse terPlaatse(tijdelijkeDirectory);
         opdracht.meldVerwerkt(nummer, bestand, bestand);
         opdracht.meldAfloop(knipTerPlaatse(bestand, echt, terPlaatse, opdracht));
     }

@@ -46,9 +46,9 @@ std::error_code kopieer(const std::string& knipsel, const std::string& echt, con
 
 }  // namespace
 
-TerPlaatse::TerPlaatse() {
+TerPlaatse::TerPlaatse(const wxString& tijdelijkeDirectory) {
     const wxLogNull geenMeldingen;
-    tijdelijk_.AssignTempFileName("Knipselaar");
+    tijdelijk_.AssignTempFileName(tijdelijkeDirectory + wxFileName::GetPathSeparator() + "Knipselaar");
     if (!tijdelijk_.IsOk()) {
         onthoudReden({static_cast<int>(wxSysErrorCode()), std::system_category()});
     }

@@ -18,7 +18,8 @@ namespace kern {
 class TerPlaatse {
   public:
     /// Maakt het tijdelijke bestand. Lukt dat niet, dan is geefTijdelijk een leeg pad.
-    TerPlaatse();
+    /// @param tijdelijkeDirectory  die van het systeem; wie veel bestanden vervangt zoekt haar één keer.
+    explicit TerPlaatse(const wxString& tijdelijkeDirectory = wxFileName::GetTempDir());
     TerPlaatse(const TerPlaatse&) = delete;
     TerPlaatse& operator=(const TerPlaatse&) = delete;
     ~TerPlaatse();

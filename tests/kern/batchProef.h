@@ -90,11 +90,15 @@ class Opdracht : public kern::BatchOpdracht {
 
     void meldVoortgang(std::size_t gedaan, std::size_t totaal) override {
         voortgang += std::to_string(gedaan) + "/" + std::to_string(totaal) + " ";
+        if (voorElkBestand) {
+            voorElkBestand(gedaan);
+        }
     }
 
     std::vector<std::string> gemeld;
     std::string voortgang;
-    std::map<std::string, std::string> loop;  ///< hoe het met elk bestand ging, op naam
+    std::map<std::string, std::string> loop;          ///< hoe het met elk bestand ging, op naam
+    std::function<void(std::size_t)> voorElkBestand;  ///< krijgt hoeveel er gedaan zijn
     std::function<void()> voorElkeKnip;
     std::function<void()> naElkeKnip;
 

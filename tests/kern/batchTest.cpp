@@ -1,6 +1,7 @@
 #include "Knipselaar/kern/batch.h"
 
 #include <sys/stat.h>
+#include <wx/dir.h>
 
 #include "Knipselaar/kern/systeem/paden.h"
 #include "tests/kern/batchProef.h"
@@ -17,6 +18,20 @@ namespace {
 using Lijst = proef::Batch;
 using Vlak = proef::Batch;
 using Boomloop = proef::Batch;
+
+/// Hoe de toolkit zelf een boom afloopt, op links naar directories na.
+class ToolkitLijst : public wxDirTraverser {
+  public:
+    wxDirTraverseResult OnFile(const wxString& pad) override {
+        paden.push_back(pad);
+        return wxDIR_CONTINUE;
+    }
+    wxDirTraverseResult OnDir(const wxString& pad) override {
+        return kern::isLink(kern::naarPad(pad)) ? wxDIR_IGNORE : wxDIR_CONTINUE;
+    }
+
+    std::vector<wxString> paden;
+};
 
 }  // namespace
 
@@ -79,6 +94,27 @@ TEST_F(Lijst, NoemtSubdirectoriesVoorDeBestandenZelf) {
     EXPECT_EQ((std::vector<wxString>{naarWx(boom_ / "sub/diep/c.c"), naarWx(boom_ / "sub/b.c"),
                                      naarWx(boom_ / "a.c")}),
               kern::lijstBoom(naarWx(boom_)));
+}
+
+TEST_F(Lijst, NoemtWatDeToolkitNoemt) {
+    hulp::maakBoom(map_ / "elders", {{"x.c", ""}});
+    hulp::maakBoom(boom_, {{"b/diep/a.c", ""},
+                           {"b/\xE9\xE9n.c", ""},
+                           {"caf\xE9/nergens.c", ""},
+                           {"\u00e9\u00e9n/d.c", ""},
+                           {"leeg", "/"},
+                           {"elders", "-> ../elders"},
+                           {"los.c", "-> nergens"},
+                           {"link.c", "-> b/diep/a.c"},
+                           {".git/e.c", ""},
+                           {".f.c", ""},
+                           {"g", ""}});
+    ASSERT_EQ(0, mkfifo((boom_ / "pijp.c").c_str(), 0600));
+    for (const wxString& boom : {naarWx(boom_), naarWx(boom_) + "/", naarWx(boom_) + "//"}) {
+        ToolkitLijst lijst;
+        wxDir(boom).Traverse(lijst, wxEmptyString, wxDIR_FILES | wxDIR_DIRS);
+        EXPECT_EQ(lijst.paden, kern::lijstBoom(boom)) << boom;
+    }
 }
 
 TEST_F(Vlak, KniptElkGekozenBestandEnTeltAlleenDie) {
@@ -183,6 +219,23 @@ TEST_F(Boomloop, BlijftBinnenDeBoom) {
     EXPECT_EQ(origineel, hulp::leesBestand(map_ / "buiten.c"));
     EXPECT_EQ(origineel, hulp::leesBestand(map_ / "boom-ernaast/b.c"));
     EXPECT_EQ(geknipt, hulp::leesBestand(boom_ / "drie.c"));
+}
+
+TEST_F(Boomloop, BlijftBinnenDeBoomAlsEenDirectoryErIntussenUitWijst) {
+    hulp::maakBoom(map_ / "elders", {{"a.c", origineel}, {"b.c", origineel}});
+    hulp::maakBoom(boom_, {{"sub/a.c", origineel}, {"sub/b.c", origineel}});
+    Opdracht opdracht;
+    opdracht.voorElkBestand = [this](std::size_t gedaan) {
+        if (gedaan == 1) {
+            fs::rename(boom_ / "sub", map_ / "was");
+            fs::create_symlink("../elders", boom_ / "sub");
+        }
+    };
+    kern::knipBoom(naarWx(boom_), {naarWx(boom_ / "sub/a.c"), naarWx(boom_ / "sub/b.c")}, opdracht);
+    EXPECT_EQ((std::map<std::string, std::string>{{"a.c", "gelukt ter plaatse, 1 blok"},
+                                                  {"b.c", "over: buiten de boom"}}),
+              opdracht.loop);
+    EXPECT_EQ((hulp::Boom{{"a.c", origineel}, {"b.c", origineel}}), hulp::leesBoom(map_ / "elders"));
 }
 
 TEST_F(Boomloop, KentDeBoomOokDoorEenLink) {
