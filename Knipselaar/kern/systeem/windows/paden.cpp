@@ -61,7 +61,14 @@ std::string geefEchtPad(const std::string& pad, std::error_code& fout) {
         fout = windows::geefFout();
         return {};
     }
-    return windows::maakSmal(windows::maakLeesbaar(windows::geefPad(handvat.geef())));
+    std::wstring echt = windows::geefPad(handvat.geef());
+    if (echt.empty()) {
+        // Niet elk stuurprogramma van een schijf weet de weg terug. Tussen een boom en wat er bij het aflopen in
+        // gevonden wordt liggen geen links; is het dat zelf ook niet, dan is het pad al echt.
+        fout = windows::geefFout();
+        echt = isLink(pad) ? std::wstring() : voluit;
+    }
+    return windows::maakSmal(windows::maakLeesbaar(std::move(echt)));
 }
 
 std::string geefEchtPad(const std::string& pad) {
