@@ -27,9 +27,6 @@ target_link_libraries(wx_basis INTERFACE wxbase32u wxregexu ${van_windows})
 add_library(wx_venster INTERFACE)
 target_link_libraries(wx_venster INTERFACE wxmsw32u_stc wxmsw32u_core wxbase32u wxscintilla wx_basis)
 
-set(venster_systeem msw)
-add_library(venster_systeem INTERFACE)
-
 # Waar de bron staat en hoe laat het is, komt niet in een programma: dezelfde bron geeft dezelfde bytes.
 target_compile_options(knipselaar_controles INTERFACE
   $<$<COMPILE_LANGUAGE:CXX>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>

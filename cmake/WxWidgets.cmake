@@ -29,8 +29,3 @@ knipselaar_wx_doel(wx_basis base)
 # Over-venster.
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(GTK3 REQUIRED IMPORTED_TARGET gtk+-3.0)
-
-# Waar staat wat alleen dit venstersysteem kan, en wat dat nodig heeft.
-set(venster_systeem gtk)
-add_library(venster_systeem INTERFACE)
-target_link_libraries(venster_systeem INTERFACE PkgConfig::GTK3)

@@ -9,7 +9,7 @@
 #include <wx/snglinst.h>
 #include <wx/utils.h>
 
-#include "gemeenschappelijk/overPlaatje.h"
+#include "gemeenschappelijk/systeem/overPlaatje.h"
 
 namespace {
 

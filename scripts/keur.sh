@@ -21,6 +21,8 @@ stil "clang-format wil iets anders; voer uit: clang-format -i BESTAND" clang-for
 echo "Keuren: cppcheck"
 stil "cppcheck heeft een bevinding" cppcheck --quiet --enable=warning,style,performance,portability --std=c++20 \
     --inline-suppr --suppressions-list=tests/cppcheck.txt --error-exitcode=1 -I. --library=wxwidgets "${delen[@]}"
+echo "Keuren: breuken"
+stil "een breuk voor de tests past niet meer op de code" tests/mutatie/mutaties.py --staan
 echo "Keuren: clang++"
 bouw sanitizers
 echo "Keuren: clang-tidy"

@@ -87,14 +87,14 @@ void RegelOmzetter::zetUtf8Om(std::string_view blok, std::string& uit) {
 
 void RegelOmzetter::zetLatijn1Om(std::string_view blok, std::string& uit) {
     while (!blok.empty()) {
-        neemGewoneTekens(blok, uit);
-        if (blok.empty()) {
-            return;
+        std::size_t genomen = naCR_ ? 0 : neemLatijn1(blok, uit);
+        if (genomen == 0) {
+            genomen = 1;
+            if (!eindigRegel(blok[0], uit)) {
+                schrijfUtf8(static_cast<unsigned char>(blok[0]), uit);
+            }
         }
-        if (!eindigRegel(blok[0], uit)) {
-            schrijfUtf8(static_cast<unsigned char>(blok[0]), uit);
-        }
-        blok.remove_prefix(1);
+        blok.remove_prefix(genomen);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "Knipselaar/kern/utf8.h"
 
+#include <algorithm>
+#include <array>
 #include <experimental/simd>
 
 namespace kern {
@@ -49,6 +51,38 @@ template <Bytesoort soort>
 std::size_t telTotEinde(std::string_view bytes, CrLf crLf) {
     return crLf == CrLf::teltMee ? telTotEinde<soort, CrLf::teltMee>(bytes)
                                  : telTotEinde<soort, CrLf::eindigt>(bytes);
+}
+
+/// Of een byte het begin is van een teken van twee bytes; van een vak: van welke.
+template <typename Byte>
+auto isEersteVanTwee(const Byte& byte) {
+    return byte >= static_cast<signed char>(0xC2) && byte < static_cast<signed char>(0xE0);
+}
+
+/// Aantal bytes vanaf een teken dat gewone ASCII is of hele tekens van twee bytes, per vak. Aan het begin van
+/// de bytes nul: wat er voor een vak staat zegt of het met een vervolg moet beginnen.
+std::size_t telTweetallen(std::string_view bytes, std::size_t begin) {
+    if (begin == 0) {
+        return 0;
+    }
+    std::size_t plek = begin;
+    const auto isHalf = [bytes, begin, &plek] {
+        return plek > begin && isEersteVanTwee(static_cast<signed char>(bytes[plek - 1]));
+    };
+    for (bool verder = true; verder && plek + Vak::size() <= bytes.size();) {
+        const Vak vak(bytes.data() + plek, simd::element_aligned);
+        const auto gewoon = vak > '\0' && vak != '\r';
+        if (simd::all_of(gewoon) && !isHalf()) {
+            plek += Vak::size();
+            continue;
+        }
+        const Vak ervoor(bytes.data() + plek - 1, simd::element_aligned);
+        const auto vervolg = vak < static_cast<signed char>(0xC0);
+        const auto fout = !(gewoon || vervolg || isEersteVanTwee(vak)) || vervolg != isEersteVanTwee(ervoor);
+        verder = simd::none_of(fout);
+        plek += verder ? Vak::size() : static_cast<std::size_t>(simd::find_first_set(fout));
+    }
+    return plek - begin - (isHalf() ? 1 : 0);
 }
 
 constexpr std::size_t reeksLengte(unsigned char eerste) {
@@ -127,15 +161,54 @@ std::size_t telZonderEinden(std::string_view bytes, CrLf crLf) {
 
 bool isSchoneUtf8(std::string_view bytes) {
     std::size_t plek = 0;
-    while ((plek += telGewoneAscii(bytes.substr(plek))) < bytes.size()) {
+    while ((plek += telTweetallen(bytes, plek)) < bytes.size()) {
         const Utf8Teken teken = leesUtf8(bytes.substr(plek));
-        if (teken.oordeel != Utf8Oordeel::geldig || teken.lengte < 2 ||
-            teken.waarde < laagsteWaarde(teken.lengte)) {
+        if (teken.oordeel != Utf8Oordeel::geldig || teken.waarde < laagsteWaarde(teken.lengte) ||
+            teken.waarde == '\0' || teken.waarde == '\r') {
             return false;
         }
         plek += teken.lengte;
     }
     return true;
+}
+
+std::size_t neemLatijn1(std::string_view bytes, std::string& uit) {
+    constexpr std::size_t hoogstens = 4096;
+    std::array<char, 2 * hoogstens + Vak::size()> plaats;  // NOLINT(cppcoreguidelines-pro-type-member-init)
+    const std::string_view stuk = bytes.substr(0, hoogstens);
+    char* doel = plaats.data();
+    std::size_t plek = 0;
+    while (plek < stuk.size()) {
+        if (plek + Vak::size() <= stuk.size()) {
+            // Het hele vak gaat mee; wat na de eerste bijzondere byte komt wordt daarna overschreven.
+            const Vak vak(stuk.data() + plek, simd::element_aligned);
+            vak.copy_to(doel, simd::element_aligned);
+            const auto bijzonder = vak <= '\0' || vak == '\r';
+            const bool heel = simd::none_of(bijzonder);
+            const std::size_t gewoon =
+                heel ? Vak::size() : static_cast<std::size_t>(simd::find_first_set(bijzonder));
+            doel += gewoon;
+            plek += gewoon;
+            if (heel) {
+                continue;
+            }
+        }
+        const auto byte = static_cast<unsigned char>(stuk[plek]);
+        if (byte >= 0x80) {
+            *doel++ = static_cast<char>(0xC0U | (byte >> 6U));
+            *doel++ = static_cast<char>(0x80U | (byte & 0x3FU));
+            ++plek;
+        } else if (byte != '\0' && byte != '\r') {
+            *doel++ = stuk[plek++];
+        } else if (bytes.substr(plek).starts_with("\r\n")) {
+            *doel++ = '\n';
+            plek += 2;
+        } else {
+            break;
+        }
+    }
+    uit.append(plaats.data(), doel);
+    return plek;
 }
 
 }  // namespace kern

@@ -30,6 +30,11 @@ Utf8Teken leesUtf8(std::string_view bytes);
 /// @param waarde  hoogstens U+10FFFF.
 void schrijfUtf8(std::uint32_t waarde, std::string& uit);
 
+/// Zet bytes in ISO 8859-1 om en hangt ze achter uit: hoogstens een stuk, en tot de eerste CR of NUL. Een CR
+/// LF stopt niet, en wordt een LF.
+/// @return hoeveel bytes het waren; nul als de eerste een CR of NUL is die stopt.
+std::size_t neemLatijn1(std::string_view bytes, std::string& uit);
+
 /// Of alle bytes hele, geldige tekens in hun kortste vorm zijn en er geen CR of NUL bij is.
 bool isSchoneUtf8(std::string_view bytes);
 

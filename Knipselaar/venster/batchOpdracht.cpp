@@ -7,6 +7,10 @@
 #include <wx/msgdlg.h>
 #include <wx/stc/stc.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "Knipselaar/kern/batch.h"
 #include "Knipselaar/kern/batchVerslag.h"
 #include "Knipselaar/kern/keuzes.h"
@@ -21,47 +25,51 @@
 
 namespace {
 
-/// Laat een editor zijn schuifbalk pas bijwerken als er niets meer bij komt. De toolkit rekent hem anders bij
-/// elke regel opnieuw uit, en dat kost een tiende van de hele batch.
-class Schuifrust {
-  public:
-    explicit Schuifrust(wxStyledTextCtrl& editor) : editor_(editor) {
-        editor_.SetUseVerticalScrollBar(false);
-    }
-    Schuifrust(const Schuifrust&) = delete;
-    Schuifrust& operator=(const Schuifrust&) = delete;
-    ~Schuifrust() { editor_.SetUseVerticalScrollBar(true); }
-
-  private:
-    wxStyledTextCtrl& editor_;
-};
-
-/// Een editor als logboek.
+/// Een editor als logboek. Regels komen er bij elkaar in: van elke regel apart werkt de toolkit eerst het
+/// scherm bij.
 class Logboek {
   public:
-    explicit Logboek(wxStyledTextCtrl& editor) : editor_(editor), bijschrijver_(editor), rust_(editor) {}
+    explicit Logboek(wxStyledTextCtrl& editor) : editor_(editor), bijschrijver_(editor) {}
 
     wxStyledTextCtrl& geefEditor() { return editor_; }
 
-    void voegToe(const wxString& regel) { editor_.AppendText(regel); }
+    void voegToe(const wxString& regel) { regels_ += regel.utf8_string(); }
 
-    /// Zet bijschriften onder de laatste regel. Achter haar regeleinde begint al de volgende.
-    void schrijfBij(const std::vector<kern::Bijschrift>& bijschriften) {
+    /// Zet bijschriften onder de laatste regel.
+    void schrijfBij(std::vector<kern::Bijschrift> bijschriften) {
         if (!bijschriften.empty()) {
-            bijschrijver_.zet(editor_.GetLineCount() - 2, bijschriften);
+            bijschriften_.push_back({.plaats = regels_.size() - 1, .lijst = std::move(bijschriften)});
         }
+    }
+
+    /// Zet in de editor wat er nog niet in staat.
+    void werkBij() {
+        const int begin = editor_.GetLength();
+        editor_.AppendTextRaw(regels_.data(), static_cast<int>(regels_.size()));
+        for (const Bij& bij : std::exchange(bijschriften_, {})) {
+            bijschrijver_.zet(editor_.LineFromPosition(begin + static_cast<int>(bij.plaats)), bij.lijst);
+        }
+        regels_.clear();
     }
 
     /// Zet een bijschrift onder het geheel, en laat alle bijschriften zien.
     void sluitAf(const kern::Bijschrift& samenvatting) {
+        werkBij();
         bijschrijver_.zet(editor_.GetLineCount() - 1, {samenvatting});
         merken::toonBijschriften(editor_, true);
     }
 
   private:
+    /// Bijschriften bij de regel waarin een byte van regels_ staat.
+    struct Bij {
+        std::size_t plaats;
+        std::vector<kern::Bijschrift> lijst;
+    };
+
     wxStyledTextCtrl& editor_;
     merken::Bijschrijver bijschrijver_;
-    Schuifrust rust_;
+    std::string regels_;
+    std::vector<Bij> bijschriften_;
 };
 
 /// Knipt voor een venster: leest zijn bediening bij elk bestand opnieuw en schrijft in zijn editors.
@@ -109,7 +117,13 @@ class VensterBatch : public kern::BatchOpdracht {
         }
     }
 
-    void meldVoortgang(std::size_t gedaan, std::size_t totaal) override { bezig_.meld(gedaan, totaal); }
+    void meldVoortgang(std::size_t gedaan, std::size_t totaal) override {
+        bezig_.meld(gedaan, totaal, [this] {
+            for (Logboek* log : {&bronLog_, &doelLog_}) {
+                log->werkBij();
+            }
+        });
+    }
 
   protected:
     BezigVenster& bezig_;
@@ -128,15 +142,19 @@ class TerPlaatseBatch : public VensterBatch {
     using VensterBatch::VensterBatch;
 
     void meldOvergeslagen(long nummer, const wxFileName& bestand, kern::Overslag reden) override {
-        bronLog_.geefEditor().SetBackgroundColour(wxColour("RED"));
+        bronLog_.geefEditor().SetBackgroundColour(rood_);
         VensterBatch::meldOvergeslagen(nummer, bestand, reden);
     }
 
     void meldVerwerkt(long nummer, const wxFileName& bron, const wxFileName& bestemming) override {
-        bronLog_.geefEditor().SetForegroundColour(wxColour("BLUE"));
+        bronLog_.geefEditor().SetForegroundColour(blauw_);
         bronLog_.voegToe(kern::regelOrigineel(nummer, bron.GetFullPath()));
         doelLog_.voegToe(kern::regelStudent(nummer, bestemming.GetFullPath()));
     }
+
+  private:
+    const wxColour rood_ = wxColour("RED");
+    const wxColour blauw_ = wxColour("BLUE");
 };
 
 }  // namespace

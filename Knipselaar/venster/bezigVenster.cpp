@@ -37,17 +37,18 @@ void handelAf() {
 
 }  // namespace
 
-BezigVenster::BezigVenster(wxWindow& ouder, const wxString& tekst,
+BezigVenster::BezigVenster(wxWindow& ouder, Invoerslot& slot, const wxString& tekst,
                            std::function<kern::Voortgangstekst::Tijd()> klok)
-    : info_(tekst, &ouder), kader_(vindKader(ouder)), slot_(kader_), tekst_(tekst, std::move(klok)) {
+    : info_(tekst, &ouder), kader_(vindKader(ouder)), slot_(slot), tekst_(tekst, std::move(klok)) {
+    slot_.sluit();
     kader_.Bind(wxEVT_CLOSE_WINDOW, laatSluitenZitten);
     legBoven(kader_, ouder);
     toon();
 }
 
 BezigVenster::~BezigVenster() {
-    handelAf();
     kader_.Unbind(wxEVT_CLOSE_WINDOW, laatSluitenZitten);
+    slot_.openBijRust();
 }
 
 /// Het venster is van wxBusyInfo, en die ruimt het zelf op.
@@ -73,8 +74,9 @@ void BezigVenster::toon() {
     kader_.Unbind(wxEVT_PAINT, onthoud);
 }
 
-void BezigVenster::meld(std::size_t gedaan, std::size_t totaal) {
+void BezigVenster::meld(std::size_t gedaan, std::size_t totaal, const std::function<void()>& vooraf) {
     if (const auto tekst = tekst_.vernieuw(gedaan, totaal)) {
+        vooraf();
         info_.UpdateText(*tekst);
         handelAf();
     }

@@ -16,15 +16,18 @@ class wxWindow;
 class BezigVenster {
   public:
     /// @param ouder  waar het boven komt te liggen.
+    /// @param slot   is dicht zolang het er staat, en tot daarna alle invoer van intussen vervallen is. Het
+    ///               moet dit venster overleven.
     /// @param klok   zegt hoe laat het is.
-    BezigVenster(wxWindow& ouder, const wxString& tekst,
+    BezigVenster(wxWindow& ouder, Invoerslot& slot, const wxString& tekst,
                  std::function<kern::Voortgangstekst::Tijd()> klok = std::chrono::steady_clock::now);
     BezigVenster(const BezigVenster&) = delete;
     BezigVenster& operator=(const BezigVenster&) = delete;
     ~BezigVenster();
 
     /// Laat zien hoe ver de run is, als het daar tijd voor is.
-    void meld(std::size_t gedaan, std::size_t totaal);
+    /// @param vooraf  gebeurt dan eerst: wat andere vensters moeten laten zien.
+    void meld(std::size_t gedaan, std::size_t totaal, const std::function<void()>& vooraf);
 
   private:
     static void laatSluitenZitten(wxCloseEvent& event);
@@ -32,6 +35,6 @@ class BezigVenster {
 
     wxBusyInfo info_;
     wxWindow& kader_;  ///< het venster van info_
-    Invoerslot slot_;
+    Invoerslot& slot_;
     kern::Voortgangstekst tekst_;
 };

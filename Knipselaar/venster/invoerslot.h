@@ -1,23 +1,29 @@
 #pragma once
 
-// Houdt muis en toetsen weg van alle vensters van het programma op een na, zoals een vraag dat doet. Er is
-// niets van te zien: niets wordt grijs, en wie de toetsen had krijgt ze daarna terug. Een vraag die er later
-// bij komt is gewoon te beantwoorden.
+// Laat invoer vervallen zolang een opdracht de hoofdlus ophoudt. Wat de gebruiker intussen doet ligt na
+// afloop nog te wachten; het slot gaat daarom pas open als dat allemaal weg is.
 
 #include <memory>
 
-class wxWindow;
+#include "Knipselaar/venster/systeem/invoergreep.h"
+
+class wxIdleEvent;
 
 class Invoerslot {
   public:
-    /// @param venster  krijgt wat elk ander venster zou krijgen. Het moet het slot overleven.
-    explicit Invoerslot(wxWindow& venster);
+    Invoerslot() = default;
     Invoerslot(const Invoerslot&) = delete;
     Invoerslot& operator=(const Invoerslot&) = delete;
     ~Invoerslot();
 
-  private:
-    class Slot;  ///< wat het systeem ervoor nodig heeft
+    /// Van nu af aan vervalt alle invoer.
+    void sluit();
 
-    std::unique_ptr<Slot> slot_;
+    /// Gaat open zodra er niets meer te doen ligt.
+    void openBijRust();
+
+  private:
+    void open(wxIdleEvent& event);
+
+    std::unique_ptr<Invoergreep> greep_;
 };

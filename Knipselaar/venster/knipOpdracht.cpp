@@ -12,7 +12,7 @@
 #include "Knipselaar/venster/parserVenster.h"
 
 void ParserVenster::verwijderHandler(wxCommandEvent& /*event*/) {
-    BezigVenster bezig(*this, wxGetTranslation("Wacht een ogenblik, bezig met verwerken......."));
+    BezigVenster bezig(*this, slot_, wxGetTranslation("Wacht een ogenblik, bezig met verwerken......."));
     switch (parserModeKeuze->GetSelection()) {
         case kern::enkelBestand:
             bewerkBestand();

@@ -133,7 +133,7 @@ void Markeerder::meldVeroudering() {
         bijschriften.push_back(kern::maakBijschrift(kern::Ernst::waarschuwing, veroudering));
     }
     // Wie boven de eerste regel iets typt schuift het bijschrift mee naar beneden.
-    if (bijschriften.empty() || bijschriften != merken::leesBijschriften(aangepast_, 0)) {
+    if (bijschriften != merken::leesBijschriften(aangepast_, 0)) {
         aangepast_.AnnotationClearAll();
         merken::Bijschrijver(aangepast_).zet(0, bijschriften);
     }

@@ -143,6 +143,9 @@ void toonBijschriften(wxStyledTextCtrl& editor, bool zichtbaar) {
     const int vorm = zichtbaar ? wxSTC_ANNOTATION_BOXED : wxSTC_ANNOTATION_HIDDEN;
     if (editor.AnnotationGetVisible() != vorm) {
         editor.AnnotationSetVisible(vorm);
+        // Dat er nu meer of minder regels te zien zijn ziet de schuifbalk niet vanzelf. De eerste regel is
+        // altijd te zien; die laten zien rekent alleen de balk opnieuw uit.
+        editor.ShowLines(0, 0);
     }
 }
 

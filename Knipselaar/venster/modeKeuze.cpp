@@ -1,6 +1,6 @@
 #include "Knipselaar/venster/modeKeuze.h"
 
-#include "Knipselaar/venster/klik.h"
+#include "Knipselaar/venster/systeem/klik.h"
 
 void ModeKeuze::SetSelection(int selectie) {
     wxRadioBox::SetSelection(selectie);

@@ -6,7 +6,7 @@
 
 #include <wx/radiobox.h>
 
-#include "Knipselaar/venster/toegankelijkheid.h"
+#include "vastLabel.h"
 
 class ModeKeuze : public VastLabel<wxRadioBox> {
   public:

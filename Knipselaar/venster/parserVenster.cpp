@@ -20,7 +20,6 @@
 #include "Knipselaar/venster/markeerder.h"
 #include "Knipselaar/venster/modeKeuze.h"
 #include "Knipselaar/venster/padKiezer.h"
-#include "Knipselaar/venster/toegankelijkheid.h"
 #include "Knipselaar/venster/volgEditor.h"
 
 // De toolkit neemt de eerste regel die past. De twee laatste regels voor wxID_ADD en wxID_SAVE doen daarom

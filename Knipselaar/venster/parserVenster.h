@@ -17,6 +17,7 @@
 #include "Knipselaar/kern/bestandKnipper.h"
 #include "Knipselaar/kern/knipper.h"
 #include "Knipselaar/kern/parserInstellingen.h"
+#include "Knipselaar/venster/invoerslot.h"
 
 class BezigVenster;
 class Markeerder;
@@ -139,6 +140,7 @@ class ParserVenster : public wxFrame {
     std::optional<kern::KnipMal> mal_;  ///< van de laatste knipbeurt
     kern::KnipUitslag uitslag_;         ///< van het laatste bestand dat geknipt is
     std::unique_ptr<Markeerder> markeerder_;
+    Invoerslot slot_;  ///< dicht tijdens een knipopdracht
 
     wxDECLARE_EVENT_TABLE();
 };

@@ -2,7 +2,8 @@
 """Breekt de code op veel plaatsen, één tegelijk, en laat zien dat de tests elke breuk opmerken.
 
 Werkt in een eigen kopie van de boom: mutaties.py WERKMAP [NUMMER ...]. Zonder nummers komen alle breuken aan de
-beurt. Een breuk die geen test opmerkt heet een overlever; de afloopstatus is dan 1.
+beurt. Een breuk die geen test opmerkt heet een overlever; de afloopstatus is dan 1. mutaties.py --staan ziet alleen na
+of de tekst van elke breuk nog precies één keer in zijn bestand staat.
 """
 import pathlib
 import subprocess
@@ -19,6 +20,17 @@ def lees_breuken():
             bestand, oud, nieuw = regel.split(" ¦ ")
             breuken.append((bestand.strip(), oud.replace("⏎", "\n"), nieuw.replace("⏎", "\n").strip("·")))
     return breuken
+
+
+def meld_verdwenen(breuken):
+    """Meldt de breuken waarvan de tekst niet precies één keer in de code staat, en geeft hoeveel het er zijn."""
+    aantal = 0
+    for nummer, (bestand, oud, _) in enumerate(breuken, 1):
+        keren = (BRON / bestand).read_text(encoding="utf-8").count(oud)
+        if keren != 1:
+            print(f"{nummer:3} {bestand}: de tekst staat er {keren} keer: {oud!r}", flush=True)
+            aantal += 1
+    return aantal
 
 
 def voer_uit(werk, *opdracht):
@@ -46,8 +58,11 @@ def is_opgemerkt(werk, bestand):
 
 
 def main():
-    werk = pathlib.Path(sys.argv[1])
     breuken = lees_breuken()
+    verdwenen = meld_verdwenen(breuken)
+    if verdwenen or sys.argv[1] == "--staan":
+        return 1 if verdwenen else 0
+    werk = pathlib.Path(sys.argv[1])
     keuze = [int(n) for n in sys.argv[2:]] or range(1, len(breuken) + 1)
     if not (werk / ".git").exists():
         subprocess.run(["git", "clone", "-q", str(BRON), str(werk)], check=True)
@@ -57,10 +72,6 @@ def main():
         bestand, oud, nieuw = breuken[nummer - 1]
         pad = werk / bestand
         tekst = pad.read_text(encoding="utf-8")
-        if tekst.count(oud) != 1:
-            print(f"{nummer:3} {bestand}: de tekst staat er {tekst.count(oud)} keer: {oud!r}", flush=True)
-            overlevers += 1
-            continue
         pad.write_text(tekst.replace(oud, nieuw), encoding="utf-8")
         oordeel = is_opgemerkt(werk, bestand)
         pad.write_text(tekst, encoding="utf-8")

@@ -67,6 +67,7 @@ class Bezig : public BatchTest {
     }
 
     wxUIActionSimulator muis_;
+    Invoerslot slot_;
     kern::Voortgangstekst::Tijd nu_;
     std::function<kern::Voortgangstekst::Tijd()> klok_ = [this] { return nu_; };
 };
@@ -90,13 +91,17 @@ TEST_F(Bezig, StaatErGetekendVoorErGekniptWordt) {
 
 TEST_F(Bezig, ZegtNaEenSecondeHoeVerDeRunIs) {
     const wxString begin = "Wacht een ogenblik, bezig met verwerken.......";
-    BezigVenster bezig(*venster_, begin, klok_);
+    BezigVenster bezig(*venster_, slot_, begin, klok_);
     EXPECT_EQ(begin, geefTekst(*kader()));
-    bezig.meld(10, 21930);
+    int vooraf = 0;
+    const auto tel = [&vooraf] { ++vooraf; };
+    bezig.meld(10, 21930, tel);
     EXPECT_EQ(begin, geefTekst(*kader()));
+    EXPECT_EQ(0, vooraf);
     nu_ += std::chrono::seconds(1);
-    bezig.meld(120, 21930);
+    bezig.meld(120, 21930, tel);
     EXPECT_EQ(begin + "\n120 van 21930 bestanden", geefTekst(*kader()));
+    EXPECT_EQ(1, vooraf) << "wat er verder te zien moet zijn komt mee";
 }
 
 TEST_F(Bezig, LaatToetsenEnKlikkenVervallen) {
@@ -108,7 +113,7 @@ TEST_F(Bezig, LaatToetsenEnKlikkenVervallen) {
     origineel()->SetFocus();
     laatLopen();
     {
-        const BezigVenster bezig(*venster_, "Bezig");
+        const BezigVenster bezig(*venster_, slot_, "Bezig");
         muis_.Char('a');
         muis_.Char('F', wxMOD_CONTROL);
         klik(lid(&Inzage::pasAanKnop));
@@ -132,7 +137,7 @@ TEST_F(Bezig, LaatToetsenEnKlikkenVervallen) {
 
 TEST_F(Bezig, GaatNietDichtVoorHetEinde) {
     {
-        const BezigVenster bezig(*venster_, "Bezig");
+        const BezigVenster bezig(*venster_, slot_, "Bezig");
         kader()->Close();
         laatLopen();
         EXPECT_NE(nullptr, kader());
@@ -142,7 +147,7 @@ TEST_F(Bezig, GaatNietDichtVoorHetEinde) {
 
 TEST_F(Bezig, LaatMeldingenWachtenTotHetWegIs) {
     zonderDialoog([this] {
-        const BezigVenster bezig(*venster_, "Bezig");
+        const BezigVenster bezig(*venster_, slot_, "Bezig");
         wxLogError("Er ging iets mis.");
     });
     const auto melding = beantwoordMelding(wxID_OK, [] { wxLog::FlushActive(); });

@@ -1,6 +1,9 @@
 // Wat de editors bij één bestand laten zien: links wat een knipbeurt weghaalt en wat er niet klopt, rechts
 // wat er vervangen is en of dat nog bij het origineel hoort. Niets daarvan komt in een tekst of een bestand.
 
+#include <wx/evtloop.h>
+#include <wx/timer.h>
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -358,6 +361,21 @@ TEST_F(Markering, MerktOokWatPasNaSchuivenTeZienIs) {
     }));
 }
 
+TEST_F(Markering, KanTotHetEindeGeschovenWorden) {
+    zetTeksten("B", "E", "V\n");
+    std::string tekst;
+    for (int regel = 0; regel < 100; ++regel) {
+        tekst += "E\n";
+    }
+    zetOrigineel(tekst);
+    // Elke regel heeft een bijschrift, en de laatste staat dus twee keer zo ver.
+    origineel()->ScrollToEnd();
+    EXPECT_TRUE(laatLopenTot([this] {
+        return origineel()->GetFirstVisibleLine() > 100 &&
+               origineel()->GetScrollPos(wxVERTICAL) == origineel()->GetFirstVisibleLine();
+    }));
+}
+
 TEST_F(Markering, LaatGeenOudeAchtergrondenAchter) {
     zetTeksten("B", "E", "V\n");
     std::string tekst;
@@ -405,4 +423,50 @@ TEST_F(Markering, WerktInKorteStappenEnNeemtMeeWatErGetyptIs) {
     origineel()->InsertText(0, "getypt\n");
     wacht();
     EXPECT_EQ("..rbr..rbr.", achtergronden(origineel()).substr(0, 11)) << "wat onderweg getypt is telt mee";
+}
+
+TEST_F(Markering, LaatGeenBijschriftStaanVanEenStapDieAfgebrokenIs) {
+    zetTeksten("B", "E", "V\n");
+    std::string tekst;
+    for (int regel = 0; regel < 200'000; ++regel) {
+        tekst += "E\n";
+    }
+    origineel()->SetText(tekst + "B\nx\neinde\n");
+    const auto heeftBijschrift = [this] { return origineel()->AnnotationGetLines(0) > 0; };
+    bool meer = true;
+    while (meer && !heeftBijschrift()) {
+        meer = (venster_->*&Inzage::werkMerkenBij)();
+    }
+    ASSERT_TRUE(meer && heeftBijschrift()) << "een deel van de bijschriften staat er";
+    lid(&Inzage::eindMarkerTekst)->SetValue("einde");
+    wacht();
+    EXPECT_FALSE(heeftBijschrift());
+    EXPECT_EQ(Lijst{}, bijschriften(origineel()));
+}
+
+TEST_F(Markering, GaatDoorZonderDatErVerderIetsGebeurt) {
+    constexpr int langeRun = 30'000;
+    zetTeksten("B", "E", "V\n");
+    std::string tekst;
+    for (int blok = 0; blok < 40'000; ++blok) {
+        tekst += "een regel\nB\nx\nE\nE\n";
+    }
+    // Een knipperende cursor wekt de hoofdlus ook.
+    origineel()->SetCaretPeriod(0);
+    aangepast()->SetCaretPeriod(0);
+    laatLopen();
+    origineel()->SetText(tekst);
+    wxGUIEventLoop lus;
+    wxTimer grens;
+    grens.Bind(wxEVT_TIMER, [&lus](wxTimerEvent&) { lus.Exit(1); });
+    const auto kijk = [this, &lus](wxIdleEvent& event) {
+        event.Skip();
+        if (!bijschriften(origineel()).empty()) {
+            lus.Exit(0);
+        }
+    };
+    venster_->Bind(wxEVT_IDLE, kijk);
+    grens.StartOnce(langeRun);
+    EXPECT_EQ(0, lus.Run()) << "de bijschriften kwamen niet af";
+    venster_->Unbind(wxEVT_IDLE, kijk);
 }

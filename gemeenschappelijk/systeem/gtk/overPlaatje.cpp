@@ -1,4 +1,4 @@
-#include "gemeenschappelijk/overPlaatje.h"
+#include "gemeenschappelijk/systeem/overPlaatje.h"
 
 #include <gtk/gtk.h>
 

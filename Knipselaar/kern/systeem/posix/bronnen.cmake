@@ -1,4 +1,4 @@
-set(systeem_bronnen
+set(kern_systeem_bronnen
   kern/systeem/posix/aantekening.cpp
   kern/systeem/posix/bestand.cpp
   kern/systeem/posix/buurbestand.cpp

@@ -1,4 +1,4 @@
-set(systeem_bronnen
+set(kern_systeem_bronnen
   kern/systeem/windows/aantekening.cpp
   kern/systeem/windows/bestand.cpp
   kern/systeem/windows/breed.cpp

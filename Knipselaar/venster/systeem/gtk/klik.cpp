@@ -1,4 +1,4 @@
-#include "Knipselaar/venster/klik.h"
+#include "Knipselaar/venster/systeem/klik.h"
 
 #include <gtk/gtk.h>
 #include <wx/radiobox.h>

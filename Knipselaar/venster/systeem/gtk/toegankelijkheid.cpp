@@ -1,18 +1,11 @@
-// Wat een schermlezer over de bediening hoort. De toolkit geeft namen niet door aan GTK; dit gaat daarom
-// rechtstreeks. Aan het venster zelf is er niets van te zien.
-
-#include "Knipselaar/venster/toegankelijkheid.h"
+#include "Knipselaar/venster/systeem/toegankelijkheid.h"
 
 #include <gtk/gtk.h>
 #include <wx/choice.h>
 #include <wx/filepicker.h>
-#include <wx/intl.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
-#include <wx/stc/stc.h>
 #include <wx/textctrl.h>
-
-#include "Knipselaar/venster/parserVenster.h"
 
 namespace {
 
@@ -30,23 +23,10 @@ void zetLabel(GtkWidget* label, GtkWidget* bediening, const wxString& naam) {
     zetNaam(bediening, naam);
 }
 
-GtkWidget* geefLabel(const wxWindow& kader) {
-    return gtk_frame_get_label_widget(GTK_FRAME(kader.GetHandle()));
-}
-
-/// Wat in een veld met schuifbalken de toetsen krijgt.
+/// Wat in een veld de toetsen krijgt: het veld zelf, of wat er tussen zijn schuifbalken staat.
 GtkWidget* geefInhoud(const wxWindow& veld) {
-    return gtk_bin_get_child(GTK_BIN(veld.GetHandle()));
-}
-
-/// Beide kiezers hebben een knop met dezelfde tekst; de beschrijving zegt welke het is. De tooltip van het
-/// tekstveld is geen beschrijving: een schermlezer leest het pad al voor.
-void noemKiezer(const wxStaticText& label, wxDirPickerCtrl& kiezer) {
-    const wxString naam = label.GetLabelText();
-    GtkWidget* veld = kiezer.GetTextCtrl()->GetHandle();
-    zetLabel(label.GetHandle(), veld, naam);
-    atk_object_set_description(geefToegang(veld), "");
-    atk_object_set_description(geefToegang(kiezer.GetPickerCtrl()->GetHandle()), naam.utf8_str());
+    GtkWidget* heel = veld.GetHandle();
+    return GTK_IS_BIN(heel) ? gtk_bin_get_child(GTK_BIN(heel)) : heel;
 }
 
 /// Een keuzelijst is in GTK een doos om een knop, en die knop krijgt de toetsen.
@@ -59,14 +39,21 @@ void noemMetKnop(GtkWidget* deel, gpointer naam) {
 
 }  // namespace
 
-void ParserVenster::noemVoorSchermlezer() {
-    zetLabel(geefLabel(*origineelBox), geefInhoud(*origineelEditor), origineelBox->GetLabelText());
-    zetLabel(geefLabel(*beginMarkerBox), beginMarkerTekst->GetHandle(), beginMarkerBox->GetLabelText());
-    zetLabel(geefLabel(*eindMarkerBox), eindMarkerTekst->GetHandle(), eindMarkerBox->GetLabelText());
-    zetLabel(geefLabel(*aangepastBox), geefInhoud(*aangepastEditor), aangepastBox->GetLabelText());
-    zetLabel(geefLabel(*vervangBox), geefInhoud(*vervangTekst), vervangBox->GetLabelText());
-    noemKiezer(*bronLabel, *bronDirKiezer);
-    noemKiezer(*bestemmingLabel, *bestemmingDirKiezer);
-    wxString soort = wxGetTranslation("Soort bestanden");
-    noemMetKnop(bestandTypeKeuze->GetHandle(), &soort);
+void noemVeld(const wxStaticBox& kader, wxWindow& veld) {
+    zetLabel(gtk_frame_get_label_widget(GTK_FRAME(kader.GetHandle())), geefInhoud(veld),
+             kader.GetLabelText());
+}
+
+void noemKiezer(const wxStaticText& label, wxDirPickerCtrl& kiezer) {
+    const wxString naam = label.GetLabelText();
+    GtkWidget* veld = kiezer.GetTextCtrl()->GetHandle();
+    zetLabel(label.GetHandle(), veld, naam);
+    // De tooltip van het tekstveld is geen beschrijving: een schermlezer leest het pad al voor.
+    atk_object_set_description(geefToegang(veld), "");
+    atk_object_set_description(geefToegang(kiezer.GetPickerCtrl()->GetHandle()), naam.utf8_str());
+}
+
+void noemKeuzelijst(wxChoice& keuzelijst, const wxString& naam) {
+    wxString tekst = naam;
+    noemMetKnop(keuzelijst.GetHandle(), &tekst);
 }

@@ -1,22 +1,15 @@
-// Wat een schermlezer over de bediening hoort. Een veld van Windows zelf heet naar het label dat er in de volgorde van
-// de vensters voor staat, en dat klopt hier niet altijd; een editor heeft helemaal geen naam.
-
-#include "Knipselaar/venster/toegankelijkheid.h"
+#include "Knipselaar/venster/systeem/toegankelijkheid.h"
 
 #include <wx/access.h>
 #include <wx/choice.h>
 #include <wx/filepicker.h>
-#include <wx/intl.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
-#include <wx/stc/stc.h>
 #include <wx/textctrl.h>
-
-#include "Knipselaar/venster/parserVenster.h"
 
 namespace {
 
-/// Alleen naam en beschrijving; van al het andere weet Windows zelf genoeg. Het venster waar zij bij hoort bezit haar.
+/// Alleen naam en beschrijving; van al het andere weet Windows zelf genoeg. Het venster waar het bij hoort bezit het.
 class Toegang : public wxAccessible {
   public:
     Toegang(wxWindow& bediening, const wxString& naam, const wxString& beschrijving)
@@ -41,25 +34,23 @@ class Toegang : public wxAccessible {
     wxString beschrijving_;
 };
 
+/// Een veld van Windows heet anders naar het label dat er in de volgorde van de vensters voor staat, en dat is hier
+/// niet altijd het zijne; een editor heeft anders geen naam.
 void noem(wxWindow& bediening, const wxString& naam, const wxString& beschrijving = wxString()) {
     bediening.SetAccessible(new Toegang(bediening, naam, beschrijving));
 }
 
-/// Beide kiezers hebben een knop met dezelfde tekst; de beschrijving zegt welke het is.
+}  // namespace
+
+void noemVeld(const wxStaticBox& kader, wxWindow& veld) {
+    noem(veld, kader.GetLabelText());
+}
+
 void noemKiezer(const wxStaticText& label, wxDirPickerCtrl& kiezer) {
     noem(*kiezer.GetTextCtrl(), label.GetLabelText());
     noem(*kiezer.GetPickerCtrl(), wxString(), label.GetLabelText());
 }
 
-}  // namespace
-
-void ParserVenster::noemVoorSchermlezer() {
-    noem(*origineelEditor, origineelBox->GetLabelText());
-    noem(*beginMarkerTekst, beginMarkerBox->GetLabelText());
-    noem(*eindMarkerTekst, eindMarkerBox->GetLabelText());
-    noem(*aangepastEditor, aangepastBox->GetLabelText());
-    noem(*vervangTekst, vervangBox->GetLabelText());
-    noemKiezer(*bronLabel, *bronDirKiezer);
-    noemKiezer(*bestemmingLabel, *bestemmingDirKiezer);
-    noem(*bestandTypeKeuze, wxGetTranslation("Soort bestanden"));
+void noemKeuzelijst(wxChoice& keuzelijst, const wxString& naam) {
+    noem(keuzelijst, naam);
 }
