@@ -85,5 +85,5 @@ pakketten_keur_pakket=(lintian desktop-file-utils appstream man-db)
 pakketten_test=("${pakketten_bediening[@]}" libgtest-dev libatspi2.0-dev librsvg2-bin python3 gcc ghdl
     x11-utils at-spi2-core dbus-daemon git patch make man-db)
 pakketten_windows=(g++-mingw-w64-x86-64-posix cmake ninja-build git dpkg-dev gettext googletest librsvg2-bin imagemagick
-    pandoc zip nsis wine wine64 xvfb xdotool)
+    pandoc zip nsis wine wine64)
 pakketten_keur=(git clang clang-format clang-tidy cppcheck libbenchmark-dev libclang-rt-14-dev llvm-14)

@@ -15,9 +15,19 @@ constexpr const wchar_t* stroom = L":knipselaar";
 
 constexpr DWORD langste = 80;
 
+/// Waar geen tweede inhoud bestaat, is de naam ervan misschien die van een ander bestand.
+bool heeftStromen(HANDLE handvat) {
+    DWORD kenmerken = 0;
+    return GetVolumeInformationByHandleW(handvat, nullptr, 0, nullptr, nullptr, &kenmerken, nullptr, 0) != 0 &&
+           (kenmerken & FILE_NAMED_STREAMS) != 0;
+}
+
 }  // namespace
 
 void tekenAan(int kanaal, std::string_view tekst) {
+    if (!heeftStromen(windows::geefHandvat(kanaal))) {
+        return;
+    }
     const std::wstring pad = windows::geefPad(windows::geefHandvat(kanaal)) + stroom;
     const windows::Handvat handvat(CreateFileW(pad.c_str(), GENERIC_WRITE, windows::deelAlles, nullptr,
                                                CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
