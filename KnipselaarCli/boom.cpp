@@ -71,7 +71,8 @@ std::string maakEcht(const std::string& pad) {
     if (ouder == heel) {
         return heel.string();
     }
-    const std::string tekst = (fs::path(maakEcht(ouder.string())) / heel.filename()).lexically_normal().string();
+    const std::string tekst =
+        (fs::path(maakEcht(ouder.string())) / heel.filename()).lexically_normal().string();
     return tekst.size() > 1 && tekst.ends_with('/') ? tekst.substr(0, tekst.size() - 1) : tekst;
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
 // Schrijft tekst in blokken naar een stroom, met de regeleinden van het systeem, en onthoudt of alles
-// aankwam. Na een schrijffout gaat niets meer naar de stroom. De stroom blijft van de aanroeper en moet langer leven.
+// aankwam. Na een schrijffout gaat niets meer naar de stroom. De stroom blijft van de aanroeper en moet
+// langer leven.
 
 #include <wx/stream.h>
 

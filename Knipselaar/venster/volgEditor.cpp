@@ -9,8 +9,8 @@ bool isTekstverandering(const wxEvent& event) {
     return verandering != nullptr && (verandering->GetModificationType() & tekstverandering) != 0;
 }
 
-/// De toets waarmee iemand de editor verlaat, als het die is: Ctrl+Tab of Ctrl+Shift+Tab. Tab zelf is hier een
-/// teken, en op Windows gaat de toolkit ook met Ctrl erbij niet verder.
+/// De toets waarmee iemand de editor verlaat, als het die is: Ctrl+Tab of Ctrl+Shift+Tab. Tab zelf is hier
+/// een teken, en op Windows gaat de toolkit ook met Ctrl erbij niet verder.
 const wxKeyEvent* zoekVertrek(const wxEvent& event) {
     const auto* toets = dynamic_cast<const wxKeyEvent*>(&event);
     const bool vertrek = event.GetEventType() == wxEVT_KEY_DOWN && toets != nullptr &&

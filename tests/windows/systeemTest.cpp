@@ -170,7 +170,8 @@ TEST_F(Systeem, NoemtVerborgenWatWindowsZoNoemtEnWatMetEenPuntBegint) {
     hulp::schrijfBestand(map_ / "a.c", "");
     hulp::schrijfBestand(map_ / ".b.c", "");
     hulp::schrijfBestand(map_ / "c.c", "");
-    ASSERT_NE(0, SetFileAttributesW(kern::windows::maakVoluit(geefPad("c.c")).c_str(), FILE_ATTRIBUTE_HIDDEN));
+    ASSERT_NE(0,
+              SetFileAttributesW(kern::windows::maakVoluit(geefPad("c.c")).c_str(), FILE_ATTRIBUTE_HIDDEN));
     EXPECT_EQ((std::vector<std::string>{".b.c verborgen", "a.c", "c.c verborgen"}),
               noemDelen(map_.pad().string()));
 }
@@ -181,11 +182,12 @@ TEST_F(Systeem, KiestOpEenMaskerZoalsEenShell) {
         const char* naam;
         bool past;
     };
-    for (const Geval& geval : {Geval{"*.c", "a.c", true}, Geval{"*.c", "a.cpp", false}, Geval{"*.C", "a.c", true},
-                               Geval{"?.c", "ab.c", false}, Geval{"[a-c]*.c", "bal.c", true},
-                               Geval{"[!a-c]*.c", "bal.c", false}, Geval{"[.c", "[.c", true},
-                               Geval{"a*b*c", "axxbyyc", true}, Geval{"", "", true}}) {
-        EXPECT_EQ(geval.past, kern::pastOp(geval.masker, geval.naam, false)) << geval.masker << " " << geval.naam;
+    for (const Geval& geval :
+         {Geval{"*.c", "a.c", true}, Geval{"*.c", "a.cpp", false}, Geval{"*.C", "a.c", true},
+          Geval{"?.c", "ab.c", false}, Geval{"[a-c]*.c", "bal.c", true}, Geval{"[!a-c]*.c", "bal.c", false},
+          Geval{"[.c", "[.c", true}, Geval{"a*b*c", "axxbyyc", true}, Geval{"", "", true}}) {
+        EXPECT_EQ(geval.past, kern::pastOp(geval.masker, geval.naam, false))
+            << geval.masker << " " << geval.naam;
     }
     EXPECT_TRUE(kern::pastOp("sub/*.c", "sub\\a.c", true));
     EXPECT_FALSE(kern::pastOp("*.c", "sub/a.c", true));

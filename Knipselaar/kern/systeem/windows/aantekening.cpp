@@ -18,7 +18,8 @@ constexpr DWORD langste = 80;
 /// Waar geen tweede inhoud bestaat, is de naam ervan misschien die van een ander bestand.
 bool heeftStromen(HANDLE handvat) {
     DWORD kenmerken = 0;
-    return GetVolumeInformationByHandleW(handvat, nullptr, 0, nullptr, nullptr, &kenmerken, nullptr, 0) != 0 &&
+    return GetVolumeInformationByHandleW(handvat, nullptr, 0, nullptr, nullptr, &kenmerken, nullptr, 0) !=
+               0 &&
            (kenmerken & FILE_NAMED_STREAMS) != 0;
 }
 
@@ -51,7 +52,8 @@ std::string leesAantekening(const std::string& pad) {
                                                OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     std::array<char, langste> gelezen{};
     DWORD aantal = 0;
-    const bool heel = handvat.isOpen() && ReadFile(handvat.geef(), gelezen.data(), langste, &aantal, nullptr) != 0;
+    const bool heel =
+        handvat.isOpen() && ReadFile(handvat.geef(), gelezen.data(), langste, &aantal, nullptr) != 0;
     return heel && aantal < langste ? std::string(gelezen.data(), aantal) : std::string();
 }
 

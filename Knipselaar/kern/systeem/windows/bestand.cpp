@@ -26,7 +26,8 @@ constexpr DWORD altijd =
 
 /// Geeft een handvat aan de C-bibliotheek, die er bytes mee schrijft zoals ze zijn.
 Bestand maakKanaal(Handvat& handvat, int wijze) {
-    const int kanaal = _open_osfhandle(reinterpret_cast<intptr_t>(handvat.geef()), wijze | _O_BINARY | _O_NOINHERIT);
+    const int kanaal =
+        _open_osfhandle(reinterpret_cast<intptr_t>(handvat.geef()), wijze | _O_BINARY | _O_NOINHERIT);
     if (kanaal >= 0) {
         handvat.geefUitHanden();
     }
@@ -90,8 +91,8 @@ Opening openBron(const std::string& pad) {
     if (windows::isApparaat(voluit)) {
         return weiger();
     }
-    Handvat handvat(CreateFileW(voluit.c_str(), GENERIC_READ, windows::deelAlles, nullptr, OPEN_EXISTING, altijd,
-                                nullptr));
+    Handvat handvat(CreateFileW(voluit.c_str(), GENERIC_READ, windows::deelAlles, nullptr, OPEN_EXISTING,
+                                altijd, nullptr));
     return houdGewoonBestand(handvat, _O_RDONLY);
 }
 
@@ -100,8 +101,8 @@ Opening openDoel(const std::string& pad) {
     if (windows::isApparaat(voluit)) {
         return weiger();
     }
-    // Wie er intussen leest mag dat blijven doen: bij een bestand dat naar zichzelf geknipt wordt zijn wij dat
-    // zelf. Een ander die er in schrijft houdt ons tegen.
+    // Wie er intussen leest mag dat blijven doen: bij een bestand dat naar zichzelf geknipt wordt zijn wij
+    // dat zelf. Een ander die er in schrijft houdt ons tegen.
     Handvat handvat(CreateFileW(voluit.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
                                 OPEN_EXISTING, altijd, nullptr));
     Opening opening = houdGewoonBestand(handvat, _O_WRONLY);
@@ -120,7 +121,8 @@ Gelezen lees(int kanaal, std::span<char> plaats) {
     const auto hoogstens = static_cast<DWORD>(std::min(plaats.size(), perKeer));
     for (;;) {
         DWORD aantal = 0;
-        const bool gelukt = ReadFile(windows::geefHandvat(kanaal), plaats.data(), hoogstens, &aantal, nullptr) != 0;
+        const bool gelukt =
+            ReadFile(windows::geefHandvat(kanaal), plaats.data(), hoogstens, &aantal, nullptr) != 0;
         const DWORD nummer = gelukt ? ERROR_SUCCESS : GetLastError();
         if (isOnderbroken() && aantal == 0) {
             return {.aantal = 0, .fout = std::make_error_code(std::errc::interrupted)};
@@ -139,7 +141,8 @@ std::error_code schrijf(int kanaal, std::string_view bytes) {
     while (!bytes.empty()) {
         DWORD aantal = 0;
         const auto hoogstens = static_cast<DWORD>(std::min(bytes.size(), perKeer));
-        const bool gelukt = WriteFile(windows::geefHandvat(kanaal), bytes.data(), hoogstens, &aantal, nullptr) != 0;
+        const bool gelukt =
+            WriteFile(windows::geefHandvat(kanaal), bytes.data(), hoogstens, &aantal, nullptr) != 0;
         const DWORD nummer = gelukt ? ERROR_SUCCESS : GetLastError();
         if (isOnderbroken()) {
             return std::make_error_code(std::errc::interrupted);

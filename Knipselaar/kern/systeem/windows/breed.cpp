@@ -37,8 +37,8 @@ std::wstring maakBreed(std::string_view tekst) {
 std::string maakSmal(std::wstring_view tekst) {
     constexpr std::size_t hoogstensPerTeken = 3;
     std::string smal(tekst.size() * hoogstensPerTeken, '\0');
-    const int gelukt = WideCharToMultiByte(CP_UTF8, 0, tekst.data(), static_cast<int>(tekst.size()), smal.data(),
-                                           static_cast<int>(smal.size()), nullptr, nullptr);
+    const int gelukt = WideCharToMultiByte(CP_UTF8, 0, tekst.data(), static_cast<int>(tekst.size()),
+                                           smal.data(), static_cast<int>(smal.size()), nullptr, nullptr);
     smal.resize(static_cast<std::size_t>(gelukt));
     return smal;
 }

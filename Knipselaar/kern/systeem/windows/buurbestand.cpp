@@ -31,8 +31,8 @@ std::string verzinNaam() {
 
 /// Een punt vooraan verbergt onder Windows niets.
 HANDLE maak(const std::string& pad) {
-    return CreateFileW(windows::maakVoluit(pad).c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr,
-                       CREATE_NEW, FILE_ATTRIBUTE_HIDDEN, nullptr);
+    return CreateFileW(windows::maakVoluit(pad).c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ,
+                       nullptr, CREATE_NEW, FILE_ATTRIBUTE_HIDDEN, nullptr);
 }
 
 }  // namespace
@@ -62,8 +62,7 @@ std::error_code Buurbestand::vervang(const Kenmerken& /*oud*/) {
     if (const auto fout = bestand_.sluit()) {
         return fout;
     }
-    const auto fout =
-        windows::neemAllesOver(windows::maakVoluit(naam_), windows::maakVoluit(bestemming_));
+    const auto fout = windows::neemAllesOver(windows::maakVoluit(naam_), windows::maakVoluit(bestemming_));
     return fout ? fout : hernoem();
 }
 

@@ -18,7 +18,8 @@ Bestandssoort bepaalSoort(const WIN32_FIND_DATAW& deel) {
     if ((deel.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
         return Bestandssoort::directory;
     }
-    return (deel.dwFileAttributes & FILE_ATTRIBUTE_DEVICE) != 0 ? Bestandssoort::anders : Bestandssoort::bestand;
+    return (deel.dwFileAttributes & FILE_ATTRIBUTE_DEVICE) != 0 ? Bestandssoort::anders
+                                                                : Bestandssoort::bestand;
 }
 
 /// Wat van een andere wereld komt heet ook hier verborgen: ".git", ".vscode".
@@ -46,8 +47,9 @@ std::error_code leesDirectory(const std::string& pad, std::vector<Deel>& uit) {
     do {
         const std::wstring_view naam(deel.cFileName);
         if (naam != L"." && naam != L"..") {
-            uit.push_back(
-                {.naam = windows::maakSmal(naam), .soort = bepaalSoort(deel), .verborgen = isVerborgen(deel)});
+            uit.push_back({.naam = windows::maakSmal(naam),
+                           .soort = bepaalSoort(deel),
+                           .verborgen = isVerborgen(deel)});
         }
     } while (FindNextFileW(zoeker.get(), &deel) != 0);
     return GetLastError() == ERROR_NO_MORE_FILES ? std::error_code() : windows::geefFout();

@@ -8,8 +8,8 @@
 
 namespace kern::windows {
 
-/// Waar de C-bibliotheek een naam voor de fout heeft, is het haar foutnummer, zodat de rest van het programma haar
-/// met std::errc kan vergelijken. Anders dat van Windows.
+/// Waar de C-bibliotheek een naam voor de fout heeft, is het haar foutnummer, zodat de rest van het programma
+/// haar met std::errc kan vergelijken. Anders dat van Windows.
 std::error_code maakFout(DWORD nummer);
 
 /// Van de laatste aanroep van deze draad.

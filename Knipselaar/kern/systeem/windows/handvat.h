@@ -36,8 +36,8 @@ inline constexpr DWORD deelAlles = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHA
 /// Het handvat achter een kanaal van de C-bibliotheek; blijft van dat kanaal.
 HANDLE geefHandvat(int kanaal);
 
-/// Het hele pad van wat open is, zonder links en met het voorvoegsel van maakVoluit (zie breed.h). Leeg als het geen
-/// naam heeft.
+/// Het hele pad van wat open is, zonder links en met het voorvoegsel van maakVoluit (zie breed.h). Leeg als
+/// het geen naam heeft.
 std::wstring geefPad(HANDLE handvat);
 
 }  // namespace kern::windows

@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <optional>
 #include <string_view>
 
 #include "Knipselaar/kern/systeem/windows/breed.h"
@@ -20,28 +19,25 @@ std::wstring maakGelijk(const std::string& tekst) {
     return breed;
 }
 
-/// Een verzameling tekens tussen haken, zoals [a-z] of [!0-9].
-struct Verzameling {
-    bool bevat;
-    std::size_t lengte;  ///< van de verzameling in het masker
-};
-
-/// @param masker  begint met een haak. Zonder sluithaak is die haak een gewoon teken.
-std::optional<Verzameling> leesVerzameling(std::wstring_view masker, wchar_t teken) {
+/// Waar een verzameling tekens tussen haken ophoudt, zoals [a-z] of [!0-9]; npos als er geen sluithaak is.
+/// @param masker  begint met een haak.
+std::size_t vindSluithaak(std::wstring_view masker) {
     const bool omgekeerd = masker.size() > 1 && (masker[1] == L'!' || masker[1] == L'^');
-    const std::size_t begin = omgekeerd ? 2 : 1;
-    const std::size_t einde = masker.find(L']', begin + 1);
-    if (einde == std::wstring_view::npos) {
-        return std::nullopt;
-    }
+    return masker.find(L']', omgekeerd ? 3 : 2);
+}
+
+/// @param verzameling  tussen haken, met de haken.
+bool bevat(std::wstring_view verzameling, wchar_t teken) {
+    const bool omgekeerd = verzameling[1] == L'!' || verzameling[1] == L'^';
+    const std::size_t einde = verzameling.size() - 1;
     bool gevonden = false;
-    for (std::size_t i = begin; i < einde; ++i) {
-        const bool reeks = i + 2 < einde && masker[i + 1] == L'-';
-        const wchar_t laatste = masker[reeks ? i + 2 : i];
-        gevonden = gevonden || (masker[i] <= teken && teken <= laatste);
+    for (std::size_t i = omgekeerd ? 2 : 1; i < einde; ++i) {
+        const bool reeks = i + 2 < einde && verzameling[i + 1] == L'-';
+        const wchar_t laatste = verzameling[reeks ? i + 2 : i];
+        gevonden = gevonden || (verzameling[i] <= teken && teken <= laatste);
         i += reeks ? 2 : 0;
     }
-    return Verzameling{.bevat = gevonden != omgekeerd, .lengte = einde + 1};
+    return gevonden != omgekeerd;
 }
 
 class Vergelijker {
@@ -83,10 +79,9 @@ class Vergelijker {
         if (masker.front() == L'?') {
             return isGrens(teken) ? 0 : 1;
         }
-        if (masker.front() == L'[') {
-            if (const auto verzameling = leesVerzameling(masker, teken)) {
-                return verzameling->bevat && !isGrens(teken) ? verzameling->lengte : 0;
-            }
+        const std::size_t haak = masker.front() == L'[' ? vindSluithaak(masker) : std::wstring_view::npos;
+        if (haak != std::wstring_view::npos) {
+            return bevat(masker.substr(0, haak + 1), teken) && !isGrens(teken) ? haak + 1 : 0;
         }
         return masker.front() == teken ? 1 : 0;
     }

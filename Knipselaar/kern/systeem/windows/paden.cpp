@@ -45,8 +45,8 @@ bool isLink(const std::string& pad) {
 bool isZelfdePlaats(const std::string& een, const std::string& ander) {
     Kenmerken eerste;
     Kenmerken tweede;
-    return een == ander || (!leesKenmerken(ander, tweede) && !leesKenmerken(een, eerste) &&
-                            eerste.isZelfdePlaats(tweede));
+    return een == ander ||
+           (!leesKenmerken(ander, tweede) && !leesKenmerken(een, eerste) && eerste.isZelfdePlaats(tweede));
 }
 
 std::string geefEchtPad(const std::string& pad, std::error_code& fout) {
@@ -55,16 +55,16 @@ std::string geefEchtPad(const std::string& pad, std::error_code& fout) {
         fout = windows::maakFout(ERROR_INVALID_NAME);
         return {};
     }
-    const windows::Handvat handvat(CreateFileW(voluit.c_str(), FILE_READ_ATTRIBUTES, windows::deelAlles, nullptr,
-                                               OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    const windows::Handvat handvat(CreateFileW(voluit.c_str(), FILE_READ_ATTRIBUTES, windows::deelAlles,
+                                               nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
     if (!handvat.isOpen()) {
         fout = windows::geefFout();
         return {};
     }
     std::wstring echt = windows::geefPad(handvat.geef());
     if (echt.empty()) {
-        // Niet elk stuurprogramma van een schijf weet de weg terug. Tussen een boom en wat er bij het aflopen in
-        // gevonden wordt liggen geen links; is het dat zelf ook niet, dan is het pad al echt.
+        // Niet elk stuurprogramma van een schijf weet de weg terug. Tussen een boom en wat er bij het aflopen
+        // in gevonden wordt liggen geen links; is het dat zelf ook niet, dan is het pad al echt.
         fout = windows::geefFout();
         echt = isLink(pad) ? std::wstring() : voluit;
     }

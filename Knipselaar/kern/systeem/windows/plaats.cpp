@@ -33,7 +33,8 @@ std::vector<BYTE> leesToegang(const std::wstring& pad) {
     DWORD nodig = 0;
     GetFileSecurityW(pad.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &nodig);
     std::vector<BYTE> lijst(nodig);
-    if (nodig == 0 || GetFileSecurityW(pad.c_str(), DACL_SECURITY_INFORMATION, lijst.data(), nodig, &nodig) == 0) {
+    if (nodig == 0 ||
+        GetFileSecurityW(pad.c_str(), DACL_SECURITY_INFORMATION, lijst.data(), nodig, &nodig) == 0) {
         lijst.clear();
     }
     return lijst;
@@ -48,10 +49,12 @@ std::error_code neemToegangOver(const std::wstring& nieuw, const std::wstring& v
     if (lijst == leesToegang(nieuw)) {
         return {};
     }
-    // Zonder dit verzoek vergeet Windows dat de lijst van de directory komt, en volgt zij die voortaan niet meer.
+    // Zonder dit verzoek vergeet Windows dat de lijst van de directory komt, en volgt zij die voortaan niet
+    // meer.
     SECURITY_DESCRIPTOR_CONTROL stand = 0;
     DWORD uitgave = 0;
-    if (GetSecurityDescriptorControl(lijst.data(), &stand, &uitgave) != 0 && (stand & SE_DACL_AUTO_INHERITED) != 0) {
+    if (GetSecurityDescriptorControl(lijst.data(), &stand, &uitgave) != 0 &&
+        (stand & SE_DACL_AUTO_INHERITED) != 0) {
         SetSecurityDescriptorControl(lijst.data(), SE_DACL_AUTO_INHERIT_REQ, SE_DACL_AUTO_INHERIT_REQ);
     }
     return keur(SetFileSecurityW(nieuw.c_str(), DACL_SECURITY_INFORMATION, lijst.data()));
@@ -63,8 +66,8 @@ std::error_code wachtOpAnderen(const std::wstring& plaats) {
     constexpr DWORD tussenpoosMs = 10;
     std::error_code fout;
     for (int poging = 0; poging < pogingen; ++poging) {
-        const Handvat handvat(
-            CreateFileW(plaats.c_str(), DELETE, 0, nullptr, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+        const Handvat handvat(CreateFileW(plaats.c_str(), DELETE, 0, nullptr, OPEN_EXISTING,
+                                          FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
         fout = handvat.isOpen() ? std::error_code() : geefFout();
         if (fout != maakFout(ERROR_SHARING_VIOLATION)) {
             return fout;

@@ -8,8 +8,8 @@ namespace kern {
 
 namespace {
 
-/// Of een bestand anders op de schijf staat: ingepakt of versleuteld. Dat neemt het alleen over van de directory waarin
-/// het gemaakt is.
+/// Of een bestand anders op de schijf staat: ingepakt of versleuteld. Dat neemt het alleen over van de
+/// directory waarin het gemaakt is.
 bool isAndersBewaard(const std::wstring& een, const std::wstring& ander) {
     constexpr DWORD bewaard = FILE_ATTRIBUTE_COMPRESSED | FILE_ATTRIBUTE_ENCRYPTED;
     return ((GetFileAttributesW(een.c_str()) ^ GetFileAttributesW(ander.c_str())) & bewaard) != 0;

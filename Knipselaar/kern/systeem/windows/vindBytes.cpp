@@ -6,8 +6,8 @@ namespace kern {
 
 namespace {
 
-/// Per lengte van een begin van de naald: het langste kortere begin waar het op eindigt. Zoveel past er nog als het
-/// volgende teken niet past.
+/// Per lengte van een begin van de naald: het langste kortere begin waar het op eindigt. Zoveel past er nog
+/// als het volgende teken niet past.
 std::vector<std::size_t> maakTerugval(std::string_view naald) {
     std::vector<std::size_t> terugval(naald.size() + 1, 0);
     std::size_t past = 0;

@@ -39,6 +39,7 @@ void noemMetKnop(GtkWidget* deel, gpointer naam) {
 
 }  // namespace
 
+// cppcheck-suppress constParameter; een ander systeem verandert er iets aan
 void noemVeld(const wxStaticBox& kader, wxWindow& veld) {
     zetLabel(gtk_frame_get_label_widget(GTK_FRAME(kader.GetHandle())), geefInhoud(veld),
              kader.GetLabelText());
@@ -53,6 +54,7 @@ void noemKiezer(const wxStaticText& label, wxDirPickerCtrl& kiezer) {
     atk_object_set_description(geefToegang(kiezer.GetPickerCtrl()->GetHandle()), naam.utf8_str());
 }
 
+// cppcheck-suppress constParameter; idem
 void noemKeuzelijst(wxChoice& keuzelijst, const wxString& naam) {
     wxString tekst = naam;
     noemMetKnop(keuzelijst.GetHandle(), &tekst);

@@ -7,14 +7,15 @@
 namespace {
 
 bool isInvoer(UINT bericht) {
-    return (bericht >= WM_KEYFIRST && bericht <= WM_KEYLAST) || (bericht >= WM_MOUSEFIRST && bericht <= WM_MOUSELAST) ||
+    return (bericht >= WM_KEYFIRST && bericht <= WM_KEYLAST) ||
+           (bericht >= WM_MOUSEFIRST && bericht <= WM_MOUSELAST) ||
            (bericht >= WM_NCMOUSEMOVE && bericht <= WM_NCXBUTTONDBLCLK);
 }
 
 }  // namespace
 
-/// Maakt van elke toets en elke klik een bericht dat niets doet, voordat een venster haar ziet. Alleen voor de vensters
-/// die er al zijn: een vraag die er later bij komt, is gewoon te beantwoorden.
+/// Maakt van elke toets en elke klik een bericht dat niets doet, voordat een venster haar ziet. Alleen voor
+/// de vensters die er al zijn: een vraag die er later bij komt, is gewoon te beantwoorden.
 struct Invoergreep::Greep {
     Greep() : vorige(laatste) {
         EnumThreadWindows(GetCurrentThreadId(), onthoud, reinterpret_cast<LPARAM>(&vensters));

@@ -9,7 +9,8 @@
 
 namespace {
 
-/// Alleen naam en beschrijving; van al het andere weet Windows zelf genoeg. Het venster waar het bij hoort bezit het.
+/// Alleen naam en beschrijving; van al het andere weet Windows zelf genoeg. Het venster waar het bij hoort
+/// bezit het.
 class Toegang : public wxAccessible {
   public:
     Toegang(wxWindow& bediening, const wxString& naam, const wxString& beschrijving)
@@ -34,8 +35,8 @@ class Toegang : public wxAccessible {
     wxString beschrijving_;
 };
 
-/// Een veld van Windows heet anders naar het label dat er in de volgorde van de vensters voor staat, en dat is hier
-/// niet altijd het zijne; een editor heeft anders geen naam.
+/// Een veld van Windows heet anders naar het label dat er in de volgorde van de vensters voor staat, en dat
+/// is hier niet altijd het zijne; een editor heeft anders geen naam.
 void noem(wxWindow& bediening, const wxString& naam, const wxString& beschrijving = wxString()) {
     bediening.SetAccessible(new Toegang(bediening, naam, beschrijving));
 }
