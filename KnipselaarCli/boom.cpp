@@ -59,11 +59,20 @@ std::vector<Boomdeel> loopAf(const std::string& directory, const LoopWens& wens)
 
 std::string maakEcht(const std::string& pad) {
     std::error_code fout;
-    const fs::path echt = fs::weakly_canonical(fs::absolute(pad), fout);
-    if (fout) {
+    std::string echt = kern::geefEchtPad(pad, fout);
+    if (!echt.empty()) {
+        return echt;
+    }
+    if (fout != std::errc::no_such_file_or_directory && fout != std::errc::not_a_directory) {
         throw Fout(pad + ": " + noemReden(fout));
     }
-    const std::string tekst = echt.string();
+    const fs::path heel = fs::absolute(pad);
+    const fs::path ouder = heel.parent_path();
+    if (ouder == heel) {
+        return heel.string();
+    }
+    const std::string tekst =
+        (fs::path(maakEcht(ouder.string())) / heel.filename()).lexically_normal().string();
     return tekst.size() > 1 && tekst.ends_with('/') ? tekst.substr(0, tekst.size() - 1) : tekst;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "Knipselaar/kern/regeleinden.h"
 #include "Knipselaar/kern/systeem/bestand.h"
 #include "Knipselaar/kern/systeem/onderbreking.h"
 #include "KnipselaarCli/bestanden.h"
@@ -124,7 +125,13 @@ class Knipbeurt {
         if (kern::isOnderbroken()) {
             throw Fout(noemReden(std::make_error_code(std::errc::interrupted)));
         }
-        const Stukken stukken = [&knipsel](const Ontvanger& uit) { knipsel.geef(uit); };
+        const Stukken stukken = [this, &knipsel](const Ontvanger& uit) {
+            if (opties_.manier == Manier::getrouw) {
+                knipsel.geef(uit);
+            } else {
+                knipsel.geef([&uit](std::string_view stuk) { kern::geefMetEigenRegeleinden(stuk, uit); });
+            }
+        };
         if (opties_.terPlaatse) {
             vervangTerPlaatse(taak_.doel, stukken);
         } else if (taak_.doel.empty()) {

@@ -1,5 +1,16 @@
-# Twee deuren naar de toolkit: wx_venster voor alles met een scherm, wx_basis voor code die zonder moet
-# kunnen. De zoekmodule van CMake geeft haar uitkomst in variabelen; elke aanroep overschrijft die van
+# Twee deuren naar de toolkit: wx_venster voor alles met een scherm, wx_basis voor code die zonder moet kunnen.
+
+# Houdt vensters buiten de code die dit linkt. Alleen PRIVATE te gebruiken: wie er zelf op bouwt, mag weer
+# wel vensters hebben.
+add_library(knipselaar_zonder_venster INTERFACE)
+target_compile_definitions(knipselaar_zonder_venster INTERFACE wxUSE_GUI=0)
+
+if(WIN32)
+  include(${CMAKE_CURRENT_LIST_DIR}/Windows.cmake)
+  return()
+endif()
+
+# De zoekmodule van CMake geeft haar uitkomst in variabelen; elke aanroep overschrijft die van
 # de vorige, dus wordt zij per deur eenmaal aangeroepen en meteen in een doel vastgelegd.
 macro(knipselaar_wx_doel naam)
   find_package(wxWidgets 3.2 REQUIRED COMPONENTS ${ARGN})
@@ -14,14 +25,7 @@ endmacro()
 knipselaar_wx_doel(wx_venster stc core base)
 knipselaar_wx_doel(wx_basis base)
 
-# Houdt vensters buiten de code die dit linkt. Alleen PRIVATE te gebruiken: wie er zelf op bouwt, mag weer
-# wel vensters hebben.
-add_library(knipselaar_zonder_venster INTERFACE)
-target_compile_definitions(knipselaar_zonder_venster INTERFACE wxUSE_GUI=0)
-
 # GTK zelf, voor het weinige dat de toolkit er niet van doorgeeft: namen voor schermlezers en, in de tests, het
 # Over-venster.
-if(NOT WIN32)
-  find_package(PkgConfig REQUIRED)
-  pkg_check_modules(GTK3 REQUIRED IMPORTED_TARGET gtk+-3.0)
-endif()
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(GTK3 REQUIRED IMPORTED_TARGET gtk+-3.0)

@@ -7,7 +7,7 @@
 
 #include <wx/app.h>
 #if wxUSE_GUI
-#include <wx/config.h>
+#include <wx/fileconf.h>
 #endif
 
 #include <cstdint>
@@ -76,7 +76,7 @@ class DesktopApp : public wxApp {
         "(c)2025-2026 ing. Team Knipselaar\nopleiding Elektrotechniek\nWerkplaats Knipselaar";
 
     /// De opslag van deze run; blijft eigendom van de toepassing.
-    wxConfig* configuratie;
+    wxFileConfig* configuratie;
 
   protected:
     wxLocale* locale;

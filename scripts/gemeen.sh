@@ -63,16 +63,17 @@ zorg_voor_locale() {
     stil "locale-gen lukt niet" als_root locale-gen
 }
 
-# Configureert en bouwt een preset. $1 is de preset.
+# Configureert en bouwt een preset. $1 is de preset, de rest gaat naar het configureren.
 bouw() {
-    local map="$hoofdmap/bouw/$1"
+    local preset=$1 map="$hoofdmap/bouw/$1"
+    shift
     if [ -e "$map" ] && ! als_gebruiker test -w "$map"; then
         stop "$map is van een andere gebruiker; verwijder die map of voer dit uit als die gebruiker"
     fi
-    [ -e "$map/build.ninja" ] || echo "Bouwen ($1), dat duurt een paar minuten"
+    [ -e "$map/build.ninja" ] || echo "Bouwen ($preset), dat duurt een paar minuten"
     cd "$hoofdmap" || stop "kan niet naar $hoofdmap"
-    stil "configureren lukt niet" als_gebruiker cmake --preset "$1"
-    stil "bouwen lukt niet" als_gebruiker cmake --build --preset "$1"
+    stil "configureren lukt niet" als_gebruiker cmake --preset "$preset" "$@"
+    stil "bouwen lukt niet" als_gebruiker cmake --build --preset "$preset"
 }
 
 # librsvg2-common: zonder kan GTK zijn eigen pictogrammen niet tekenen.
@@ -83,4 +84,6 @@ pakketten_pakket=(build-essential debhelper git librsvg2-bin pandoc)
 pakketten_keur_pakket=(lintian desktop-file-utils appstream man-db)
 pakketten_test=("${pakketten_bediening[@]}" libgtest-dev libatspi2.0-dev librsvg2-bin python3 gcc ghdl
     x11-utils at-spi2-core dbus-daemon git patch make man-db sway wtype grim)
+pakketten_windows=(g++-mingw-w64-x86-64-posix cmake ninja-build git dpkg-dev gettext googletest librsvg2-bin imagemagick
+    pandoc zip nsis wine wine64)
 pakketten_keur=(git clang clang-format clang-tidy cppcheck libbenchmark-dev libclang-rt-14-dev llvm-14)

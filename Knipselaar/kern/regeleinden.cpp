@@ -1,5 +1,7 @@
 #include "Knipselaar/kern/regeleinden.h"
 
+#include <wx/textbuf.h>
+
 namespace kern {
 
 std::string zetRegeleindenOm(std::string_view tekst) {
@@ -17,6 +19,10 @@ std::string zetRegeleindenOm(std::string_view tekst) {
         }
     }
     return uit;
+}
+
+bool isRegeleindeCrLf() {
+    return wxTextBuffer::typeDefault == wxTextFileType_Dos;
 }
 
 }  // namespace kern

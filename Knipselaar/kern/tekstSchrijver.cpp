@@ -1,5 +1,7 @@
 #include "Knipselaar/kern/tekstSchrijver.h"
 
+#include "Knipselaar/kern/regeleinden.h"
+
 namespace kern {
 
 namespace {
@@ -9,14 +11,18 @@ constexpr std::size_t blokGrootte = 256 * 1024;
 TekstSchrijver::TekstSchrijver(wxOutputStream& uitvoer) : uitvoer_(uitvoer), gelukt_(uitvoer.IsOk()) {}
 
 void TekstSchrijver::schrijf(std::string_view tekst) {
-    if (blok_.size() + tekst.size() > blokGrootte) {
+    geefMetEigenRegeleinden(tekst, [this](std::string_view stuk) { zetKlaar(stuk); });
+}
+
+void TekstSchrijver::zetKlaar(std::string_view stuk) {
+    if (blok_.size() + stuk.size() > blokGrootte) {
         schrijfNaarStroom(blok_);
         blok_.clear();
     }
-    if (tekst.size() > blokGrootte) {
-        schrijfNaarStroom(tekst);
+    if (stuk.size() > blokGrootte) {
+        schrijfNaarStroom(stuk);
     } else {
-        blok_ += tekst;
+        blok_ += stuk;
     }
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
-// Schrijft tekst in blokken naar een stroom en onthoudt of alles aankwam. Na een schrijffout gaat niets meer
-// naar de stroom. De stroom blijft van de aanroeper en moet langer leven.
+// Schrijft tekst in blokken naar een stroom, met de regeleinden van het systeem, en onthoudt of alles
+// aankwam. Na een schrijffout gaat niets meer naar de stroom. De stroom blijft van de aanroeper en moet
+// langer leven.
 
 #include <wx/stream.h>
 
@@ -15,13 +16,14 @@ class TekstSchrijver {
     /// @param uitvoer  mag een stroom zijn die niet openging; dan gaat alle tekst verloren.
     explicit TekstSchrijver(wxOutputStream& uitvoer);
 
-    /// Zet tekst klaar; een vol blok gaat meteen naar de stroom.
+    /// Zet tekst met LF klaar; een vol blok gaat meteen naar de stroom.
     void schrijf(std::string_view tekst);
 
     /// Schrijft wat nog klaarstaat. Geeft of alle tekst zonder fout in de stroom staat.
     bool maakAf();
 
   private:
+    void zetKlaar(std::string_view stuk);
     void schrijfNaarStroom(std::string_view tekst);
 
     wxOutputStream& uitvoer_;

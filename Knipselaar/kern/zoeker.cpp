@@ -3,6 +3,8 @@
 #include <cstring>
 #include <utility>
 
+#include "Knipselaar/kern/systeem/vindBytes.h"
+
 namespace kern {
 
 namespace {
@@ -35,9 +37,9 @@ std::size_t naarPlek(const void* gevonden, std::string_view hooi) {
                                : static_cast<std::size_t>(static_cast<const char*>(gevonden) - hooi.data());
 }
 
-/// Blijft ook bij bijna-treffers lineair; std::string_view::find doet dat niet.
 std::size_t zoekLineair(std::string_view hooi, std::string_view naald, std::size_t vanaf) {
-    return naarPlek(memmem(hooi.data() + vanaf, hooi.size() - vanaf, naald.data(), naald.size()), hooi);
+    const std::size_t plek = vindBytes(hooi.substr(vanaf), naald);
+    return plek == std::string_view::npos ? plek : vanaf + plek;
 }
 
 }  // namespace

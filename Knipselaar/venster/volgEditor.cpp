@@ -9,6 +9,15 @@ bool isTekstverandering(const wxEvent& event) {
     return verandering != nullptr && (verandering->GetModificationType() & tekstverandering) != 0;
 }
 
+/// De toets waarmee iemand de editor verlaat, als het die is: Ctrl+Tab of Ctrl+Shift+Tab. Tab zelf is hier
+/// een teken, en op Windows gaat de toolkit ook met Ctrl erbij niet verder.
+const wxKeyEvent* zoekVertrek(const wxEvent& event) {
+    const auto* toets = dynamic_cast<const wxKeyEvent*>(&event);
+    const bool vertrek = event.GetEventType() == wxEVT_KEY_DOWN && toets != nullptr &&
+                         toets->GetKeyCode() == WXK_TAB && toets->ControlDown();
+    return vertrek ? toets : nullptr;
+}
+
 }  // namespace
 
 void VolgEditor::koppel(VolgEditor& een, VolgEditor& ander) {
@@ -35,6 +44,10 @@ void VolgEditor::vervang(std::string_view tekst) {
 bool VolgEditor::TryBefore(wxEvent& event) {
     if (event.GetEventType() == wxEVT_STC_MODIFIED && isTekstverandering(event)) {
         ++versie_;
+    }
+    if (const wxKeyEvent* vertrek = zoekVertrek(event)) {
+        return Navigate(vertrek->ShiftDown() ? wxNavigationKeyEvent::IsBackward
+                                             : wxNavigationKeyEvent::IsForward);
     }
     if (event.GetEventType() == wxEVT_STC_PAINTED && partner_ != nullptr) {
         const kern::Schuifstand stand = geefStand();

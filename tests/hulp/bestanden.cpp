@@ -2,8 +2,8 @@
 
 #include <array>
 #include <cstdio>
-#include <cstdlib>
 #include <fstream>
+#include <random>
 #include <sstream>
 #include <stdexcept>
 
@@ -12,11 +12,11 @@ namespace hulp {
 namespace fs = std::filesystem;
 
 TijdelijkeMap::TijdelijkeMap(const fs::path& plaats) {
-    std::string sjabloon = (plaats / "knipseltest-XXXXXX").string();
-    if (mkdtemp(sjabloon.data()) == nullptr) {
-        throw std::runtime_error("geen tijdelijke map");
-    }
-    pad_ = sjabloon;
+    std::random_device toeval;
+    do {
+        pad_ = plaats / ("knipseltest-" + std::to_string(toeval()));
+    } while (!fs::create_directory(pad_));
+    fs::permissions(pad_, fs::perms::owner_all);
 }
 
 TijdelijkeMap::~TijdelijkeMap() {
@@ -45,7 +45,7 @@ void schrijfBestand(const fs::path& pad, std::string_view inhoud) {
 std::vector<std::string> somOp(const fs::path& map) {
     std::vector<std::string> namen;
     for (const auto& deel : fs::directory_iterator(map)) {
-        namen.push_back(deel.path().filename());
+        namen.push_back(deel.path().filename().string());
     }
     return namen;
 }

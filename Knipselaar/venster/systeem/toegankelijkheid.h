@@ -14,11 +14,11 @@ class wxString;
 class wxWindow;
 
 /// Zegt bij welk veld een kader hoort, en geeft het veld de tekst van het kader als naam.
-void noemVeld(const wxStaticBox& kader, const wxWindow& veld);
+void noemVeld(const wxStaticBox& kader, wxWindow& veld);
 
 /// Hetzelfde voor een kiezer van een directory. Zijn knop krijgt de tekst van het label als beschrijving: er
 /// zijn meer kiezers, en hun knoppen hebben dezelfde tekst.
 void noemKiezer(const wxStaticText& label, wxDirPickerCtrl& kiezer);
 
 /// Geeft een keuzelijst een naam.
-void noemKeuzelijst(const wxChoice& keuzelijst, const wxString& naam);
+void noemKeuzelijst(wxChoice& keuzelijst, const wxString& naam);

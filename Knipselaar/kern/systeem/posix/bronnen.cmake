@@ -11,4 +11,5 @@ set(kern_systeem_bronnen
   kern/systeem/posix/paden.cpp
   kern/systeem/posix/rechten.cpp
   kern/systeem/posix/reden.cpp
-  kern/systeem/posix/vervanging.cpp)
+  kern/systeem/posix/vervanging.cpp
+  kern/systeem/posix/vindBytes.cpp)

@@ -39,7 +39,8 @@ void noemMetKnop(GtkWidget* deel, gpointer naam) {
 
 }  // namespace
 
-void noemVeld(const wxStaticBox& kader, const wxWindow& veld) {
+// cppcheck-suppress constParameter; een ander systeem verandert er iets aan
+void noemVeld(const wxStaticBox& kader, wxWindow& veld) {
     zetLabel(gtk_frame_get_label_widget(GTK_FRAME(kader.GetHandle())), geefInhoud(veld),
              kader.GetLabelText());
 }
@@ -53,7 +54,8 @@ void noemKiezer(const wxStaticText& label, wxDirPickerCtrl& kiezer) {
     atk_object_set_description(geefToegang(kiezer.GetPickerCtrl()->GetHandle()), naam.utf8_str());
 }
 
-void noemKeuzelijst(const wxChoice& keuzelijst, const wxString& naam) {
+// cppcheck-suppress constParameter; idem
+void noemKeuzelijst(wxChoice& keuzelijst, const wxString& naam) {
     wxString tekst = naam;
     noemMetKnop(keuzelijst.GetHandle(), &tekst);
 }

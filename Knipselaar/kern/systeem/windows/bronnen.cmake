@@ -1,0 +1,18 @@
+set(kern_systeem_bronnen
+  kern/systeem/windows/aantekening.cpp
+  kern/systeem/windows/bestand.cpp
+  kern/systeem/windows/breed.cpp
+  kern/systeem/windows/buurbestand.cpp
+  kern/systeem/windows/console.cpp
+  kern/systeem/windows/directory.cpp
+  kern/systeem/windows/fout.cpp
+  kern/systeem/windows/geheugen.cpp
+  kern/systeem/windows/handvat.cpp
+  kern/systeem/windows/kenmerken.cpp
+  kern/systeem/windows/masker.cpp
+  kern/systeem/windows/onderbreking.cpp
+  kern/systeem/windows/paden.cpp
+  kern/systeem/windows/plaats.cpp
+  kern/systeem/windows/reden.cpp
+  kern/systeem/windows/vervanging.cpp
+  kern/systeem/windows/vindBytes.cpp)

@@ -1,0 +1,58 @@
+#include "Knipselaar/kern/systeem/directory.h"
+
+#include <memory>
+
+#include "Knipselaar/kern/systeem/windows/breed.h"
+#include "Knipselaar/kern/systeem/windows/fout.h"
+
+namespace kern {
+
+namespace {
+
+Bestandssoort bepaalSoort(const WIN32_FIND_DATAW& deel) {
+    // Bij een naam die ergens anders heen wijst staat hier hoe; zie ook kenmerken.cpp.
+    if ((deel.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+        IsReparseTagNameSurrogate(deel.dwReserved0)) {
+        return Bestandssoort::link;
+    }
+    if ((deel.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        return Bestandssoort::directory;
+    }
+    return (deel.dwFileAttributes & FILE_ATTRIBUTE_DEVICE) != 0 ? Bestandssoort::anders
+                                                                : Bestandssoort::bestand;
+}
+
+/// Wat van een andere wereld komt heet ook hier verborgen: ".git", ".vscode".
+bool isVerborgen(const WIN32_FIND_DATAW& deel) {
+    return (deel.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0 || deel.cFileName[0] == L'.';
+}
+
+}  // namespace
+
+std::error_code leesDirectory(const std::string& pad, std::vector<Deel>& uit) {
+    std::wstring wat = windows::maakVoluit(pad);
+    if (windows::isApparaat(wat)) {
+        return windows::maakFout(ERROR_DIRECTORY);
+    }
+    wat += wat.ends_with(L'\\') ? L"*" : L"\\*";
+    WIN32_FIND_DATAW deel{};
+    const std::unique_ptr<void, decltype(&FindClose)> zoeker(
+        FindFirstFileExW(wat.c_str(), FindExInfoBasic, &deel, FindExSearchNameMatch, nullptr,
+                         FIND_FIRST_EX_LARGE_FETCH),
+        &FindClose);
+    if (zoeker.get() == INVALID_HANDLE_VALUE) {
+        // De wortel van een lege schijf heeft ook geen "." en "..".
+        return GetLastError() == ERROR_FILE_NOT_FOUND ? std::error_code() : windows::geefFout();
+    }
+    do {
+        const std::wstring_view naam(deel.cFileName);
+        if (naam != L"." && naam != L"..") {
+            uit.push_back({.naam = windows::maakSmal(naam),
+                           .soort = bepaalSoort(deel),
+                           .verborgen = isVerborgen(deel)});
+        }
+    } while (FindNextFileW(zoeker.get(), &deel) != 0);
+    return GetLastError() == ERROR_NO_MORE_FILES ? std::error_code() : windows::geefFout();
+}
+
+}  // namespace kern

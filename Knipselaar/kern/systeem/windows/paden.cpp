@@ -1,0 +1,104 @@
+#include "Knipselaar/kern/systeem/paden.h"
+
+#include <algorithm>
+
+#include "Knipselaar/kern/systeem/kenmerken.h"
+#include "Knipselaar/kern/systeem/windows/breed.h"
+#include "Knipselaar/kern/systeem/windows/fout.h"
+#include "Knipselaar/kern/systeem/windows/handvat.h"
+
+namespace kern {
+
+namespace {
+
+constexpr std::string_view scheidingstekens = "/\\";
+
+bool isScheiding(char teken) {
+    return scheidingstekens.find(teken) != std::string_view::npos;
+}
+
+/// Zoals Windows twee namen vergelijkt: op hoofdletters na.
+bool isZelfdeTekst(std::string_view een, std::string_view ander) {
+    std::wstring eerste = windows::maakBreed(een);
+    std::wstring tweede = windows::maakBreed(ander);
+    std::replace(eerste.begin(), eerste.end(), L'/', L'\\');
+    std::replace(tweede.begin(), tweede.end(), L'/', L'\\');
+    return CompareStringOrdinal(eerste.data(), static_cast<int>(eerste.size()), tweede.data(),
+                                static_cast<int>(tweede.size()), TRUE) == CSTR_EQUAL;
+}
+
+}  // namespace
+
+std::string naarPad(const wxString& tekst) {
+    return windows::maakSmal(tekst.ToStdWstring());
+}
+
+wxString naarTekst(const std::string& pad) {
+    return windows::maakBreed(pad);
+}
+
+bool isLink(const std::string& pad) {
+    Kenmerken kenmerken;
+    return !leesEigenKenmerken(pad, kenmerken) && kenmerken.soort == Bestandssoort::link;
+}
+
+bool isZelfdePlaats(const std::string& een, const std::string& ander) {
+    Kenmerken eerste;
+    Kenmerken tweede;
+    return een == ander ||
+           (!leesKenmerken(ander, tweede) && !leesKenmerken(een, eerste) && eerste.isZelfdePlaats(tweede));
+}
+
+std::string geefEchtPad(const std::string& pad, std::error_code& fout) {
+    const std::wstring voluit = windows::maakVoluit(pad);
+    if (windows::isApparaat(voluit)) {
+        fout = windows::maakFout(ERROR_INVALID_NAME);
+        return {};
+    }
+    const windows::Handvat handvat(CreateFileW(voluit.c_str(), FILE_READ_ATTRIBUTES, windows::deelAlles,
+                                               nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    if (!handvat.isOpen()) {
+        fout = windows::geefFout();
+        return {};
+    }
+    std::wstring echt = windows::geefPad(handvat.geef());
+    if (echt.empty()) {
+        // Niet elk stuurprogramma van een schijf weet de weg terug. Tussen een boom en wat er bij het aflopen
+        // in gevonden wordt liggen geen links; is het dat zelf ook niet, dan is het pad al echt.
+        fout = windows::geefFout();
+        echt = isLink(pad) ? std::wstring() : voluit;
+    }
+    return windows::maakSmal(windows::maakLeesbaar(std::move(echt)));
+}
+
+std::string geefEchtPad(const std::string& pad) {
+    std::error_code fout;
+    return geefEchtPad(pad, fout);
+}
+
+bool ligtIn(std::string_view pad, std::string_view directory) {
+    while (directory.size() > 1 && isScheiding(directory.back())) {
+        directory.remove_suffix(1);
+    }
+    return !directory.empty() && pad.size() >= directory.size() &&
+           isZelfdeTekst(pad.substr(0, directory.size()), directory) &&
+           (pad.size() == directory.size() || isScheiding(pad[directory.size()]));
+}
+
+std::string_view geefNaam(std::string_view pad) {
+    const std::size_t plek = pad.find_last_of(scheidingstekens);
+    return plek == std::string_view::npos ? pad : pad.substr(plek + 1);
+}
+
+std::string plak(std::string_view directory, std::string_view pad) {
+    if (directory.empty() || pad.empty()) {
+        return std::string(directory.empty() ? pad : directory);
+    }
+    std::string uit(directory);
+    if (!isScheiding(uit.back())) {
+        uit += '/';
+    }
+    return uit += pad;
+}
+
+}  // namespace kern
