@@ -8,7 +8,10 @@ wxDirPickerCtrl* maakPadKiezer(wxWindow* ouder, int id, const wxString& pad) {
     wxTextCtrl* veld = kiezer->GetTextCtrl();
     const int breedte = veld->GetTextExtent("/home/docent/lessen/periode 1").x;
     veld->SetMinSize(veld->GetSizeFromTextSize(breedte));
-    toonHeelPad(*kiezer);
+    // Zelf laat de toolkit in zijn tekstveld eerst 32 en daarna 512 tekens toe; van een langer pad toont het
+    // dan niets.
+    veld->SetMaxLength(0);
+    toonPad(*kiezer, pad);
     return kiezer;
 }
 

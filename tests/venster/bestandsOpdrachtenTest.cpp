@@ -1,6 +1,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "Knipselaar/venster/padKiezer.h"
 #include "tests/venster/dialogen.h"
 #include "tests/venster/vensterTest.h"
 
@@ -238,4 +239,20 @@ TEST_F(BestandsOpdrachten, LatenDeToolkitMeldenDatHetDoelNietTeSchrijvenIs) {
     });
     EXPECT_NE("", melding.tekst);
     EXPECT_EQ("resultaat", tekstVan(aangepast()));
+}
+
+TEST_F(BestandsOpdrachten, ToontElkPadHoeLangHetOokIs) {
+    fs::path pad = geefOmgeving().werk();
+    for (const std::size_t lengte : {20U, 30U, 200U, 250U, 250U}) {
+        pad /= std::string(lengte, 'x');
+        fs::create_directory(pad);
+        wxDirPickerCtrl* kiezer = maakPadKiezer(venster_, wxID_ANY, naarWx(pad));
+        EXPECT_EQ(naarWx(pad), kiezer->GetTextCtrl()->GetValue());
+        EXPECT_EQ(naarWx(pad), kiezer->GetTextCtrl()->GetToolTipText());
+        EXPECT_EQ(naarWx(pad), kiezer->GetPath());
+        toonPad(*kiezer, naarWx(geefOmgeving().werk()));
+        toonPad(*kiezer, naarWx(pad));
+        EXPECT_EQ(naarWx(pad), kiezer->GetTextCtrl()->GetValue());
+        kiezer->Destroy();
+    }
 }
