@@ -117,7 +117,7 @@ Afloop knipTerPlaatse(const wxFileName& bestand, const std::string& echt, TerPla
     afloop.knip = opdracht.knip(bestand, terPlaatse.geefTijdelijk());
     if (afloop.knip.isGelukt() && echt.empty()) {
         afloop.vervangReden = "was eerst niet te vinden";
-    } else if (afloop.knip.isGelukt() && !terPlaatse.vervang(echt)) {
+    } else if (afloop.knip.isGelukt() && !terPlaatse.vervang(echt, afloop.knip.bron)) {
         afloop.vervangReden = terPlaatse.geefReden();
     }
     return afloop;

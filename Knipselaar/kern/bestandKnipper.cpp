@@ -65,6 +65,7 @@ KnipUitslag knipBestand(const wxFileName& bron, const wxFileName& doel, const Kn
     }
     uitslag.doelHeelGeschreven = uitStroom.Close() && uitslag.doelHeelGeschreven;
     uitslag.bronBestaat = bronReden.empty() || kanGewoonBestandZijn(bronPad);
+    uitslag.bron = vanBron.kenmerken;
     uitslag.bronReden = std::move(bronReden);
     uitslag.doelReden = std::move(doelReden);
     vulReden(uitslag.bronHeelGelezen, *origStroom.GetFile(), uitslag.bronReden);

@@ -7,6 +7,7 @@
 
 #include "Knipselaar/kern/knipper.h"
 #include "Knipselaar/kern/ontleding.h"
+#include "Knipselaar/kern/systeem/kenmerken.h"
 
 class wxInputStream;
 class wxOutputStream;
@@ -20,6 +21,7 @@ struct KnipUitslag {
     bool bronBestaat = true;          ///< de bron is een gewoon bestand, ook als zij niet te lezen was
     std::string bronReden;            ///< waarom de bron niet heel gelezen is, als dat te zeggen is
     std::string doelReden;            ///< waarom het doel niet heel geschreven is, als dat te zeggen is
+    Kenmerken bron;                   ///< van de bron toen zij openging, als zij een bestand was
     Bevindingen bevindingen;          ///< wat er aan de markers op te merken is, als daarnaar gekeken is
 
     bool isGelukt() const { return bronHeelGelezen && doelHeelGeschreven; }

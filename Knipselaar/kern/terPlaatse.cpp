@@ -61,13 +61,17 @@ TerPlaatse::~TerPlaatse() {
     }
 }
 
-bool TerPlaatse::vervang(const std::string& echt) {
+bool TerPlaatse::vervang(const std::string& echt, const std::optional<Kenmerken>& gelezen) {
     Kenmerken oud;
     if (!onthoudReden(leesKenmerken(echt, oud))) {
         return false;
     }
     if (oud.soort != Bestandssoort::bestand) {
         reden_ = "is geen gewoon bestand";
+        return false;
+    }
+    if (gelezen && !oud.isZelfdePlaats(*gelezen)) {
+        reden_ = "is intussen door een ander bestand vervangen";
         return false;
     }
     const std::string knipsel = naarPad(tijdelijk_.GetFullPath());

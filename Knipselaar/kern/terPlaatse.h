@@ -8,6 +8,7 @@
 
 #include <wx/filename.h>
 
+#include <optional>
 #include <string>
 #include <system_error>
 
@@ -32,8 +33,11 @@ class TerPlaatse {
     /// Zet de inhoud van het tijdelijke bestand op de plaats van een bestaand gewoon bestand; dat kan één
     /// keer. Rechten, eigenaar en groep blijven. Geeft false, en laat het bestand zoals het was, als er iets
     /// niet lukt.
-    /// @param echt  het pad zonder links, zoals geefEchtPad het geeft; dan blijft een link een link.
-    bool vervang(const std::string& echt);
+    /// @param echt     het pad zonder links, zoals geefEchtPad het geeft; dan blijft een link een link.
+    /// @param gelezen  van het bestand dat geknipt is. Staat er intussen een ander, omdat iemand een nieuwe
+    ///                 versie bewaarde of een directory verlegde, dan blijft dat staan. Zonder wordt daar
+    ///                 niet naar gekeken.
+    bool vervang(const std::string& echt, const std::optional<Kenmerken>& gelezen = std::nullopt);
 
   private:
     bool onthoudReden(const std::error_code& fout);

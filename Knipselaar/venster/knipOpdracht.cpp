@@ -45,17 +45,20 @@ const kern::KnipMal& ParserVenster::geefMal() {
 }
 
 void ParserVenster::bewerkBestand() {
-    markeerder_->wisResultaat();
-    origineelEditor->ConvertEOLs(wxSTC_EOL_LF);
-    aangepastEditor->ClearAll();
-    const std::string_view origineel(origineelEditor->GetCharacterPointer(),
-                                     static_cast<std::size_t>(origineelEditor->GetTextLength()));
+    const auto lees = [this] {
+        return std::string_view(origineelEditor->GetCharacterPointer(),
+                                static_cast<std::size_t>(origineelEditor->GetTextLength()));
+    };
+    // Zonder CR valt er niets om te zetten; de editor zou dat pas na een blik op elke regel weten.
+    if (lees().find('\r') != std::string_view::npos) {
+        origineelEditor->ConvertEOLs(wxSTC_EOL_LF);
+    }
+    const std::string_view origineel = lees();
     const kern::Geknipt geknipt = kern::knipTekst(origineel, geefMal());
-    aangepastEditor->AppendTextRaw(geknipt.tekst.data(), static_cast<int>(geknipt.tekst.size()));
-    markeerder_->merkResultaat(geknipt, {.pad = huidigBestand.GetFullPath(),
-                                         .naam = huidigBestand.GetFullName(),
-                                         .teksten = geefMal().geefTeksten(),
-                                         .origineel = std::string(origineel)});
+    markeerder_->zetResultaat(geknipt, {.pad = huidigBestand.GetFullPath(),
+                                        .naam = huidigBestand.GetFullName(),
+                                        .teksten = geefMal().geefTeksten(),
+                                        .origineel = std::string(origineel)});
     volgOrigineel();
 }
 

@@ -197,7 +197,9 @@ void Markeerder::wisOrigineel() {
     stap_ = Stap::klaar;
 }
 
-void Markeerder::merkResultaat(const kern::Geknipt& geknipt, kern::Herkomst herkomst) {
+void Markeerder::zetResultaat(const kern::Geknipt& geknipt, kern::Herkomst herkomst) {
+    wisResultaat();
+    aangepast_.vervang(geknipt.tekst);
     for (const kern::Regel& vervanging : geknipt.vervangingen) {
         merken::kleurVervanging(aangepast_, geknipt.tekst, vervanging);
     }

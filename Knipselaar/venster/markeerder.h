@@ -39,8 +39,8 @@ class Markeerder {
     /// Haalt alles uit de linker editor; er komt een andere tekst in.
     void wisOrigineel();
 
-    /// Merkt een nieuw resultaat, dat zojuist in de rechter editor gezet is.
-    void merkResultaat(const kern::Geknipt& geknipt, kern::Herkomst herkomst);
+    /// Zet een nieuw resultaat in de rechter editor, in plaats van wat er stond, en merkt het.
+    void zetResultaat(const kern::Geknipt& geknipt, kern::Herkomst herkomst);
 
     /// Haalt alles uit de rechter editor, en vergeet waar het resultaat vandaan kwam.
     void wisResultaat();

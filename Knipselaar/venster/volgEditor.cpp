@@ -32,6 +32,15 @@ void VolgEditor::koppel(VolgEditor& een, VolgEditor& ander) {
     ander.SetEndAtLastLine(false);
 }
 
+void VolgEditor::vervang(std::string_view tekst) {
+    const int masker = GetModEventMask();
+    SetModEventMask(0);
+    ClearAll();
+    AppendTextRaw(tekst.data(), static_cast<int>(tekst.size()));
+    SetModEventMask(masker);
+    ++versie_;
+}
+
 bool VolgEditor::TryBefore(wxEvent& event) {
     if (event.GetEventType() == wxEVT_STC_MODIFIED && isTekstverandering(event)) {
         ++versie_;

@@ -8,6 +8,8 @@
 
 #include <wx/stc/stc.h>
 
+#include <string_view>
+
 #include "Knipselaar/kern/schuiven.h"
 
 class VolgEditor : public wxStyledTextCtrl {
@@ -17,6 +19,12 @@ class VolgEditor : public wxStyledTextCtrl {
     /// Maakt twee editors elkaars partner; elke regel van beide kan dan bovenaan staan. Ze moeten even lang
     /// leven.
     static void koppel(VolgEditor& een, VolgEditor& ander);
+
+    /// Zet een andere tekst in de plaats van wat er staat, zonder er een gebeurtenis van te geven. De toolkit
+    /// geeft met elke gebeurtenis de hele tekst mee die verdween of kwam, en bij een grote tekst kost dat
+    /// meer dan hem zetten.
+    /// @param tekst  in UTF-8.
+    void vervang(std::string_view tekst);
 
     /// Een getal dat bij elke verandering van de tekst anders wordt.
     long geefVersie() const { return versie_; }

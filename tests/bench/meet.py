@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""Meet Knipselaar tegen wat een docent anders zou gebruiken, afgewisseld in één keer, en drukt een tabel af.
+"""Meet Knipselaar tegen wat een docent anders zou gebruiken, afgewisseld in één keer, en drukt twee tabellen af.
 
-meet.py BOUWMAP [RONDEN]. Alle getallen zijn verhoudingen van medianen; de machine zelf doet er dus minder toe.
+meet.py BOUWMAP [RONDEN]. Alle getallen zijn verhoudingen van medianen; de machine zelf doet er dus minder toe. De
+tabellen zijn voor README.md, en dus in het Engels.
 """
 import os
 import pathlib
@@ -62,11 +63,11 @@ def met_cli(*opties):
 
 
 PER_BESTAND = {
-    "knipselaar": los(KNIP, "bestand"),
+    "engine": los(KNIP, "bestand"),
     "sed": naar(SED),
     "cp": los("cp"),
     "cli": met_cli(),
-    "cli als venster": met_cli("--als-venster"),
+    "cli --als-venster": met_cli("--als-venster"),
     "mawk": naar(["mawk", "-v", "r=#error", AWK]),
     "gawk": naar(["gawk", "-v", "r=#error", AWK]),
     "perl": naar(["perl", "-ne", f"BEGIN{{$r=qq(#error\\n)}} {PERL}"]),
@@ -88,19 +89,27 @@ def meet(kandidaten, voorbereiden=lambda: None):
     return {naam: statistics.median(lijst) for naam, lijst in tijden.items()}
 
 
-def rij(werk, medianen, doel, basis="sed"):
-    verhouding = medianen["knipselaar"] / medianen[basis]
-    anderen = ", ".join(f"{naam} {tijd / medianen[basis]:.2f}" for naam, tijd in medianen.items()
-                        if naam not in ("knipselaar", basis))
-    print(f"| {werk} | **{verhouding:.2f}** | {medianen['knipselaar'] * 1000:.1f} ms | "
-          f"{medianen[basis] * 1000:.1f} ms ({basis}) | {anderen} | {doel} |", flush=True)
+KOLOMMEN = ("engine", "window", "cli", "cli --als-venster", "sed", "cp", "mawk", "gawk", "perl", "python3", "unifdef")
 
 
-def rij_cli(medianen):
-    """Twee rijen: het consoleprogramma tegen de kern als proces op zichzelf."""
-    for manier in ("cli", "cli als venster"):
-        rij(f"hetzelfde met {manier}", {"knipselaar": medianen[manier], "kern": medianen["knipselaar"]}, "1,2 x kern",
-            "kern")
+def kop(*namen):
+    print(f"| {' | '.join(namen)} |")
+    print(f"|{'---|' * len(namen)}", flush=True)
+
+
+def rij(werk, medianen, doel):
+    """Een werk, met van elk programma de tijd als verhouding tot die van sed."""
+    sed = medianen["sed"]
+    cellen = [f"{medianen[naam] / sed:.2f}" if naam in medianen else "" for naam in KOLOMMEN]
+    cellen[KOLOMMEN.index("sed")] = f"{sed * 1000:.0f} ms"
+    anders = "; ".join(f"{naam} {tijd / sed:.2f}" for naam, tijd in medianen.items() if naam not in KOLOMMEN)
+    print(f"| {werk} | {' | '.join(cellen)} | {anders} | {doel} |", flush=True)
+
+
+def rij_tegen(werk, tijd, wat, basis, doel):
+    """Een werk dat alleen met iets van het programma zelf of van de toolkit te vergelijken is."""
+    print(f"| {werk} | {tijd * 1000:.1f} ms | {wat}: {basis * 1000:.1f} ms | **{tijd / basis:.2f}** | {doel} |",
+          flush=True)
 
 
 def maak_tekst(regels, blokken, regeleinde="\n", accenten=0.0, zaad=1):
@@ -121,10 +130,10 @@ def maak_tekst(regels, blokken, regeleinde="\n", accenten=0.0, zaad=1):
 
 def meet_bestanden(werk):
     gevallen = [
-        ("een C-bestand van 11,5 MB, 230.000 regels, 10.000 blokken", "utf-8", "\n", 0.0, "0,4 x sed"),
-        ("hetzelfde met CR LF", "utf-8", "\r\n", 0.0, "0,6 x sed"),
-        ("hetzelfde in UTF-8 met 5 % andere tekens", "utf-8", "\n", 0.5, "0,6 x sed"),
-        ("hetzelfde in ISO 8859-1", "latin-1", "\n", 0.5, "0,6 x sed"),
+        ("a C file of 11.5 MB, 230,000 lines, 10,000 blocks", "utf-8", "\n", 0.0, "engine 0.4, and 2.5 × cp"),
+        ("the same with CR LF", "utf-8", "\r\n", 0.0, "engine 0.6"),
+        ("the same in UTF-8 with 5 % other characters", "utf-8", "\n", 0.5, "engine 0.4"),
+        ("the same in ISO 8859-1", "latin-1", "\n", 0.5, "engine 0.4"),
     ]
     for naam, codering, regeleinde, accenten, doel in gevallen:
         bron = werk / "bron.c"
@@ -138,13 +147,7 @@ def meet_bestanden(werk):
                              .replace(f"    {EIND}", "#endif"))
             kandidaten["unifdef"] = lambda: subprocess.run(["unifdef", "-UOPLOSSING", "-o", str(werk / "unifdef.uit.c"),
                                                             str(ifdef)], check=False)
-            medianen = meet(kandidaten)
-            rij(naam, medianen, doel)
-            rij("hetzelfde tegen cp", {k: medianen[k] for k in ("knipselaar", "cp")}, "2,5 x cp", "cp")
-        else:
-            medianen = meet(kandidaten)
-            rij(naam, medianen, doel)
-        rij_cli(medianen)
+        rij(naam, meet(kandidaten), f"{doel}; cli 1.2 × engine")
 
 
 def meet_lastige_markers(werk):
@@ -153,13 +156,13 @@ def meet_lastige_markers(werk):
     marker = "s*o*m*+*f*x*tel*waarde*Z"
     eigen = dict(OMGEVING, BEGIN=marker, EIND=marker)
     patroon = "/" + marker.replace("*", ".*").replace("+", "[+]") + "/"
-    rij("jokers die op elke regel bijna passen", meet({
-        "knipselaar": lambda: subprocess.run([KNIP, "bestand", bron, uit], env=eigen, check=True),
-        "sed": lambda: naar(["sed", f"{patroon},{patroon}c\\\nx"])(str(bron), str(uit))}), "2 x sed")
+    rij("wildcards that almost match on every line", meet({
+        "engine": lambda: subprocess.run([KNIP, "bestand", bron, uit], env=eigen, check=True),
+        "sed": lambda: naar(["sed", f"{patroon},{patroon}c\\\nx"])(str(bron), str(uit))}), "engine 2")
     bron.write_text("code en nog eens code // Student x" * 3_000_000)
-    rij("één regel van 100 MB", meet({
-        "knipselaar": lambda: los(KNIP, "bestand")(str(bron), str(uit)),
-        "sed": lambda: naar(SED)(str(bron), str(uit))}), "2 x sed")
+    rij("one line of 100 MB", meet({
+        "engine": lambda: los(KNIP, "bestand")(str(bron), str(uit)),
+        "sed": lambda: naar(SED)(str(bron), str(uit))}), "engine 2")
     bron.unlink()
 
 
@@ -262,23 +265,21 @@ def meet_directories_op(schijf, werk):
         with open(doel / "alles", "wb") as uit:
             subprocess.run(["sed", "-s", "-f", str(script), *namen], stdout=uit, check=True, env=omgeving)
 
-    rij("1.000 bestanden van 11 KB naar een directory", meet({
-        "knipselaar": lambda: voer_uit(KNIP, "directory", bron, doel),
+    rij("1,000 files of 11 KB to a directory", meet({
+        "engine": lambda: voer_uit(KNIP, "directory", bron, doel),
         "sed": meet_sed,
         "cp": lambda: voer_uit("cp", *namen, str(doel)),
-        "cp en dan sed": meet_sed_met_kopie,
-        "sed per bestand": lambda: voer_uit("sh", "-c", sed_vlak),
-        "sed aaneen": meet_sed_aaneen,
-        "door het venster": lambda: venster("directory", bron, doel)}, leeg_doel), "1,0 x sed; venster 1,5")
+        "cp and then sed": meet_sed_met_kopie,
+        "sed for each file": lambda: voer_uit("sh", "-c", sed_vlak),
+        "sed, all into one file": meet_sed_aaneen,
+        "window": lambda: venster("directory", bron, doel)}, leeg_doel), "engine 1.0; window 1.5")
     alle = ["find", str(boom), "-name", "*.c", "-exec"]
-    medianen = meet({
-        "knipselaar": lambda: voer_uit(KNIP, "boom", boom),
+    rij("1,000 files of 11 KB in place", meet({
+        "engine": lambda: voer_uit(KNIP, "boom", boom),
         "sed": lambda: voer_uit(*alle, *sed_i, "{}", "+"),
-        "perl -i": lambda: voer_uit(*alle, "perl", "-i", "-ne", f"BEGIN{{$r=qq(#error\n)}} {PERL}", "{}", "+"),
+        "perl": lambda: voer_uit(*alle, "perl", "-i", "-ne", f"BEGIN{{$r=qq(#error\n)}} {PERL}", "{}", "+"),
         "cli": lambda: voer_uit(*CLI, "--stil", "--recursief", "--ter-plaatse", boom),
-        "door het venster": lambda: venster("boom", boom)}, verse_boom)
-    rij("1.000 bestanden van 11 KB ter plaatse", medianen, "1,0 x sed -i; venster 1,5")
-    rij("hetzelfde met cli op alle kernen", {"knipselaar": medianen["cli"], "sed": medianen["sed"]}, "0,7 x sed -i")
+        "window": lambda: venster("boom", boom)}, verse_boom), "engine 0.95; window 1.2; cli 0.7")
 
 
 def meet_editor(werk):
@@ -295,11 +296,9 @@ def meet_editor(werk):
         return {naam: statistics.median(lijst) for naam, lijst in tijden.items()}
 
     editor = medianen("editor")
-    rij("230.000 regels van editor naar editor", {"knipselaar": editor["knip"], "in één keer gezet": editor["zet"]},
-        "1,5 x in één keer gezet", "in één keer gezet")
+    rij_tegen("230,000 lines from editor to editor", editor["knip"], "setting the text at once", editor["zet"], "1.0")
     merken = medianen("merken")
-    rij("230.000 regels merken", {"knipselaar": merken["merk"], "in één keer gezet": merken["zet"]},
-        "0,1 x in één keer gezet", "in één keer gezet")
+    rij_tegen("230,000 lines marked", merken["merk"], "setting the text at once", merken["zet"], "0.1")
 
 
 def meet_geheugen(werk):
@@ -314,7 +313,7 @@ def meet_geheugen(werk):
         return int(subprocess.run(opdracht, env=eigen, capture_output=True, check=True).stdout) / 1024
 
     extra = piek(KNIP, "bestand", str(bron), str(uit)) - piek(KNIP, "niets")
-    print(f"| geheugen bij een bestand van 1 GB | **{extra:.1f} MB** | boven de kern in rust | | | 32 MB |", flush=True)
+    print(f"| memory for a file of 1 GB | **{extra:.1f} MB** more | the engine at rest | | 32 MB |", flush=True)
     bron.unlink()
     uit.unlink()
 
@@ -344,26 +343,28 @@ def meet_start(werk):
             return duur
         return handeling
 
-    rij("start tot een zichtbaar venster", meet({
-        "knipselaar": start(str(BOUW / "Knipselaar/knipselaar"), "Knipselaar"),
-        "kaal venster": start(str(BOUW / "tests/bench/startmeter"), "Kaal")}), "1,2 x kaal venster", "kaal venster")
+    medianen = meet({"venster": start(str(BOUW / "Knipselaar/knipselaar"), "Knipselaar"),
+                     "kaal": start(str(BOUW / "tests/bench/startmeter"), "Kaal")})
+    rij_tegen("from start to a visible window", medianen["venster"], "a bare window", medianen["kaal"], "1.2")
     xvfb.terminate()
     xvfb.wait()
 
 
 def meet_start_cli(_werk):
-    rij("starten en stoppen van cli", meet({
-        "knipselaar": lambda: subprocess.run([*CLI, "--versie"], stdout=subprocess.DEVNULL, check=True),
-        "kern": lambda: subprocess.run([KNIP, "niets"], check=True)}), "1,2 x kern", "kern")
+    medianen = meet({"cli": lambda: subprocess.run([*CLI, "--versie"], stdout=subprocess.DEVNULL, check=True),
+                     "kern": lambda: subprocess.run([KNIP, "niets"], check=True)})
+    rij_tegen("start and stop of the console program", medianen["cli"], "the engine", medianen["kern"], "1.2")
 
 
 def main():
-    print("| werk | verhouding | Knipselaar | basis | anderen, als verhouding | doel |")
-    print("|---|---|---|---|---|---|")
     with tempfile.TemporaryDirectory() as map_naam:
         werk = pathlib.Path(map_naam)
-        for meting in (meet_bestanden, meet_lastige_markers, meet_directories, meet_editor, meet_geheugen,
-                       meet_start_cli, meet_start):
+        kop("work", *KOLOMMEN, "others", "goal")
+        for meting in (meet_bestanden, meet_lastige_markers, meet_directories):
+            meting(werk)
+        print()
+        kop("work", "Knipselaar", "against", "ratio", "goal")
+        for meting in (meet_editor, meet_geheugen, meet_start_cli, meet_start):
             meting(werk)
 
 

@@ -38,6 +38,8 @@ void meetEditor(ParserVenster& venster, const std::string& bestand) {
     venster.zetCStijl(aangepast);
     origineel->LoadFile(wxString::FromUTF8(bestand));
     for (int ronde = 0; ronde < 5; ++ronde) {
+        // Wat er van het vorige nog te tekenen en te merken ligt, hoort niet bij deze beurt.
+        laatLopen();
         meet("knip", [&venster] { geefKnipopdracht(venster); });
         const wxString uitkomst = aangepast->GetText();
         meet("zet", [aangepast, &uitkomst] { aangepast->SetText(uitkomst); });

@@ -231,6 +231,40 @@ TEST_F(Veilig, ZegtWaaromEenBestandNietVervangenIs) {
     EXPECT_EQ("bestaat niet", terPlaatse.geefReden());
 }
 
+TEST_F(Veilig, LaatEenNieuweVersieVanEenAnderStaan) {
+    hulp::maakBoom(boom_, {{"a.c", origineel}});
+    Opdracht opdracht;
+    opdracht.naElkeKnip = [this] {
+        hulp::schrijfBestand(map_ / "nieuw.c", "nieuwe versie\n");
+        fs::rename(map_ / "nieuw.c", boom_ / "a.c");
+    };
+    knipBoom(opdracht);
+    EXPECT_EQ(
+        (std::map<std::string, std::string>{
+            {"a.c", "mislukt ter plaatse, 1 blok, vervangen: is intussen door een ander bestand vervangen"}}),
+        opdracht.loop);
+    EXPECT_EQ((hulp::Boom{{"a.c", "nieuwe versie\n"}}), hulp::leesBoom(boom_));
+}
+
+TEST_F(Veilig, VervangtNooitEenAnderBestandDanHetKnipte) {
+    hulp::maakBoom(map_ / "elders", {{"sub/a.c", origineel}, {"sub/b.c", origineel + "van elders\n"}});
+    hulp::maakBoom(boom_, {{"sub/a.c", origineel}, {"sub/b.c", origineel}});
+    fs::create_symlink(boom_, map_ / "via");
+    Opdracht opdracht;
+    opdracht.voorElkBestand = [this](std::size_t gedaan) {
+        if (gedaan == 1) {
+            fs::remove(map_ / "via");
+            fs::create_symlink(map_ / "elders", map_ / "via");
+        }
+    };
+    const wxString via = naarWx(map_ / "via");
+    kern::knipBoom(via, {via + "/sub/a.c", via + "/sub/b.c"}, opdracht);
+    EXPECT_EQ((hulp::Boom{{"sub", "/"}, {"sub/a.c", geknipt}, {"sub/b.c", origineel}}),
+              hulp::leesBoom(boom_));
+    EXPECT_EQ((hulp::Boom{{"sub", "/"}, {"sub/a.c", origineel}, {"sub/b.c", origineel + "van elders\n"}}),
+              hulp::leesBoom(map_ / "elders"));
+}
+
 TEST_F(Veilig, ZegtDatEenBestandIntussenVerdweenOfEenDirectoryWerd) {
     for (const bool wordtDirectory : {false, true}) {
         hulp::maakBoom(boom_, {{"a.c", origineel}});

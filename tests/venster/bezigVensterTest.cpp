@@ -7,36 +7,36 @@
 #include <wx/log.h>
 #include <wx/uiaction.h>
 
+#include <optional>
+
 #include "tests/venster/batchVenster.h"
 #include "tests/venster/dialogen.h"
 
 namespace {
 
-/// Onthoudt wat er het eerst gebeurde: dat een ander venster getekend werd, of dat een editor veranderde.
-class WatEerst : public wxEventFilter {
+/// Onthoudt wat er in een editor stond toen er voor het eerst een ander venster getekend werd.
+class TekstBijTekenen : public wxEventFilter {
   public:
-    explicit WatEerst(const wxWindow& hoofdvenster) : hoofdvenster_(hoofdvenster) {
+    TekstBijTekenen(const wxWindow& hoofdvenster, const wxStyledTextCtrl& editor)
+        : hoofdvenster_(hoofdvenster), editor_(editor) {
         wxEvtHandler::AddFilter(this);
     }
-    ~WatEerst() override { wxEvtHandler::RemoveFilter(this); }
+    ~TekstBijTekenen() override { wxEvtHandler::RemoveFilter(this); }
 
     int FilterEvent(wxEvent& event) override {
         const auto* venster = dynamic_cast<wxWindow*>(event.GetEventObject());
-        if (eerst.empty() && venster != nullptr) {
-            if (event.GetEventType() == wxEVT_STC_MODIFIED) {
-                eerst = "geknipt";
-            } else if (event.GetEventType() == wxEVT_PAINT && venster->IsTopLevel() &&
-                       venster != &hoofdvenster_) {
-                eerst = "getekend";
-            }
+        if (!tekst && venster != nullptr && event.GetEventType() == wxEVT_PAINT && venster->IsTopLevel() &&
+            venster != &hoofdvenster_) {
+            tekst = editor_.GetText().utf8_string();
         }
         return Event_Skip;
     }
 
-    std::string eerst;
+    std::optional<std::string> tekst;
 
   private:
     const wxWindow& hoofdvenster_;
+    const wxStyledTextCtrl& editor_;
 };
 
 class Bezig : public BatchTest {
@@ -83,9 +83,10 @@ TEST_F(Bezig, StaatErGetekendVoorErGekniptWordt) {
         aangepast()->SetText("vorig resultaat\n");
         lid(&Inzage::origineelPad) = naarWx(bron_);
         lid(&Inzage::aangepastPad) = naarWx(doel_);
-        const WatEerst wat(*venster_);
+        const TekstBijTekenen bij(*venster_, *aangepast());
         geefOpdracht(wxID_REPLACE);
-        EXPECT_EQ("getekend", wat.eerst) << keuze;
+        EXPECT_EQ("vorig resultaat\n", bij.tekst) << keuze;
+        EXPECT_NE("vorig resultaat\n", tekstVan(aangepast())) << keuze;
     }
 }
 

@@ -211,6 +211,11 @@ TEST_F(Markering, MerktElkeVervanging) {
     EXPECT_EQ("a\neen\n\ntwee\nb\neen\n\ntwee\n", tekstVan(aangepast()));
     EXPECT_EQ(".vvv.vvv.", achtergronden(aangepast()));
     EXPECT_EQ(Lijst{}, bijschriften(aangepast()));
+    knip();
+    EXPECT_EQ(".vvv.vvv.", achtergronden(aangepast())) << "nog eens hetzelfde";
+    aangepast()->InsertText(0, "erboven\n");
+    wacht();
+    EXPECT_EQ("..vvv.vvv.", achtergronden(aangepast()));
 }
 
 TEST_F(Markering, MerktEenDeelVanEenRegelAlsDeVervangingMiddenInEindigt) {
