@@ -72,7 +72,7 @@ std::string maakEcht(const std::string& pad) {
         return heel.string();
     }
     const std::string tekst =
-        (fs::path(maakEcht(ouder.string())) / heel.filename()).lexically_normal().string();
+        (fs::path(maakEcht(ouder.string())) / heel.filename()).lexically_normal().generic_string();
     return tekst.size() > 1 && tekst.ends_with('/') ? tekst.substr(0, tekst.size() - 1) : tekst;
 }
 

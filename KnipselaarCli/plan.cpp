@@ -26,16 +26,11 @@ bool bestaat(const std::string& pad) {
     return !kern::leesEigenKenmerken(pad, kenmerken);
 }
 
-/// Waar een link heen wijst, zoals het in de link staat.
-std::string leesLink(const std::string& pad) {
-    std::error_code fout;
-    return fs::read_symlink(pad, fout).string();
-}
-
 /// Of een link in deze boom bij iets uitkomt dat er zelf ook in zit, ook als de boom verhuist.
 bool blijftBinnen(const std::string& link, const std::string& boom) {
     const std::string echt = kern::geefEchtPad(link);
-    return !echt.empty() && !fs::path(leesLink(link)).is_absolute() && kern::ligtIn(echt, maakEcht(boom));
+    return !echt.empty() && !fs::path(kern::leesLink(link)).is_absolute() &&
+           kern::ligtIn(echt, maakEcht(boom));
 }
 
 /// Kiest in directories wat geknipt wordt, en onthoudt welk masker iets vond.
@@ -51,7 +46,7 @@ class Kiezer {
         }
         bool gekozen = false;
         for (const std::string& masker : opties_.maskers) {
-            const bool heelPad = masker.find('/') != std::string::npos;
+            const bool heelPad = kern::geefNaam(masker) != masker;
             const std::string wat(heelPad ? std::string_view(pad) : kern::geefNaam(pad));
             if (kern::pastOp(masker, wat, heelPad)) {
                 gebruikt_.insert(masker);
@@ -249,7 +244,7 @@ class Planner {
     }
 
     void voegToe(Handeling handeling, const std::string& bron, const std::string& doel) {
-        const auto [eerste, nieuw] = doelen_.try_emplace(doel, bron);
+        const auto [eerste, nieuw] = doelen_.try_emplace(kern::maakSleutel(doel), bron);
         if (!nieuw && handeling != Handeling::maakDirectory) {
             throw Fout(doel + ": zowel " + eerste->second + " als " + bron +
                        " zou hier komen; geef ze een eigen directory");
@@ -308,7 +303,8 @@ class Planner {
 
     bool isEerder(const Taak& taak) const {
         if (kern::isLink(taak.doel)) {
-            return taak.handeling == Handeling::legLink && leesLink(taak.doel) == leesLink(taak.bron);
+            return taak.handeling == Handeling::legLink &&
+                   kern::leesLink(taak.doel) == kern::leesLink(taak.bron);
         }
         return isEerdereUitvoer(taak.doel, plan_.soort);
     }

@@ -6,6 +6,7 @@
 
 #include "Knipselaar/kern/keuzes.h"
 #include "Knipselaar/kern/parserInstellingen.h"
+#include "Knipselaar/kern/systeem/paden.h"
 #include "KnipselaarCli/fout.h"
 #include "gemeenschappelijk/desktopApp.h"
 
@@ -104,7 +105,7 @@ void vulVervanging(const TekstKeuze& keuze, const kern::ParserInstellingen& inst
 }  // namespace
 
 Taal kiesTaal(std::string_view pad) {
-    const std::string_view naam = pad.substr(pad.rfind('/') + 1);
+    const std::string_view naam = kern::geefNaam(pad);
     const std::size_t punt = naam.rfind('.');
     if (punt == std::string_view::npos) {
         return Taal::overig;

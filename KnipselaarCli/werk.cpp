@@ -5,6 +5,7 @@
 
 #include "Knipselaar/kern/regeleinden.h"
 #include "Knipselaar/kern/systeem/bestand.h"
+#include "Knipselaar/kern/systeem/directory.h"
 #include "Knipselaar/kern/systeem/onderbreking.h"
 #include "KnipselaarCli/bestanden.h"
 #include "KnipselaarCli/fout.h"
@@ -153,9 +154,7 @@ class Knipbeurt {
 };
 
 void maakDirectory(const Taak& taak) {
-    std::error_code fout;
-    fs::create_directories(taak.doel, fout);
-    if (fout) {
+    if (const auto fout = kern::maakDirectories(taak.doel)) {
         throw Fout(taak.doel + ": kan niet gemaakt worden: " + noemReden(fout));
     }
 }

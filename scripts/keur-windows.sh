@@ -67,6 +67,7 @@ keur_console() {
     vergelijk boom --recursief --naar uit les
     vergelijk verborgen --recursief --verborgen --naar uit les
     vergelijk ter_plaatse --recursief --ter-plaatse les
+    vergelijk dubbel --recursief --ter-plaatse les les/ringbuffer.c
     vergelijk masker --naar uit --masker '*.[ch]' les
     vergelijk verschil --verschil les
     vergelijk bewijs --recursief --naar uit --bewijs les

@@ -20,4 +20,7 @@ struct Deel {
 /// Mislukt het onderweg, dan blijft wat er al was.
 std::error_code leesDirectory(const std::string& pad, std::vector<Deel>& uit);
 
+/// Maakt een directory, met de directories erboven die er nog niet zijn. Is zij er al, dan gebeurt er niets.
+std::error_code maakDirectories(const std::string& pad);
+
 }  // namespace kern

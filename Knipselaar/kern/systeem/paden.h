@@ -21,11 +21,16 @@ wxString naarTekst(const std::string& pad);
 /// Of het pad zelf een symbolische link is (op Windows ook een junction).
 bool isLink(const std::string& pad);
 
+/// Waar een link heen wijst, zoals het in de link staat; op Windows altijd vanaf de wortel. Leeg als het geen
+/// link is.
+std::string leesLink(const std::string& pad);
+
 /// Of twee paden hetzelfde bestand of dezelfde directory zijn, hoe ze ook geschreven zijn. Twee gelijk
 /// geschreven paden zijn dat altijd.
 bool isZelfdePlaats(const std::string& een, const std::string& ander);
 
-/// Het pad zonder links, ".", ".." en dubbele scheidingstekens. Leeg als het nergens heen wijst.
+/// Het pad zonder links, ".", ".." en dubbele scheidingstekens, met schuine strepen. Leeg als het nergens
+/// heen wijst.
 /// @param fout  krijgt waarom, als het niet lukt.
 std::string geefEchtPad(const std::string& pad, std::error_code& fout);
 std::string geefEchtPad(const std::string& pad);
@@ -34,6 +39,10 @@ std::string geefEchtPad(const std::string& pad);
 
 /// Of een echt pad in een echte directory ligt, of die directory is.
 bool ligtIn(std::string_view pad, std::string_view directory);
+
+/// Gelijk voor twee geschreven paden die het systeem niet onderscheidt: op Windows zijn hoofdletters kleine
+/// letters, en is elke schuine streep dezelfde.
+std::string maakSleutel(std::string_view pad);
 
 /// De laatste naam van een pad.
 std::string_view geefNaam(std::string_view pad);

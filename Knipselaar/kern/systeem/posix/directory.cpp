@@ -2,6 +2,7 @@
 
 #include <dirent.h>
 
+#include <filesystem>
 #include <memory>
 #include <string_view>
 
@@ -55,6 +56,12 @@ std::error_code leesDirectory(const std::string& pad, std::vector<Deel>& uit) {
                            .verborgen = naam.starts_with('.')});
         }
     }
+}
+
+std::error_code maakDirectories(const std::string& pad) {
+    std::error_code fout;
+    std::filesystem::create_directories(pad, fout);
+    return fout;
 }
 
 }  // namespace kern

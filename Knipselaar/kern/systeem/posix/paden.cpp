@@ -3,6 +3,7 @@
 #include <wx/strconv.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <memory>
 
 #include "Knipselaar/kern/systeem/kenmerken.h"
@@ -22,6 +23,11 @@ wxString naarTekst(const std::string& pad) {
 bool isLink(const std::string& pad) {
     Kenmerken kenmerken;
     return !leesEigenKenmerken(pad, kenmerken) && kenmerken.soort == Bestandssoort::link;
+}
+
+std::string leesLink(const std::string& pad) {
+    std::error_code fout;
+    return std::filesystem::read_symlink(pad, fout).string();
 }
 
 bool isZelfdePlaats(const std::string& een, const std::string& ander) {
@@ -48,6 +54,10 @@ std::string geefEchtPad(const std::string& pad) {
 bool ligtIn(std::string_view pad, std::string_view directory) {
     return pad == directory || directory == "/" ||
            (pad.starts_with(directory) && pad.substr(directory.size()).starts_with('/'));
+}
+
+std::string maakSleutel(std::string_view pad) {
+    return std::string(pad);
 }
 
 std::string_view geefNaam(std::string_view pad) {

@@ -27,6 +27,26 @@ bool isVerborgen(const WIN32_FIND_DATAW& deel) {
     return (deel.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0 || deel.cFileName[0] == L'.';
 }
 
+/// @param voluit  zie breed.h.
+std::error_code maakVolledig(const std::wstring& voluit) {
+    if (CreateDirectoryW(voluit.c_str(), nullptr) != 0) {
+        return {};
+    }
+    const std::error_code fout = windows::geefFout();
+    const DWORD kenmerken = GetFileAttributesW(voluit.c_str());
+    if (kenmerken != INVALID_FILE_ATTRIBUTES) {
+        return (kenmerken & FILE_ATTRIBUTE_DIRECTORY) != 0 ? std::error_code() : fout;
+    }
+    const std::size_t plek = voluit.find_last_of(L'\\');
+    // Boven een schijf is niets meer te maken.
+    if (fout != std::errc::no_such_file_or_directory || plek == std::wstring::npos ||
+        voluit.ends_with(L':')) {
+        return fout;
+    }
+    const auto boven = maakVolledig(voluit.substr(0, plek));
+    return boven ? boven : windows::keur(CreateDirectoryW(voluit.c_str(), nullptr));
+}
+
 }  // namespace
 
 std::error_code leesDirectory(const std::string& pad, std::vector<Deel>& uit) {
@@ -53,6 +73,14 @@ std::error_code leesDirectory(const std::string& pad, std::vector<Deel>& uit) {
         }
     } while (FindNextFileW(zoeker.get(), &deel) != 0);
     return GetLastError() == ERROR_NO_MORE_FILES ? std::error_code() : windows::geefFout();
+}
+
+std::error_code maakDirectories(const std::string& pad) {
+    std::wstring voluit = windows::maakVoluit(pad);
+    while (voluit.ends_with(L'\\')) {
+        voluit.pop_back();
+    }
+    return maakVolledig(voluit);
 }
 
 }  // namespace kern

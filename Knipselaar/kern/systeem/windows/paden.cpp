@@ -17,16 +17,6 @@ bool isScheiding(char teken) {
     return scheidingstekens.find(teken) != std::string_view::npos;
 }
 
-/// Zoals Windows twee namen vergelijkt: op hoofdletters na.
-bool isZelfdeTekst(std::string_view een, std::string_view ander) {
-    std::wstring eerste = windows::maakBreed(een);
-    std::wstring tweede = windows::maakBreed(ander);
-    std::replace(eerste.begin(), eerste.end(), L'/', L'\\');
-    std::replace(tweede.begin(), tweede.end(), L'/', L'\\');
-    return CompareStringOrdinal(eerste.data(), static_cast<int>(eerste.size()), tweede.data(),
-                                static_cast<int>(tweede.size()), TRUE) == CSTR_EQUAL;
-}
-
 }  // namespace
 
 std::string naarPad(const wxString& tekst) {
@@ -40,6 +30,10 @@ wxString naarTekst(const std::string& pad) {
 bool isLink(const std::string& pad) {
     Kenmerken kenmerken;
     return !leesEigenKenmerken(pad, kenmerken) && kenmerken.soort == Bestandssoort::link;
+}
+
+std::string leesLink(const std::string& pad) {
+    return isLink(pad) ? geefEchtPad(pad) : std::string();
 }
 
 bool isZelfdePlaats(const std::string& een, const std::string& ander) {
@@ -68,7 +62,9 @@ std::string geefEchtPad(const std::string& pad, std::error_code& fout) {
         fout = windows::geefFout();
         echt = isLink(pad) ? std::wstring() : voluit;
     }
-    return windows::maakSmal(windows::maakLeesbaar(std::move(echt)));
+    std::string smal = windows::maakSmal(windows::maakLeesbaar(std::move(echt)));
+    std::replace(smal.begin(), smal.end(), '\\', '/');
+    return smal;
 }
 
 std::string geefEchtPad(const std::string& pad) {
@@ -81,8 +77,15 @@ bool ligtIn(std::string_view pad, std::string_view directory) {
         directory.remove_suffix(1);
     }
     return !directory.empty() && pad.size() >= directory.size() &&
-           isZelfdeTekst(pad.substr(0, directory.size()), directory) &&
+           maakSleutel(pad.substr(0, directory.size())) == maakSleutel(directory) &&
            (pad.size() == directory.size() || isScheiding(pad[directory.size()]));
+}
+
+std::string maakSleutel(std::string_view pad) {
+    std::wstring breed = windows::maakBreed(pad);
+    std::replace(breed.begin(), breed.end(), L'\\', L'/');
+    CharUpperBuffW(breed.data(), static_cast<DWORD>(breed.size()));
+    return windows::maakSmal(breed);
 }
 
 std::string_view geefNaam(std::string_view pad) {
