@@ -188,10 +188,12 @@ Vlak Bediening::zoek(const std::string& ding) const {
     return gevonden;
 }
 
-void Bediening::klik(const Vlak& plek, int knop) const {
+void Bediening::klik(const Vlak& plek, int knop, int keren) const {
     const std::string nummer = vensterNummer(hoofdvenster);
+    // Een muis die daar blijft, roept een tooltip op over waar de volgende klik moet komen.
     voerUit({"xdotool", "mousemove", "--window", nummer, std::to_string(plek.links + plek.breedte / 2),
-             std::to_string(plek.boven + plek.hoogte / 2), "click", std::to_string(knop)});
+             std::to_string(plek.boven + plek.hoogte / 2), "click", "--repeat", std::to_string(keren),
+             "--delay", "10", std::to_string(knop), "mousemove", "0", "0"});
 }
 
 std::string Bediening::kiekje(const std::string& venster, const Vlak& vlak) {

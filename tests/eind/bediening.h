@@ -89,8 +89,8 @@ class Bediening : public testing::Test {
     /// zit.
     Vlak zoek(const std::string& ding) const;
 
-    /// Klikt midden op een stuk van het hoofdvenster.
-    void klik(const Vlak& plek, int knop = 1) const;
+    /// Klikt midden op een stuk van het hoofdvenster, en haalt de muis daar weg.
+    void klik(const Vlak& plek, int knop = 1, int keren = 1) const;
 
     /// Of een ding er is en niet uit staat.
     bool isBruikbaar(const std::string& ding) const;

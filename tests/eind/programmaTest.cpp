@@ -239,9 +239,7 @@ TEST_F(Programma, SchuiftBeideEditorsMetHetWielVanElkVanBeide) {
     ASSERT_TRUE(hulp::wachtTot(isGelijk));
     for (const auto& [editor, knop] : {std::pair(rechts, 5), std::pair(links, 4), std::pair(rechts, 5)}) {
         const std::string vooraf = strook(links);
-        for (int tik = 0; tik < 4; ++tik) {
-            klik(editor, knop);
-        }
+        klik(editor, knop, 4);
         EXPECT_TRUE(hulp::wachtTot([&] { return strook(links) != vooraf && isGelijk(); }))
             << "wiel op " << editor.links;
     }
@@ -283,7 +281,7 @@ TEST_F(Programma, BereiktHetEindeVanEenOrigineelDatLangerIsDanZijnResultaat) {
     EXPECT_TRUE(blijft(true)) << "met de toetsen";
     druk("ctrl+Home");
     EXPECT_TRUE(blijft(false)) << "weer aan het begin";
-    voerUit({"xdotool", "click", "--repeat", "80", "--delay", "10", "5"});  // de muis staat er nog
+    klik(editor, 5, 80);
     EXPECT_TRUE(blijft(true)) << "met het wiel";
     druk("ctrl+q");
     typPad(opslaanDialoog, omgeving_.werk() / "uit.c");
