@@ -353,6 +353,16 @@ TEST_F(Boomloop, NoemtNietGekniptWatEerstNietTeVindenWas) {
     EXPECT_EQ(origineel, hulp::leesBestand(map_ / "later.c"));
 }
 
+TEST_F(Boomloop, NoemtNietGekniptWatErPasLaterKwam) {
+    Opdracht opdracht;
+    opdracht.voorElkeKnip = [this] { hulp::schrijfBestand(boom_ / "later.c", origineel); };
+    kern::knipBoom(naarWx(boom_), {naarWx(boom_ / "later.c")}, opdracht);
+    EXPECT_EQ((std::map<std::string, std::string>{
+                  {"later.c", "mislukt ter plaatse, 1 blok, vervangen: was eerst niet te vinden"}}),
+              opdracht.loop);
+    EXPECT_EQ(origineel, hulp::leesBestand(boom_ / "later.c"));
+}
+
 TEST(Paden, ZijnDezelfdePlaatsHoeZeOokGeschrevenZijn) {
     const hulp::TijdelijkeMap map;
     fs::create_directory(map / "a");
