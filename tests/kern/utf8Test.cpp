@@ -212,7 +212,7 @@ TEST(Utf8, ZetLatijn1OmTotEenRegeleinde) {
 
 // Wat langer is gaat in stukken, ook als een CR LF over de grens ligt.
 TEST(Utf8, ZetVeelLatijn1InStukkenOm) {
-    for (const std::size_t voor : {4092, 4093, 4094, 4095, 4096, 4097}) {
+    for (const std::size_t voor : {4092U, 4093U, 4094U, 4095U, 4096U, 4097U}) {
         const std::string bytes = std::string(voor, '\xE9') + "\r\n" + std::string(9000, '\xFC');
         std::size_t verwacht = 0;
         const std::string omgezet = zetEenvoudigOm(bytes, verwacht);
