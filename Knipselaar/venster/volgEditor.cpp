@@ -12,10 +12,9 @@ bool isTekstverandering(const wxEvent& event) {
 /// De toets waarmee iemand de editor verlaat, als het die is: Ctrl+Tab of Ctrl+Shift+Tab. Tab zelf is hier
 /// een teken, en op Windows gaat de toolkit ook met Ctrl erbij niet verder.
 const wxKeyEvent* zoekVertrek(const wxEvent& event) {
-    const auto* toets = dynamic_cast<const wxKeyEvent*>(&event);
-    const bool vertrek = event.GetEventType() == wxEVT_KEY_DOWN && toets != nullptr &&
-                         toets->GetKeyCode() == WXK_TAB && toets->ControlDown();
-    return vertrek ? toets : nullptr;
+    const auto* toets =
+        event.GetEventType() == wxEVT_KEY_DOWN ? dynamic_cast<const wxKeyEvent*>(&event) : nullptr;
+    return toets != nullptr && toets->GetKeyCode() == WXK_TAB && toets->ControlDown() ? toets : nullptr;
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <utility>
 
 #include "Knipselaar/kern/systeem/aantekening.h"
 #include "Knipselaar/kern/systeem/bestand.h"
@@ -71,6 +72,23 @@ TEST_F(Systeem, OpentAlleenGewoneBestandenOmTeLezen) {
         EXPECT_EQ(soort, opening.kenmerken.soort) << naam;
         EXPECT_EQ(fout, opening.fout) << naam;
     }
+}
+
+TEST_F(Systeem, ZegtVanElkeOpeningOfZijLukte) {
+    EXPECT_FALSE(kern::openBron(geef("a.c")).keur());
+    EXPECT_EQ(std::errc::no_such_file_or_directory, kern::openBron(geef("los")).keur());
+    EXPECT_EQ(std::errc::invalid_argument, kern::openBron(geef("pijp")).keur()) << "kon wel open";
+}
+
+TEST_F(Systeem, GeeftEenKanaalDoor) {
+    kern::Bestand eerst = kern::openBron(geef("a.c")).bestand;
+    const int kanaal = eerst.geefKanaal();
+    kern::Bestand daarna(std::move(eerst));
+    EXPECT_EQ(kanaal, daarna.geefKanaal());
+    std::array<char, 6> inhoud{};
+    EXPECT_EQ(6U, kern::lees(daarna.geefKanaal(), inhoud).aantal);
+    EXPECT_FALSE(daarna.sluit());
+    EXPECT_FALSE(daarna.isOpen());
 }
 
 TEST_F(Systeem, OpentAlleenGewoneBestandenOmTeSchrijven) {

@@ -450,10 +450,10 @@ TEST_F(Markering, LaatGeenBijschriftStaanVanEenStapDieAfgebrokenIs) {
 }
 
 TEST_F(Markering, GaatDoorZonderDatErVerderIetsGebeurt) {
-    constexpr int langeRun = 30'000;
+    constexpr int langeRun = 60'000;
     zetTeksten("B", "E", "V\n");
     std::string tekst;
-    for (int blok = 0; blok < 40'000; ++blok) {
+    for (int blok = 0; blok < 8'000; ++blok) {
         tekst += "een regel\nB\nx\nE\nE\n";
     }
     // Een knipperende cursor wekt de hoofdlus ook.
