@@ -333,3 +333,24 @@ TEST_F(Opbouw, ToontEenGewoonPadHeelOpEenKleinScherm) {
 TEST_F(Opbouw, PastPreciesOmZijnInhoud) {
     EXPECT_EQ(venster_->GetSizer()->ComputeFittingClientSize(venster_), venster_->GetClientSize());
 }
+
+TEST_F(Opbouw, VerlaatEenEditorMetCtrlTab) {
+    const auto ga = [this](bool terug) {
+        origineel()->SetFocus();
+        laatLopen();
+        wxKeyEvent toets(wxEVT_KEY_DOWN);
+        toets.m_keyCode = WXK_TAB;
+        toets.SetControlDown(true);
+        toets.SetShiftDown(terug);
+        toets.SetEventObject(origineel());
+        EXPECT_TRUE(origineel()->ProcessWindowEvent(toets));
+        laatLopen();
+        return wxWindow::FindFocus();
+    };
+    const wxWindow* verder = ga(false);
+    const wxWindow* terug = ga(true);
+    EXPECT_NE(origineel(), verder);
+    EXPECT_NE(origineel(), terug);
+    EXPECT_NE(verder, terug);
+    EXPECT_EQ("", tekstVan(origineel()));
+}
