@@ -2,9 +2,10 @@
 # Voert de twee opdrachten uit README.md uit op een kale Debian: blijkt daar dat er iets niet geïnstalleerd wordt, of
 # dat een andere uitgave van de toolkit iets anders doet? De boom komt er te staan zoals git hem nu kent, in een pad
 # met een spatie. Meldt van beide opdrachten de afloopstatus en de tijd, en wat CTest telde.
-# Gebruik: keur-debian.sh SUITE [ALS]
-#   SUITE  zoals bookworm of trixie
-#   ALS    root (standaard), of de naam van een gewone gebruiker, die daar sudo zonder wachtwoord heeft
+# Gebruik: keur-debian.sh SUITE [ALS [OPDRACHT]...]
+#   SUITE     zoals bookworm of trixie
+#   ALS       root (standaard), of de naam van een gewone gebruiker, die daar sudo zonder wachtwoord heeft
+#   OPDRACHT  start of test; standaard allebei, na elkaar. Met alleen test moet die ook alle pakketten nog ophalen
 # Het kale systeem, de opgehaalde pakketten en de verslagen blijven in ~/.cache/knipselaar-debian, of waar
 # KNIPSELAAR_DEBIAN naar wijst. Een vers systeem: haal SUITE.tar daar weg.
 set -euo pipefail
@@ -12,6 +13,8 @@ hoofdmap=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$hoofdmap/scripts/gemeen.sh"
 suite=${1:?}
 als=${2:-root}
+opdrachten=("${@:3}")
+[ ${#opdrachten[@]} -gt 0 ] || opdrachten=(start test)
 voorraad=${KNIPSELAAR_DEBIAN:-$HOME/.cache/knipselaar-debian}
 pakketten="$voorraad/pakketten-$suite"
 
@@ -105,10 +108,10 @@ als_root rm "$root/boom.bundle"
 
 echo "$suite als $als, $(als_ander git -C "$boom" log -1 --format='%h %s')"
 afloop=0
-verslag="$voorraad/$suite-$als-start.txt"
-keur ./start.sh
-verslag="$voorraad/$suite-$als-test.txt"
-keur ./test.sh
+for opdracht in "${opdrachten[@]}"; do
+    verslag="$voorraad/$suite-$als-$opdracht.txt"
+    keur "./$opdracht.sh"
+done
 # De uitgaven waarmee dit zo ging.
 in_root dpkg-query -W -f '${Package} ${Version}\n' 'libwxgtk3.2-dev' 'libgtk-3-dev' 'g++' cmake at-spi2-core || true
 exit $afloop
