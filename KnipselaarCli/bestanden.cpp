@@ -40,6 +40,14 @@ std::error_code leesVerder(int kanaal, kern::Bytes& bytes) {
     }
 }
 
+kern::Bytes leesStandaardinvoer() {
+    kern::Bytes bytes;
+    if (const auto fout = leesVerder(kern::invoerkanaal, bytes)) {
+        gooi("standaardinvoer", "gelezen", fout);
+    }
+    return bytes;
+}
+
 /// Wat er bij een uitvoerbestand aangetekend wordt: wie het daarna nog schrijft, verandert lengte of tijd.
 std::string maakAantekening(Uitvoersoort soort, const kern::Kenmerken& kenmerken) {
     constexpr std::array namen{"bestand", "directory", "boom"};
@@ -68,14 +76,25 @@ void schrijfBytes(int kanaal, std::string_view bytes) {
 
 }  // namespace
 
+kern::Bytes leesStroom(const std::string& pad) {
+    if (pad == standaardinvoer) {
+        return leesStandaardinvoer();
+    }
+    const kern::Opening bron = kern::openStroom(pad);
+    kern::Bytes bytes;
+    const auto fout = bron.fout ? bron.fout : leesVerder(bron.bestand.geefKanaal(), bytes);
+    if (fout) {
+        gooi(pad, "gelezen", fout);
+    }
+    return bytes;
+}
+
 Inhoud leesInhoud(const std::string& pad) {
     Inhoud inhoud;
     if (pad == standaardinvoer) {
         inhoud.rechten = perms::owner_read | perms::owner_write | perms::group_read | perms::group_write |
                          perms::others_read | perms::others_write;
-        if (const auto fout = leesVerder(kern::invoerkanaal, inhoud.bytes)) {
-            gooi("standaardinvoer", "gelezen", fout);
-        }
+        inhoud.bytes = leesStandaardinvoer();
         return inhoud;
     }
     const kern::Opening bron = kern::openBron(pad);
@@ -136,7 +155,7 @@ bool isEerdereUitvoer(const std::string& pad, Uitvoersoort soort) {
            aantekening == maakAantekening(soort, kenmerken);
 }
 
-void vervangTerPlaatse(const std::string& pad, const Stukken& stukken) {
+kern::Verlies vervangTerPlaatse(const std::string& pad, const Stukken& stukken) {
     std::error_code storing;
     kern::Kenmerken oud;
     const std::string echt = kern::geefEchtPad(pad, storing);
@@ -159,6 +178,7 @@ void vervangTerPlaatse(const std::string& pad, const Stukken& stukken) {
     if (const auto fout = nieuw.vervang(oud)) {
         gooi(pad, "vervangen", fout);
     }
+    return nieuw.geefVerlies();
 }
 
 }  // namespace cli

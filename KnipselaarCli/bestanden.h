@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "Knipselaar/kern/bytes.h"
+#include "Knipselaar/kern/systeem/verlies.h"
 
 namespace cli {
 
@@ -29,6 +30,9 @@ struct Inhoud {
 /// Leest een gewoon bestand, of de standaardinvoer.
 Inhoud leesInhoud(const std::string& pad);
 
+/// Leest een tekst die de gebruiker als optie noemt: een bestand, de standaardinvoer, of een pijp van de shell.
+kern::Bytes leesStroom(const std::string& pad);
+
 /// Wat voor run een bestand schreef; een bestand van dezelfde soort mag zonder vragen vernieuwd worden.
 enum class Uitvoersoort { bestand, directory, boom };
 
@@ -43,7 +47,8 @@ void schrijfUitvoer(const std::string& pad, const Stukken& stukken, std::filesys
 bool isEerdereUitvoer(const std::string& pad, Uitvoersoort soort);
 
 /// Vervangt de inhoud van een bestand zoals het venster dat in een boom doet; een link blijft een link.
-void vervangTerPlaatse(const std::string& pad, const Stukken& stukken);
+/// @return  wat het bestand daarbij niet kon houden.
+kern::Verlies vervangTerPlaatse(const std::string& pad, const Stukken& stukken);
 
 /// Schrijft alles naar een open kanaal. Gooit Fout met alleen de reden.
 void schrijfAlles(int kanaal, const Stukken& stukken);

@@ -3,24 +3,17 @@
 #include <algorithm>
 #include <functional>
 
+#include "Knipselaar/kern/regelOmzetter.h"
+#include "Knipselaar/kern/systeem/onderbreking.h"
 #include "Knipselaar/kern/systeem/paden.h"
 #include "KnipselaarCli/bestanden.h"
 #include "KnipselaarCli/boom.h"
-#include "KnipselaarCli/brontekst.h"
+#include "KnipselaarCli/fout.h"
+#include "KnipselaarCli/links.h"
 
 namespace cli {
 
 namespace {
-
-/// Roept iets aan met elke regel, zonder haar regeleinde; de eerste heeft dit nummer.
-template <typename Doe>
-void loopRegelsAf(std::string_view tekst, std::size_t nummer, const Doe& doe) {
-    for (; !tekst.empty(); ++nummer) {
-        const std::size_t einde = std::min(tekst.find('\n'), tekst.size());
-        doe(nummer, tekst.substr(0, einde));
-        tekst.remove_prefix(std::min(einde + 1, tekst.size()));
-    }
-}
 
 std::string_view snoei(std::string_view regel) {
     constexpr std::string_view blanco = " \t\v\f\r";
@@ -36,89 +29,179 @@ std::size_t telTekens(std::string_view tekst) {
     }));
 }
 
+Regelmerk maakMerk(std::string_view regel) {
+    return std::hash<std::string_view>()(regel);
+}
+
+/// Roept iets aan met het nummer en de inhoud van elke regel, zonder haar regeleinde.
+template <typename Doe>
+void loopRegelsAf(std::string_view tekst, const Doe& doe) {
+    for (std::size_t nummer = 1; !tekst.empty(); ++nummer) {
+        const std::size_t einde = std::min(tekst.find('\n'), tekst.size());
+        doe(nummer, tekst.substr(0, einde));
+        tekst.remove_prefix(std::min(einde + 1, tekst.size()));
+    }
+}
+
+/// Geeft de regels van een brontekst zoals de kern ze leest. Wat nog rauw is wordt regel voor regel omgezet:
+/// zo kost dat geen geheugen.
+class RegelLezer {
+  public:
+    explicit RegelLezer(const Brontekst& bron) : rauw_(bron.isRauw()) {}
+
+    /// @param regel  de volgende regel, met haar regeleinde.
+    /// @return       zonder; geldig tot de volgende aanroep.
+    std::string_view lees(std::string_view regel) {
+        if (!rauw_) {
+            return regel.substr(0, regel.size() - 1);
+        }
+        omgezet_.clear();
+        omzetter_.zetOm(regel, omgezet_);
+        return std::string_view(omgezet_).substr(0, omgezet_.size() - 1);
+    }
+
+  private:
+    bool rauw_;
+    kern::RegelOmzetter omzetter_;
+    std::string omgezet_;
+};
+
 }  // namespace
 
-Bewijsstof verzamelStof(std::string_view tekst, std::span<const kern::Blok> blokken, std::size_t lengte) {
+Bewijsstof verzamelStof(const Brontekst& bron, std::span<const kern::Blok> blokken,
+                        std::span<const kern::Markerpaar> paren, std::size_t lengte) {
     Bewijsstof stof;
+    RegelLezer lezer(bron);
+    const auto neemWeg = [&](std::size_t nummer, std::string_view inhoud) {
+        const std::string_view kern = snoei(inhoud);
+        if (telTekens(kern) > lengte) {
+            stof.weg.push_back({.merk = maakMerk(kern), .regel = nummer});
+        }
+    };
+    const auto neemNaast = [&](std::size_t nummer, std::string_view inhoud) {
+        for (const kern::Markerpaar& paar : paren) {
+            for (const kern::MarkerMasker* marker : {&paar.begin, &paar.eind}) {
+                if (marker->past(inhoud)) {
+                    const auto [ervoor, erachter] = marker->geefOmheen(inhoud);
+                    neemWeg(nummer, ervoor);
+                    neemWeg(nummer, erachter);
+                }
+            }
+        }
+    };
+    const std::string_view tekst = bron.geefTekst();
+    auto blok = blokken.begin();
     std::size_t nummer = 1;
-    std::size_t plek = 0;
-    const auto neem = [&](std::size_t eind, const auto& bewaar) {
-        loopRegelsAf(tekst.substr(plek, eind - plek), nummer,
-                     [&](std::size_t regel, std::string_view inhoud) {
-                         const std::string_view kern = snoei(inhoud);
-                         if (telTekens(kern) > lengte) {
-                             bewaar(regel, kern);
-                         }
-                         nummer = regel + 1;
-                     });
-        plek = eind;
-    };
-    const auto gebleven = [&stof](std::size_t, std::string_view regel) { stof.gebleven.emplace_back(regel); };
-    const auto weg = [&stof](std::size_t nr, std::string_view regel) {
-        stof.weg.push_back({.regel = nr, .tekst = std::string(regel)});
-    };
-    const auto marker = [](std::size_t, std::string_view) {};
-    for (const kern::Blok& blok : blokken) {
-        neem(blok.begin.begin, gebleven);
-        neem(blok.begin.eind, marker);
-        neem(blok.eind.begin, weg);
-        neem(blok.eind.eind, marker);
+    for (std::size_t plek = 0; plek < tekst.size(); ++nummer) {
+        const std::size_t volgende = tekst.find('\n', plek) + 1;
+        const std::string_view inhoud = lezer.lees(tekst.substr(plek, volgende - plek));
+        if (blok == blokken.end() || plek < blok->begin.begin) {
+            const std::string_view kern = snoei(inhoud);
+            if (telTekens(kern) > lengte) {
+                stof.gebleven.push_back(maakMerk(kern));
+            }
+        } else if (plek == blok->begin.begin) {
+            neemNaast(nummer, inhoud);
+        } else if (plek < blok->eind.begin) {
+            neemWeg(nummer, inhoud);
+        } else {
+            neemNaast(nummer, inhoud);
+            ++blok;
+        }
+        plek = volgende;
     }
-    neem(tekst.size(), gebleven);
     return stof;
 }
 
-void Bewijs::neem(const std::string& bron, Bewijsstof stof) {
-    for (WegRegel& regel : stof.weg) {
-        weg_.try_emplace(std::move(regel.tekst), bron + ":" + std::to_string(regel.regel));
+void Bewijs::neem(const std::string& bron, const Bewijsstof& stof) {
+    const auto nummer = static_cast<std::uint32_t>(bronnen_.size());
+    bronnen_.push_back(bron);
+    for (const WegRegel& regel : stof.weg) {
+        weg_.push_back(
+            {.merk = regel.merk, .bron = nummer, .regel = static_cast<std::uint32_t>(regel.regel)});
     }
-    for (std::string& regel : stof.gebleven) {
-        toegelaten_.insert(std::move(regel));
-    }
+    toegelaten_.insert(toegelaten_.end(), stof.gebleven.begin(), stof.gebleven.end());
 }
 
 void Bewijs::laatToe(std::string_view tekst) {
-    loopRegelsAf(tekst, 1, [this](std::size_t, std::string_view regel) {
-        toegelaten_.insert(std::string(snoei(regel)));
+    loopRegelsAf(tekst, [this](std::size_t, std::string_view regel) {
+        toegelaten_.push_back(maakMerk(snoei(regel)));
     });
 }
 
-std::vector<Bewijsvondst> Bewijs::leesNa(const std::string& plaats) const {
-    std::vector<Bewijsvondst> vondsten;
+void Bewijs::sluitAf() {
+    std::sort(weg_.begin(), weg_.end());
+    std::sort(toegelaten_.begin(), toegelaten_.end());
+    const auto einde = std::unique(weg_.begin(), weg_.end(),
+                                   [](const auto& een, const auto& ander) { return een.merk == ander.merk; });
+    weg_.erase(einde, weg_.end());
+}
+
+Nalezing Bewijs::leesNa(const std::string& plaats) const {
+    Nalezing uit;
     kern::Kenmerken kenmerken;
     if (kern::leesKenmerken(plaats, kenmerken) || kenmerken.soort != kern::Bestandssoort::directory) {
-        leesBestandNa(plaats, vondsten);
-        return vondsten;
+        leesBestandNa(plaats, uit);
+    } else {
+        leesDirectoryNa(plaats, uit);
     }
-    for (const Boomdeel& deel :
-         loopAf(plaats, {.recursief = true, .verborgen = true, .versiebeheer = false})) {
+    return uit;
+}
+
+void Bewijs::leesDirectoryNa(const std::string& plaats, Nalezing& uit) const {
+    const LoopWens wens{.recursief = true, .verborgen = true, .versiebeheer = false};
+    const auto delen =
+        loopAf(plaats, wens, [&uit](const Fout& fout) { uit.storingen.emplace_back(fout.what()); });
+    for (const Boomdeel& deel : delen) {
+        const std::string pad = kern::plak(plaats, deel.pad);
         if (deel.soort == kern::Bestandssoort::bestand) {
-            leesBestandNa(kern::plak(plaats, deel.pad), vondsten);
+            leesBestandNa(pad, uit);
+        } else if (deel.soort == kern::Bestandssoort::link &&
+                   volgLink(plaats, deel.pad).uitkomst == Linkuitkomst::erbuiten) {
+            uit.vondsten.push_back(
+                {.pad = pad, .regel = 0, .tekst = "is een link die buiten " + plaats + " uitkomt"});
         }
     }
-    return vondsten;
 }
 
-void Bewijs::leesBestandNa(const std::string& pad, std::vector<Bewijsvondst>& vondsten) const {
-    const Brontekst inhoud(leesInhoud(pad).bytes, Lezing::tekst);
-    loopRegelsAf(inhoud.geefTekst(), 1, [&](std::size_t nummer, std::string_view regel) {
-        if (draagtMarker(regel)) {
-            vondsten.push_back({.pad = pad, .regel = nummer, .tekst = "er staat nog een markerregel"});
-            return;
-        }
-        const std::string kern(snoei(regel));
-        const auto weg = weg_.find(kern);
-        if (weg != weg_.end() && !toegelaten_.contains(kern)) {
-            vondsten.push_back(
-                {.pad = pad, .regel = nummer, .tekst = "hier staat de weggelaten regel van " + weg->second});
-        }
-    });
+void Bewijs::leesBestandNa(const std::string& pad, Nalezing& uit) const {
+    if (kern::isOnderbroken()) {
+        return;
+    }
+    try {
+        const Brontekst inhoud(leesInhoud(pad).bytes, Lezing::tekst);
+        loopRegelsAf(inhoud.geefTekst(), [&](std::size_t nummer, std::string_view regel) {
+            std::string tekst = beoordeel(regel);
+            if (!tekst.empty()) {
+                uit.vondsten.push_back({.pad = pad, .regel = nummer, .tekst = std::move(tekst)});
+            }
+        });
+    } catch (const std::exception& fout) {
+        uit.storingen.emplace_back(fout.what());
+    }
 }
 
-bool Bewijs::draagtMarker(std::string_view regel) const {
-    return std::any_of(paren_.begin(), paren_.end(), [regel](const kern::Markerpaar& paar) {
-        return paar.begin.past(regel) || paar.eind.past(regel);
-    });
+/// Wat er over een regel van de bestemming te melden is; leeg als zij er mag staan.
+std::string Bewijs::beoordeel(std::string_view regel) const {
+    if (markers_.draagtMarker(regel)) {
+        return "er staat nog een markerregel";
+    }
+    if (markers_.lijktOpMarker(regel)) {
+        return "er staat een regel die bijna een marker is";
+    }
+    const std::string_view kern = snoei(regel);
+    if (weg_.empty() || telTekens(kern) <= lengte_) {
+        return {};
+    }
+    const Regelmerk merk = maakMerk(kern);
+    const auto weg =
+        std::lower_bound(weg_.begin(), weg_.end(), merk,
+                         [](const Weggevallen& regelWeg, Regelmerk gezocht) { return regelWeg.merk < gezocht; });
+    if (weg == weg_.end() || weg->merk != merk ||
+        std::binary_search(toegelaten_.begin(), toegelaten_.end(), merk)) {
+        return {};
+    }
+    return "hier staat de weggelaten regel van " + bronnen_[weg->bron] + ":" + std::to_string(weg->regel);
 }
 
 }  // namespace cli

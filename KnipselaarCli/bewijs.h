@@ -1,64 +1,91 @@
 #pragma once
 
-// Het bewijs dat er in een bestemming niets van de oplossing staat: geen markerregel, en geen regel die bij
-// het knippen wegviel en niet ook buiten een blok staat.
+// Het bewijs dat er in een bestemming niets van de oplossing staat: geen markerregel, geen regel die bij het
+// knippen wegviel en niet ook buiten een blok staat, en geen link die ergens anders uitkomt.
 
-#include <map>
+#include <cstddef>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
+#include "KnipselaarCli/brontekst.h"
 #include "KnipselaarCli/ontleding.h"
 
 namespace cli {
 
+/// Waar een regel aan te herkennen is. Een bron van een gigabyte heeft er tientallen miljoenen; ze zelf
+/// bewaren kost meer geheugen dan het bestand. Dat twee verschillende regels hetzelfde merk hebben, komt bij
+/// 64 bits niet voor.
+using Regelmerk = std::uint64_t;
+
 /// Een regel die wegviel, zonder de blanco tekens eromheen.
 struct WegRegel {
+    Regelmerk merk;
     std::size_t regel;
-    std::string tekst;
 };
 
 /// Wat één bestand aan het bewijs bijdraagt. Beide alleen de regels die lang genoeg zijn.
 struct Bewijsstof {
     std::vector<WegRegel> weg;
-    std::vector<std::string> gebleven;
+    std::vector<Regelmerk> gebleven;
 };
 
+/// @param paren   van de ontleding die de blokken gaf: wat er op een markerregel naast de marker staat, valt
+///                ook weg.
 /// @param lengte  regels van meer dan zoveel tekens tellen, de blanco tekens eromheen niet meegerekend.
-Bewijsstof verzamelStof(std::string_view tekst, std::span<const kern::Blok> blokken, std::size_t lengte);
+Bewijsstof verzamelStof(const Brontekst& bron, std::span<const kern::Blok> blokken,
+                        std::span<const kern::Markerpaar> paren, std::size_t lengte);
 
 /// Een plaats in de bestemming waar iets staat dat er niet hoort.
 struct Bewijsvondst {
     std::string pad;
-    std::size_t regel;
+    std::size_t regel;  ///< vanaf 1; 0 als het om het bestand zelf gaat
     std::string tekst;
+};
+
+/// Wat het nalezen van een plaats opleverde.
+struct Nalezing {
+    std::vector<Bewijsvondst> vondsten;
+    std::vector<std::string> storingen;  ///< wat niet te lezen was, met de reden
 };
 
 class Bewijs {
   public:
-    Bewijs(std::span<const kern::Markerpaar> paren, std::size_t lengte) : paren_(paren), lengte_(lengte) {}
+    Bewijs(const kern::MarkerReeks& markers, std::size_t lengte) : markers_(markers), lengte_(lengte) {}
 
     /// Voegt de stof van een bestand toe.
-    void neem(const std::string& bron, Bewijsstof stof);
+    void neem(const std::string& bron, const Bewijsstof& stof);
 
     /// Regels van deze tekst horen in de bestemming.
     void laatToe(std::string_view tekst);
 
+    /// Er komt geen stof meer.
+    void sluitAf();
+
     /// Leest een bestand of alle bestanden van een directory na, ook verborgen bestanden; niet de
-    /// geschiedenis van een versiebeheer. Gooit Fout als er iets niet te lezen is.
-    std::vector<Bewijsvondst> leesNa(const std::string& plaats) const;
+    /// geschiedenis van een versiebeheer. Pas na sluitAf. Wat niet te lezen is houdt de rest niet op.
+    Nalezing leesNa(const std::string& plaats) const;
 
   private:
-    void leesBestandNa(const std::string& pad, std::vector<Bewijsvondst>& vondsten) const;
-    bool draagtMarker(std::string_view regel) const;
+    struct Weggevallen {
+        Regelmerk merk;
+        std::uint32_t bron;
+        std::uint32_t regel;
 
-    std::span<const kern::Markerpaar> paren_;
+        auto operator<=>(const Weggevallen&) const = default;
+    };
+
+    void leesBestandNa(const std::string& pad, Nalezing& uit) const;
+    void leesDirectoryNa(const std::string& plaats, Nalezing& uit) const;
+    std::string beoordeel(std::string_view regel) const;
+
+    const kern::MarkerReeks& markers_;
     std::size_t lengte_;
-    std::unordered_map<std::string, std::string> weg_;  ///< met de plaats waar de regel wegviel
-    std::unordered_set<std::string> toegelaten_;
+    std::vector<std::string> bronnen_;
+    std::vector<Weggevallen> weg_;  ///< na sluitAf op merk, van elk merk alleen de eerste plaats
+    std::vector<Regelmerk> toegelaten_;
 };
 
 }  // namespace cli

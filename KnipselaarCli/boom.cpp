@@ -5,8 +5,8 @@
 #include <filesystem>
 
 #include "Knipselaar/kern/systeem/directory.h"
+#include "Knipselaar/kern/systeem/onderbreking.h"
 #include "Knipselaar/kern/systeem/paden.h"
-#include "KnipselaarCli/fout.h"
 
 namespace cli {
 
@@ -14,47 +14,69 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// Of een versiebeheer hier zijn geschiedenis bewaart. In een werkkopie naast de eerste, of in een module in een
+/// ander project, is .git een bestand dat zegt waar zij staat.
+bool isVersiebeheer(const kern::Deel& deel) {
+    constexpr std::array<std::string_view, 7> namen{".git",    ".svn",   ".hg", ".bzr",
+                                                    ".fossil", "_darcs", "CVS"};
+    return deel.naam == namen.front() || (deel.soort == kern::Bestandssoort::directory &&
+                                          std::find(namen.begin(), namen.end(), deel.naam) != namen.end());
+}
+
 bool hoortErbij(const kern::Deel& deel, const LoopWens& wens) {
-    if (deel.soort == kern::Bestandssoort::directory && isVersiebeheer(deel.naam)) {
-        return wens.versiebeheer;
-    }
-    return wens.verborgen || !deel.verborgen;
+    return isVersiebeheer(deel) ? wens.versiebeheer : wens.verborgen || !deel.verborgen;
 }
 
-std::vector<kern::Deel> lees(const std::string& directory, const LoopWens& wens) {
-    std::vector<kern::Deel> delen;
-    if (const auto fout = kern::leesDirectory(directory, delen)) {
-        throw Fout(directory + ": kan niet gelezen worden: " + noemReden(fout));
-    }
-    std::erase_if(delen, [&wens](const kern::Deel& deel) { return !hoortErbij(deel, wens); });
-    std::sort(delen.begin(), delen.end(),
-              [](const kern::Deel& a, const kern::Deel& b) { return a.naam < b.naam; });
-    return delen;
-}
+class Loper {
+  public:
+    Loper(const std::string& wortel, const LoopWens& wens, const std::function<void(const Fout&)>& opStoring)
+        : wortel_(wortel), wens_(wens), opStoring_(opStoring) {}
 
-void loop(const std::string& wortel, const std::string& voor, const LoopWens& wens,
-          std::vector<Boomdeel>& uit) {
-    for (const kern::Deel& deel : lees(kern::plak(wortel, voor), wens)) {
-        const std::string pad = kern::plak(voor, deel.naam);
-        uit.push_back({.pad = pad, .soort = deel.soort});
-        if (wens.recursief && deel.soort == kern::Bestandssoort::directory) {
-            loop(wortel, pad, wens, uit);
+    std::vector<Boomdeel> loopAf() {
+        loop("");
+        return std::move(uit_);
+    }
+
+  private:
+    void loop(const std::string& voor) {
+        for (const kern::Deel& deel : lees(kern::plak(wortel_, voor))) {
+            const std::string pad = kern::plak(voor, deel.naam);
+            uit_.push_back({.pad = pad, .soort = deel.soort});
+            if (wens_.recursief && deel.soort == kern::Bestandssoort::directory) {
+                loop(pad);
+            }
         }
     }
-}
+
+    std::vector<kern::Deel> lees(const std::string& directory) const {
+        if (kern::isOnderbroken()) {
+            throw Fout(noemReden(std::make_error_code(std::errc::interrupted)));
+        }
+        std::vector<kern::Deel> delen;
+        if (const auto fout = kern::leesDirectory(directory, delen)) {
+            opStoring_(Fout(directory + ": kan niet gelezen worden: " + noemReden(fout)));
+        }
+        std::erase_if(delen, [this](const kern::Deel& deel) { return !hoortErbij(deel, wens_); });
+        std::sort(delen.begin(), delen.end(),
+                  [](const kern::Deel& a, const kern::Deel& b) { return a.naam < b.naam; });
+        return delen;
+    }
+
+    const std::string& wortel_;
+    const LoopWens& wens_;
+    const std::function<void(const Fout&)>& opStoring_;
+    std::vector<Boomdeel> uit_;
+};
 
 }  // namespace
 
-bool isVersiebeheer(std::string_view naam) {
-    constexpr std::array<std::string_view, 7> namen{".git",    ".svn",   ".hg", ".bzr",
-                                                    ".fossil", "_darcs", "CVS"};
-    return std::find(namen.begin(), namen.end(), naam) != namen.end();
+std::vector<Boomdeel> loopAf(const std::string& directory, const LoopWens& wens,
+                             const std::function<void(const Fout&)>& opStoring) {
+    return Loper(directory, wens, opStoring).loopAf();
 }
 
 std::vector<Boomdeel> loopAf(const std::string& directory, const LoopWens& wens) {
-    std::vector<Boomdeel> delen;
-    loop(directory, "", wens, delen);
-    return delen;
+    return loopAf(directory, wens, [](const Fout& fout) { throw fout; });
 }
 
 std::string maakEcht(const std::string& pad) {

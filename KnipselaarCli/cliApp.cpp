@@ -19,9 +19,12 @@ namespace {
 /// Zoveel bestanden per draad maken het starten van een draad de moeite waard.
 constexpr std::size_t bestandenPerDraad = 8;
 
+/// Meer draden dan dit maken geen enkele machine sneller.
+constexpr std::size_t meesteDraden = 256;
+
 std::size_t kiesDraden(const Opties& opties, std::size_t taken) {
     if (opties.taken > 0) {
-        return std::min(opties.taken, taken);
+        return std::min({opties.taken, taken, meesteDraden});
     }
     return std::min<std::size_t>(std::thread::hardware_concurrency(), taken / bestandenPerDraad);
 }
@@ -37,9 +40,12 @@ class Run {
 
     Afloop voerUit() {
         for (const std::string& waarschuwing : plan_.waarschuwingen) {
-            melder_.meldRun(waarschuwing, opties_.streng ? Ernst::fout : Ernst::waarschuwing);
+            meldOpmerking(waarschuwing, opties_.streng);
         }
-        verslag_.neemOpmerkingen(plan_.waarschuwingen);
+        if (plan_.teKnippen == 0) {
+            meldOpmerking("er is geen bestand gekozen om te knippen; kijk --keuze en --masker na",
+                          opties_.streng || opties_.bewijs);
+        }
         const auto grens = std::find_if(plan_.taken.begin(), plan_.taken.end(), [](const Taak& taak) {
             return taak.handeling != Handeling::maakDirectory;
         });
@@ -50,8 +56,12 @@ class Run {
         if (kern::isOnderbroken()) {
             return misbruikOfStoring;
         }
+        keurBlokken();
         if (opties_.bewijs) {
             bewijs();
+        }
+        if (kern::isOnderbroken()) {
+            return misbruikOfStoring;
         }
         const Afloop afloop = verslag_.geefAfloop();
         const std::string einde = verslag_.sluitAf(afloop);
@@ -62,6 +72,23 @@ class Run {
     }
 
   private:
+    void meldOpmerking(const std::string& tekst, bool isFout) {
+        const Ernst ernst = isFout ? Ernst::fout : Ernst::waarschuwing;
+        melder_.meldRun(tekst, ernst);
+        verslag_.neemOpmerking(tekst, ernst);
+    }
+
+    /// Een run zonder blok is bijna zeker een run met de verkeerde markers. Ging er iets mis, dan kan daar een
+    /// blok in gezeten hebben.
+    void keurBlokken() {
+        const Tellingen& tellingen = verslag_.geefTellingen();
+        if (plan_.teKnippen > 0 && tellingen.gevonden == 0 && tellingen.mislukt == 0 &&
+            tellingen.tegengehouden == 0) {
+            meldOpmerking("er is nergens een blok gevonden; kijk de markers na",
+                          opties_.streng || opties_.bewijs);
+        }
+    }
+
     void doeTaken(std::size_t eerste, std::size_t voorbij, std::size_t draden) {
         const std::size_t aantal = voorbij - eerste;
         Ploeg<Uitslag> ploeg(
@@ -72,7 +99,9 @@ class Run {
             [] { return !kern::isOnderbroken(); });
         ploeg.werk(draden, [&](std::size_t i, const Uitslag& uitslag) {
             neem(plan_.taken[eerste + i], uitslag);
-            melder_.meldVoortgang(i + 1, aantal);
+            if (plan_.taken[eerste].handeling != Handeling::maakDirectory) {
+                melder_.meldVoortgang(i + 1, aantal);
+            }
         });
     }
 
@@ -98,13 +127,17 @@ class Run {
         for (const std::string& vervanging : teksten_.vervanging) {
             bewijs_.laatToe(vervanging);
         }
+        bewijs_.sluitAf();
         for (const std::string& plaats : plan_.nalezen) {
-            const std::vector<Bewijsvondst> vondsten = bewijs_.leesNa(plaats);
-            for (const Bewijsvondst& vondst : vondsten) {
+            const Nalezing nalezing = bewijs_.leesNa(plaats);
+            for (const Bewijsvondst& vondst : nalezing.vondsten) {
                 melder_.meld(vondst.pad,
                              {.regel = vondst.regel, .ernst = Ernst::fout, .tekst = vondst.tekst});
             }
-            verslag_.neem(vondsten);
+            for (const std::string& storing : nalezing.storingen) {
+                melder_.meldRun(storing, Ernst::fout);
+            }
+            verslag_.neem(nalezing);
         }
     }
 
@@ -113,8 +146,26 @@ class Run {
     Teksten teksten_;
     Plan plan_;
     Verslag verslag_{opties_};
-    Bewijs bewijs_{teksten_.markers.geefParen(), opties_.bewijsLengte};
+    Bewijs bewijs_{teksten_.markers, opties_.bewijsLengte};
 };
+
+/// Wat een hele run tegenhield. Wie om JSON vroeg krijgt ook dan een verslag.
+void meldEinde(const std::string& reden, bool json) {
+    Melder melder(false);
+    melder.meldRun(reden, Ernst::fout);
+    if (!json) {
+        return;
+    }
+    Opties opties;
+    opties.json = true;
+    Verslag verslag(opties);
+    verslag.neemOpmerking(reden, Ernst::fout);
+    try {
+        melder.schrijf(verslag.sluitAf(misbruikOfStoring));
+    } catch (const Fout& fout) {
+        melder.meldRun(fout.what(), Ernst::fout);
+    }
+}
 
 Afloop voerUit(const std::vector<std::string>& woorden) {
     try {
@@ -131,7 +182,7 @@ Afloop voerUit(const std::vector<std::string>& woorden) {
         return Run(opties, melder).voerUit();
     } catch (const std::exception& fout) {
         if (!kern::isOnderbroken()) {
-            Melder(false).meldRun(fout.what(), Ernst::fout);
+            meldEinde(fout.what(), vraagtJson(woorden));
         }
         return misbruikOfStoring;
     }

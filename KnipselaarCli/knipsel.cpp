@@ -157,7 +157,9 @@ std::vector<Wijziging> Knipsel::geefWijzigingen() {
     std::size_t plek = 0;
     for (const kern::Blok& blok : ontleding_.blokken) {
         vergelijkRegels({plek, blok.begin.begin}, uit);
-        uit.push_back({.begin = bron_.naarRuw(blok.begin.begin),
+        // Op de manier van het venster gaat het merkteken van een eerste regel mee weg.
+        const bool metMerkteken = wens_.manier == Manier::venster && blok.begin.begin == 0;
+        uit.push_back({.begin = metMerkteken ? 0 : bron_.naarRuw(blok.begin.begin),
                        .eind = bron_.naarRuw(blok.eind.eind),
                        .nieuw = geefVervanging(blok)});
         plek = blok.eind.eind;

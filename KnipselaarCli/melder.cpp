@@ -7,6 +7,7 @@
 #include "Knipselaar/kern/systeem/bestand.h"
 #include "KnipselaarCli/bestanden.h"
 #include "KnipselaarCli/fout.h"
+#include "KnipselaarCli/leesbaar.h"
 
 namespace cli {
 
@@ -27,12 +28,25 @@ bool magKleur() {
            terminal != nullptr && std::string_view(terminal) != "dumb";
 }
 
+/// Minuten en seconden, met de uren ervoor als die er zijn.
 std::string noemDuur(std::chrono::seconds duur) {
-    constexpr int perMinuut = 60;
+    constexpr long long per = 60;
+    const auto alles = static_cast<long long>(duur.count());
     std::array<char, 32> tekst{};
-    std::snprintf(tekst.data(), tekst.size(), "%lld:%02lld", static_cast<long long>(duur.count() / perMinuut),
-                  static_cast<long long>(duur.count() % perMinuut));
+    if (alles < per * per) {
+        std::snprintf(tekst.data(), tekst.size(), "%lld:%02lld", alles / per, alles % per);
+    } else {
+        std::snprintf(tekst.data(), tekst.size(), "%lld:%02lld:%02lld", alles / per / per, alles / per % per,
+                      alles % per);
+    }
     return tekst.data();
+}
+
+/// Of er genoeg gedaan is om te zeggen hoe lang de rest duurt.
+bool kanSchatten(std::size_t gedaan, std::size_t totaal) {
+    constexpr std::size_t genoeg = 100;
+    constexpr std::size_t deel = 20;
+    return gedaan >= genoeg || gedaan >= totaal / deel;
 }
 
 }  // namespace
@@ -41,7 +55,8 @@ Melder::Melder(bool stil)
     : stil_(stil), kleur_(magKleur()), voortgang_(!stil && kern::isTerminal(kern::foutkanaal)) {}
 
 void Melder::meld(std::string_view pad, const Melding& melding) {
-    schrijfMelding(std::string(pad) + ":" + std::to_string(melding.regel), melding.ernst, melding.tekst);
+    const std::string regel = melding.regel == 0 ? std::string() : ":" + std::to_string(melding.regel);
+    schrijfMelding(std::string(pad) + regel, melding.ernst, melding.tekst);
 }
 
 void Melder::meldRun(std::string_view tekst, Ernst ernst) {
@@ -56,12 +71,12 @@ void Melder::schrijfMelding(std::string_view voor, Ernst ernst, std::string_view
     const std::string_view naam = ernst == Ernst::fout ? "fout" : "waarschuwing";
     const std::string_view aan = !kleur_ ? "" : ernst == Ernst::fout ? "\x1b[1;31m" : "\x1b[1;35m";
     const std::string_view uit = kleur_ ? "\x1b[0m" : "";
-    std::string regel(voor);
+    std::string regel = maakLeesbaar(voor);
     for (const std::string_view deel :
-         {std::string_view(": "), aan, naam, std::string_view(":"), uit, std::string_view(" "), tekst}) {
+         {std::string_view(": "), aan, naam, std::string_view(":"), uit, std::string_view(" ")}) {
         regel += deel;
     }
-    schrijfFoutkanaal(regel + "\n");
+    schrijfFoutkanaal(regel + maakLeesbaar(tekst) + "\n");
 }
 
 void Melder::schrijf(std::string_view tekst) {
@@ -80,11 +95,12 @@ void Melder::meldVoortgang(std::size_t gedaan, std::size_t totaal) {
     }
     getoond_ = nu;
     zichtbaar_ = true;
-    const auto nog = (nu - begin_) * (totaal - gedaan) / gedaan;
-    std::string regel = "\r";
-    regel += std::to_string(gedaan) + "/" + std::to_string(totaal) + " bestanden, nog ";
-    regel += noemDuur(std::chrono::ceil<std::chrono::seconds>(nog)) + "\x1b[K";
-    schrijfFoutkanaal(regel);
+    std::string regel = "\r" + std::to_string(gedaan) + "/" + std::to_string(totaal) + " bestanden";
+    if (kanSchatten(gedaan, totaal)) {
+        const auto nog = (nu - begin_) * (totaal - gedaan) / gedaan;
+        regel += ", nog " + noemDuur(std::chrono::ceil<std::chrono::seconds>(nog));
+    }
+    schrijfFoutkanaal(regel + "\x1b[K");
 }
 
 void Melder::wisVoortgang() {

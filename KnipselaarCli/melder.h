@@ -16,10 +16,10 @@ class Melder {
     /// @param stil  alleen fouten.
     explicit Melder(bool stil);
 
-    /// "bestand:regel: fout: tekst", de vorm die editors en vertalers kennen.
+    /// "bestand:regel: fout: tekst", de vorm die editors en vertalers kennen; zonder regel als die er niet is.
     void meld(std::string_view pad, const Melding& melding);
 
-    /// Iets over de run als geheel, of over een bestand waar geen regel bij te noemen is.
+    /// Iets over de run als geheel, of een storing die zelf zegt waar.
     void meldRun(std::string_view tekst, Ernst ernst);
 
     /// Een uitkomst. Gooit Fout als de standaarduitvoer haar niet wil.

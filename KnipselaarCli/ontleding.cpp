@@ -8,7 +8,7 @@ namespace cli {
 namespace {
 
 /// Niets als er in de console niets over te zeggen is.
-std::optional<Melding> maakMelding(const kern::Bevinding& bevinding) {
+std::optional<Melding> maakMelding(const kern::Bevinding& bevinding, Ernst bijna) {
     const std::string waar = " in het blok van regel " + std::to_string(bevinding.blokBegin);
     switch (bevinding.soort) {
         case kern::Soort::leegBlok:
@@ -22,6 +22,10 @@ std::optional<Melding> maakMelding(const kern::Bevinding& bevinding) {
         case kern::Soort::anderBeginInBlok:
             return Melding{bevinding.regel, Ernst::waarschuwing,
                            "beginmarker van een ander paar" + waar + "; hij verdwijnt mee"};
+        case kern::Soort::bijnaBegin:
+            return maakBijnaMelding(bevinding.regel, kern::Gelijkenis::begin, bijna);
+        case kern::Soort::bijnaEind:
+            return maakBijnaMelding(bevinding.regel, kern::Gelijkenis::eind, bijna);
         default:
             return std::nullopt;
     }
@@ -34,12 +38,17 @@ bool Ontleding::heeftFout() const {
                        [](const Melding& melding) { return melding.ernst == Ernst::fout; });
 }
 
-Ontleding ontleed(std::string_view tekst, const kern::MarkerReeks& markers) {
+Melding maakBijnaMelding(std::size_t regel, kern::Gelijkenis lijktOp, Ernst ernst) {
+    const std::string welke = lijktOp == kern::Gelijkenis::begin ? "beginmarker" : "eindmarker";
+    return {.regel = regel, .ernst = ernst, .tekst = "bijna een " + welke + "; zo telt hij niet"};
+}
+
+Ontleding ontleed(std::string_view tekst, const kern::MarkerReeks& markers, Ernst bijna) {
     Ontleding uitslag;
     kern::Ontleder ontleder(markers, [&uitslag](const kern::Blok& blok) { uitslag.blokken.push_back(blok); });
     ontleder.neem(tekst);
     for (const kern::Bevinding& bevinding : ontleder.maakAf().lijst) {
-        if (auto melding = maakMelding(bevinding)) {
+        if (auto melding = maakMelding(bevinding, bijna)) {
             uitslag.meldingen.push_back(std::move(*melding));
         }
     }

@@ -15,7 +15,7 @@ enum class Ernst { waarschuwing, fout };
 
 /// Iets dat aan een regel te melden is.
 struct Melding {
-    std::size_t regel;  ///< vanaf 1
+    std::size_t regel;  ///< vanaf 1; 0 als er geen regel bij te noemen is
     Ernst ernst;
     std::string tekst;
 
@@ -29,7 +29,11 @@ struct Ontleding {
     bool heeftFout() const;
 };
 
+/// Over een regel die op een marker lijkt.
+Melding maakBijnaMelding(std::size_t regel, kern::Gelijkenis lijktOp, Ernst ernst);
+
 /// @param tekst  hele regels in UTF-8, elk gesloten door "\n".
-Ontleding ontleed(std::string_view tekst, const kern::MarkerReeks& markers);
+/// @param bijna  hoe erg een regel is die bijna een marker is.
+Ontleding ontleed(std::string_view tekst, const kern::MarkerReeks& markers, Ernst bijna);
 
 }  // namespace cli

@@ -7,6 +7,7 @@
 #include <charconv>
 #include <string_view>
 
+#include "Knipselaar/kern/regeleinden.h"
 #include "KnipselaarCli/bestanden.h"
 #include "KnipselaarCli/fout.h"
 
@@ -109,13 +110,13 @@ std::string vertaal(std::string_view melding) {
 }
 
 std::string leesTekst(const std::string& pad) {
-    std::string tekst(leesInhoud(pad).bytes.geef());
+    const kern::Bytes bytes = leesStroom(pad);
+    std::string_view tekst = bytes.geef();
     constexpr std::string_view merkteken = "\xEF\xBB\xBF";
     if (tekst.starts_with(merkteken)) {
-        tekst.erase(0, merkteken.size());
+        tekst.remove_prefix(merkteken.size());
     }
-    std::erase(tekst, '\r');
-    return tekst;
+    return kern::zetRegeleindenOm(tekst);
 }
 
 void leesMarkers(const std::string& pad, TekstKeuze& teksten) {
@@ -179,7 +180,8 @@ class Verwerker {
     void zet(const std::string& naam, const std::string& waarde) {
         using namespace std::string_view_literals;
         if (naam == "uit") {
-            opties_.uit = neemPad(naam, waarde);
+            opties_.naarStandaarduitvoer = waarde == standaardinvoer;
+            opties_.uit = opties_.naarStandaarduitvoer ? std::nullopt : std::optional(neemPad(naam, waarde));
         } else if (naam == "naar") {
             opties_.naar = neemPad(naam, waarde);
         } else if (naam == "keuze") {
@@ -191,6 +193,10 @@ class Verwerker {
         } else if (naam == "eind") {
             opties_.teksten.eind.push_back(waarde);
         } else if (naam == "markers-uit") {
+            // Anders kwam een marker uit het bestand bij een van de opdrachtregel.
+            if (opties_.teksten.begin.size() != opties_.teksten.eind.size()) {
+                throw Fout("--markers-uit staat tussen een --begin en zijn --eind; zet hem ervoor of erna");
+            }
             leesMarkers(waarde, opties_.teksten);
         } else if (naam == "taal") {
             opties_.taal = kies<Taal>(std::array{"c"sv, "vhdl"sv, "overig"sv}, waarde, naam);
@@ -260,7 +266,7 @@ class Verwerker {
     void zetVervanging(std::string naam, const std::string& waarde) {
         constexpr std::string_view staart = "-uit";
         const bool uitBestand = naam.ends_with(staart);
-        const std::string tekst = uitBestand ? leesTekst(waarde) : waarde;
+        const std::string tekst = uitBestand ? leesTekst(waarde) : kern::zetRegeleindenOm(waarde);
         if (uitBestand) {
             naam.resize(naam.size() - staart.size());
         }
@@ -282,7 +288,9 @@ class Verwerker {
 };
 
 void keurUitgang(const Opties& opties) {
-    if ((opties.uit ? 1 : 0) + (opties.naar ? 1 : 0) + (opties.terPlaatse ? 1 : 0) > 1) {
+    if ((opties.uit || opties.naarStandaarduitvoer ? 1 : 0) + (opties.naar ? 1 : 0) +
+            (opties.terPlaatse ? 1 : 0) >
+        1) {
         throw Fout("--uit, --naar en --ter-plaatse gaan niet samen; kies er één");
     }
     if (opties.bronnen.empty()) {
@@ -303,6 +311,12 @@ void keurUitgang(const Opties& opties) {
 }
 
 void keurSamen(const Opties& opties) {
+    if (opties.keuze && !opties.maskers.empty()) {
+        throw Fout("--keuze en --masker gaan niet samen; met --masker kiest u alles zelf");
+    }
+    if (opties.bewijs && opties.versiebeheer) {
+        throw Fout("--bewijs gaat niet samen met --versiebeheer; in de geschiedenis staat elke oplossing");
+    }
     if (opties.inspringen && opties.manier == Manier::venster) {
         throw Fout("--inspringen gaat niet samen met --als-venster; het venster springt niet in");
     }
@@ -332,7 +346,53 @@ std::vector<std::wstring> naarBreed(const std::vector<std::string>& woorden) {
     return breed;
 }
 
+/// De standaardinvoer geeft haar tekst maar één keer.
+void keurStandaardinvoer(const wxCmdLineParser& lezer) {
+    int keren = 0;
+    for (const wxCmdLineArg& woord : lezer.GetArguments()) {
+        const bool leest = woord.GetKind() == wxCMD_LINE_PARAM ||
+                           (woord.GetKind() == wxCMD_LINE_OPTION && woord.GetLongName().EndsWith("-uit"));
+        keren += leest && naarBytes(woord.GetStrVal()) == standaardinvoer ? 1 : 0;
+    }
+    if (keren > 1) {
+        throw Fout("'-' staat er " + std::to_string(keren) +
+                   " keer; de standaardinvoer is maar één keer te lezen");
+    }
+}
+
+/// De optie met deze korte naam, of niets.
+const Optie* zoekKort(char kort) {
+    const auto optie = std::find_if(alleOpties.begin(), alleOpties.end(), [kort](const Optie& kandidaat) {
+        return kandidaat.kort[0] == kort && kort != '\0';
+    });
+    return optie == alleOpties.end() ? nullptr : &*optie;
+}
+
 }  // namespace
+
+bool vraagtJson(const std::vector<std::string>& woorden) {
+    for (const std::string& woord : woorden) {
+        if (woord == "--") {
+            break;
+        }
+        if (woord == "--json") {
+            return true;
+        }
+        if (!woord.starts_with('-') || woord.starts_with("--")) {
+            continue;
+        }
+        for (const char letter : woord.substr(1)) {
+            if (letter == 'j') {
+                return true;
+            }
+            const Optie* optie = zoekKort(letter);
+            if (optie == nullptr || *optie->waarde != '\0') {
+                break;
+            }
+        }
+    }
+    return false;
+}
 
 std::span<const Optie> geefAlleOpties() {
     return alleOpties;
@@ -360,6 +420,7 @@ Opties leesOpties(const std::vector<std::string>& woorden) {
     if (lezer.Parse(false) != 0) {
         throw Fout(vertaal(vanger.geefEersteRegel()) + "; zie knipselaar-cli --help");
     }
+    keurStandaardinvoer(lezer);
     Opties opties;
     Verwerker verwerker(opties);
     for (const wxCmdLineArg& woord : lezer.GetArguments()) {

@@ -25,12 +25,13 @@ struct Opties {
     Opdracht opdracht = Opdracht::knip;
     std::vector<std::string> bronnen;
     std::optional<std::string> uit;
+    bool naarStandaarduitvoer = false;  ///< met zoveel woorden gevraagd
     std::optional<std::string> naar;
     bool terPlaatse = false;
     bool recursief = false;
     bool overschrijf = false;
 
-    Bestandskeuze keuze = Bestandskeuze::talen;
+    std::optional<Bestandskeuze> keuze;  ///< standaard talen
     std::vector<std::string> maskers;
     bool verborgen = false;
     bool versiebeheer = false;
@@ -58,6 +59,9 @@ struct Opties {
 /// Leest de opdrachtregel, zonder de naam van het programma. Leest ook de bestanden met teksten die erop
 /// genoemd staan. Gooit Fout bij alles wat niet kan of niet samengaat.
 Opties leesOpties(const std::vector<std::string>& woorden);
+
+/// Of er om JSON gevraagd wordt, ook op een opdrachtregel die verder niet klopt.
+bool vraagtJson(const std::vector<std::string>& woorden);
 
 /// Eén optie zoals de gebruiker haar kent.
 struct Optie {

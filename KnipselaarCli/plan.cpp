@@ -9,6 +9,7 @@
 #include "Knipselaar/kern/systeem/paden.h"
 #include "KnipselaarCli/boom.h"
 #include "KnipselaarCli/fout.h"
+#include "KnipselaarCli/links.h"
 
 namespace cli {
 
@@ -26,13 +27,6 @@ bool bestaat(const std::string& pad) {
     return !kern::leesEigenKenmerken(pad, kenmerken);
 }
 
-/// Of een link in deze boom bij iets uitkomt dat er zelf ook in zit, ook als de boom verhuist.
-bool blijftBinnen(const std::string& link, const std::string& boom) {
-    const std::string echt = kern::geefEchtPad(link);
-    return !echt.empty() && !fs::path(kern::leesLink(link)).is_absolute() &&
-           kern::ligtIn(echt, maakEcht(boom));
-}
-
 /// Kiest in directories wat geknipt wordt, en onthoudt welk masker iets vond.
 class Kiezer {
   public:
@@ -40,9 +34,10 @@ class Kiezer {
 
     bool isGekozen(const std::string& pad) {
         if (opties_.maskers.empty()) {
-            return opties_.keuze == Bestandskeuze::alles ||
-                   (opties_.keuze == Bestandskeuze::talen && kiesTaal(pad) != Taal::overig) ||
-                   (opties_.keuze == Bestandskeuze::vhdl && kiesTaal(pad) == Taal::vhdl);
+            const Bestandskeuze keuze = opties_.keuze.value_or(Bestandskeuze::talen);
+            return keuze == Bestandskeuze::alles ||
+                   (keuze == Bestandskeuze::talen && kiesTaal(pad) != Taal::overig) ||
+                   (keuze == Bestandskeuze::vhdl && kiesTaal(pad) == Taal::vhdl);
         }
         bool gekozen = false;
         for (const std::string& masker : opties_.maskers) {
@@ -83,10 +78,9 @@ class Planner {
             neemBron(bron);
         }
         kiezer_.keurMaskers();
-        if (!heeftKnip()) {
-            plan_.waarschuwingen.emplace_back(
-                "er is geen bestand gekozen om te knippen; kijk --keuze en --masker na");
-        }
+        plan_.teKnippen = static_cast<std::size_t>(
+            std::count_if(plan_.taken.begin(), plan_.taken.end(),
+                          [](const Taak& taak) { return taak.handeling == Handeling::knip; }));
         if (opties_.schrijft() || opties_.opdracht == Opdracht::droog) {
             keurBestemmingen();
         }
@@ -96,11 +90,6 @@ class Planner {
     }
 
   private:
-    bool heeftKnip() const {
-        return std::any_of(plan_.taken.begin(), plan_.taken.end(),
-                           [](const Taak& taak) { return taak.handeling == Handeling::knip; });
-    }
-
     void keurNaar(const std::string& naar) {
         if (bestaat(naar) && !isDirectory(naar)) {
             throw Fout(naar +
@@ -158,7 +147,17 @@ class Planner {
                             .verborgen = opties_.verborgen,
                             .versiebeheer = opties_.versiebeheer};
         echteBoom_ = maakEcht(bron);
-        for (const Boomdeel& deel : loopAf(bron, wens)) {
+        const std::vector<Boomdeel> delen = loopAf(bron, wens);
+        inBoom_.clear();
+        if (opties_.naar && opties_.recursief) {
+            keurOmweg(bron, delen, *opties_.naar);
+        }
+        for (const Boomdeel& deel : delen) {
+            if (deel.soort != kern::Bestandssoort::anders && deel.soort != kern::Bestandssoort::onbekend) {
+                inBoom_.insert(deel.pad);
+            }
+        }
+        for (const Boomdeel& deel : delen) {
             neemDeel(bron, deel);
         }
     }
@@ -175,6 +174,36 @@ class Planner {
         }
         if (kern::ligtIn(echteBron, echteNaar)) {
             throw Fout(naar + ": daar ligt de bron " + bron + " in; kies een andere bestemming");
+        }
+    }
+
+    /// Een directory van de bron kan ergens anders aangekoppeld zijn: dan is aan haar pad niet te zien dat de
+    /// bestemming erin ligt.
+    static void keurOmweg(const std::string& bron, const std::vector<Boomdeel>& delen,
+                          const std::string& naar) {
+        const std::vector<kern::Kenmerken> omhoog = leesOmhoog(naar);
+        for (const Boomdeel& deel : delen) {
+            const std::string pad = kern::plak(bron, deel.pad);
+            kern::Kenmerken kenmerken;
+            if (deel.soort == kern::Bestandssoort::directory && !kern::leesKenmerken(pad, kenmerken) &&
+                std::any_of(omhoog.begin(), omhoog.end(),
+                            [&](const auto& plaats) { return plaats.isZelfdePlaats(kenmerken); })) {
+                throw Fout(naar + ": ligt in de bron, via " + pad + "; kies een bestemming erbuiten");
+            }
+        }
+    }
+
+    /// Van een plaats die er misschien nog niet is, en van elke directory erboven.
+    static std::vector<kern::Kenmerken> leesOmhoog(const std::string& plaats) {
+        std::vector<kern::Kenmerken> uit;
+        for (fs::path hier = maakEcht(plaats);; hier = hier.parent_path()) {
+            kern::Kenmerken kenmerken;
+            if (!kern::leesKenmerken(hier.string(), kenmerken)) {
+                uit.push_back(kenmerken);
+            }
+            if (!hier.has_relative_path()) {
+                return uit;
+            }
         }
     }
 
@@ -213,16 +242,35 @@ class Planner {
     void neemLink(const std::string& boom, const Boomdeel& deel, const std::string& bron,
                   const std::string& doel) {
         const bool heleBoom = opties_.naar && opties_.recursief;
-        if (!blijftBinnen(bron, boom)) {
-            if (heleBoom || kiezer_.isGekozen(deel.pad)) {
-                plan_.waarschuwingen.push_back(bron + ": is een link die buiten " + boom +
-                                               " uitkomt; overgeslagen");
-            }
+        if (!heleBoom && !kiezer_.isGekozen(deel.pad)) {
+            return;
+        }
+        const std::string bezwaar = keurLink(boom, deel, heleBoom);
+        if (!bezwaar.empty()) {
+            plan_.waarschuwingen.push_back(bron + ": is een link " + bezwaar + "; overgeslagen");
         } else if (heleBoom) {
             voegToe(Handeling::legLink, bron, doel);
-        } else if (opties_.naar && !isDirectory(bron) && kiezer_.isGekozen(deel.pad)) {
+        } else if (opties_.naar && !isDirectory(bron)) {
             voegToe(Handeling::knip, bron, doel);
         }
+    }
+
+    /// Waarom een link niet meegaat; leeg als zij meegaat.
+    std::string keurLink(const std::string& boom, const Boomdeel& deel, bool heleBoom) const {
+        const Linkweg weg = volgLink(boom, deel.pad);
+        switch (weg.uitkomst) {
+            case Linkuitkomst::erbuiten:
+                return "die buiten " + boom + " uitkomt";
+            case Linkuitkomst::nergens:
+                return "die nergens heen wijst";
+            case Linkuitkomst::binnen:
+                break;
+        }
+        const auto achter = std::find_if(weg.langs.begin(), weg.langs.end(),
+                                         [this](const std::string& pad) { return !inBoom_.contains(pad); });
+        return heleBoom && achter != weg.langs.end()
+                   ? "naar " + kern::plak(boom, *achter) + ", en dat gaat niet mee"
+                   : std::string();
     }
 
     void voegGekozenToe(const std::string& bron, const std::string& echt, const std::string& doel) {
@@ -258,7 +306,7 @@ class Planner {
                 keurBestemming(taak);
             }
         }
-        if (opties_.uit && opties_.schrijft()) {
+        if (opties_.uit) {
             const std::string ouder = fs::path(*opties_.uit).parent_path().string();
             if (!ouder.empty() && !isDirectory(ouder)) {
                 throw Fout(*opties_.uit + ": de directory " + ouder + " bestaat niet; maak haar eerst");
@@ -314,6 +362,7 @@ class Planner {
     Plan plan_;
     std::map<std::string, std::string> doelen_;  ///< per bestemming wie er komt
     std::string echteBoom_;                      ///< van de directory die afgelopen wordt
+    std::set<std::string> inBoom_;               ///< wat daarin gevonden is en mee kan
     std::set<std::string> terPlaatse_;           ///< echte paden die al aan de beurt zijn
 };
 

@@ -23,6 +23,7 @@ struct Taak {
 struct Plan {
     std::vector<Taak> taken;  ///< eerst de directories, dan de rest in de volgorde van het verslag
     std::vector<std::string> waarschuwingen;
+    std::size_t teKnippen = 0;         ///< hoeveel van de taken knippen
     std::vector<std::string> nalezen;  ///< waar een bewijs naar moet kijken
     Uitvoersoort soort = Uitvoersoort::bestand;
 };

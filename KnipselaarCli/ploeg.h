@@ -8,13 +8,15 @@
 #include <functional>
 #include <mutex>
 #include <optional>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
 
 namespace cli {
 
-/// Voert taak 0 tot aantal uit op hoogstens zoveel draden, die van de aanroeper meegerekend, en geeft elke
+/// Voert taak 0 tot aantal uit op hoogstens zoveel draden, die van de aanroeper meegerekend (minder als het systeem
+/// er niet meer geeft), en geeft elke
 /// uitslag op volgorde aan meld, in de draad van de aanroeper. Stopt met nieuwe taken zodra magVerder nee
 /// zegt of meld iets gooit; wat loopt wordt nog afgemaakt.
 template <typename Uitslag>
@@ -33,9 +35,7 @@ class Ploeg {
     void werk(std::size_t draden, const Meld& meld) {
         const std::size_t helpers = draden < 2 ? 0 : draden - 1;
         bezig_ = helpers;
-        for (std::size_t i = 0; i < helpers; ++i) {
-            draden_.emplace_back([this] { werkMee(); });
-        }
+        neemHelpers(helpers);
         for (std::size_t i = 0; i < uitslagen_.size(); ++i) {
             // Wie op een ander wacht, doet intussen zelf iets: een draad die niets anders doet dan melden,
             // zou bij elk bestand een werkende van zijn plaats halen.
@@ -50,6 +50,19 @@ class Ploeg {
     }
 
   private:
+    /// Geeft het systeem er geen draad meer bij, dan doen die er zijn het werk.
+    void neemHelpers(std::size_t aantal) {
+        draden_.reserve(aantal);
+        try {
+            while (draden_.size() < aantal) {
+                draden_.emplace_back([this] { werkMee(); });
+            }
+        } catch (const std::system_error&) {
+            const std::lock_guard slot(slot_);
+            bezig_ -= aantal - draden_.size();
+        }
+    }
+
     void werkMee() {
         while (doeVolgende()) {
         }

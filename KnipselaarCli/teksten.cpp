@@ -87,7 +87,7 @@ void vulMarkers(const TekstKeuze& keuze, const kern::ParserInstellingen& instell
         teksten.markersGewoon = teksten.markersGewoon && isGewoon(begin[i], keuze.letterlijk) &&
                                 isGewoon(eind[i], keuze.letterlijk);
     }
-    teksten.markers = kern::MarkerReeks(std::move(paren), kern::Bijna::nee);
+    teksten.markers = kern::MarkerReeks(std::move(paren));
 }
 
 void vulVervanging(const TekstKeuze& keuze, const kern::ParserInstellingen& instellingen, Teksten& teksten) {

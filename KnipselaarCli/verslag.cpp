@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "Knipselaar/kern/utf8.h"
+#include "KnipselaarCli/leesbaar.h"
 
 namespace cli {
 
@@ -47,9 +48,9 @@ std::size_t tel(const Uitslag& uitslag, Ernst ernst) {
 }
 
 std::string droogRegel(const Taak& taak, const Uitslag& uitslag) {
-    std::string regel = taak.bron;
+    std::string regel = maakLeesbaar(taak.bron);
     if (!taak.doel.empty() && taak.doel != taak.bron) {
-        regel += " -> " + taak.doel;
+        regel += " -> " + maakLeesbaar(taak.doel);
     }
     switch (uitslag.status) {
         case Status::overgenomen:
@@ -58,7 +59,7 @@ std::string droogRegel(const Taak& taak, const Uitslag& uitslag) {
             return regel + ": wordt niet geknipt, " + noem(tel(uitslag, Ernst::fout), "fout", "fouten") +
                    "\n";
         case Status::mislukt:
-            return regel + ": is niet te lezen\n";
+            return regel + ": lukt niet\n";
         default:
             return regel + ": " + noem(uitslag.blokken, "blok", "blokken") + ", " +
                    noem(uitslag.regelsErin, "regel", "regels") + " erin, " +
@@ -114,6 +115,7 @@ std::string Verslag::neem(const Taak& taak, const Uitslag& uitslag) {
     tellingen_.fouten += tel(uitslag, Ernst::fout);
     tellingen_.waarschuwingen += tel(uitslag, Ernst::waarschuwing);
     tellingen_.mislukt += uitslag.status == Status::mislukt ? 1 : 0;
+    tellingen_.gevonden += uitslag.blokken;
     if (taak.handeling == Handeling::maakDirectory) {
         return {};
     }
@@ -167,27 +169,31 @@ void Verslag::neemInJson(const Taak& taak, const Uitslag& uitslag) {
     jsonBestanden_ += ", \"meldingen\": [" + meldingen + "]}";
 }
 
-void Verslag::neem(const std::vector<Bewijsvondst>& vondsten) {
-    vondsten_ += vondsten.size();
-    for (const Bewijsvondst& vondst : vondsten) {
-        jsonBewijs_ += (jsonBewijs_.empty() ? "\n    {" : ",\n    {") + jsonPaar("bestand", vondst.pad) +
-                       ", " + jsonPaar("regel", vondst.regel) + ", " + jsonPaar("tekst", vondst.tekst) + "}";
+void Verslag::neem(const Nalezing& nalezing) {
+    vondsten_ += nalezing.vondsten.size();
+    tellingen_.mislukt += nalezing.storingen.size();
+    const auto voegToe = [this](const std::string& inhoud) {
+        jsonBewijs_ += (jsonBewijs_.empty() ? "\n    {" : ",\n    {") + inhoud + "}";
+    };
+    for (const Bewijsvondst& vondst : nalezing.vondsten) {
+        voegToe(jsonPaar("bestand", vondst.pad) + ", " + jsonPaar("regel", vondst.regel) + ", " +
+                jsonPaar("tekst", vondst.tekst));
+    }
+    for (const std::string& storing : nalezing.storingen) {
+        voegToe(jsonPaar("storing", storing));
     }
 }
 
-void Verslag::neemOpmerkingen(const std::vector<std::string>& opmerkingen) {
-    heeftOpmerking_ = !opmerkingen.empty();
-    for (const std::string& opmerking : opmerkingen) {
-        jsonOpmerkingen_ += (jsonOpmerkingen_.empty() ? "\n    " : ",\n    ") + naarJson(opmerking);
-    }
+void Verslag::neemOpmerking(const std::string& opmerking, Ernst ernst) {
+    opmerkingIsFout_ = opmerkingIsFout_ || ernst == Ernst::fout;
+    jsonOpmerkingen_ += (jsonOpmerkingen_.empty() ? "\n    " : ",\n    ") + naarJson(opmerking);
 }
 
 Afloop Verslag::geefAfloop() const {
     if (tellingen_.mislukt > 0) {
         return misbruikOfStoring;
     }
-    const bool fout = tellingen_.fouten > 0 || vondsten_ > 0 || (opties_.streng && heeftOpmerking_);
-    return fout ? foutInInvoer : goed;
+    return tellingen_.fouten > 0 || vondsten_ > 0 || opmerkingIsFout_ ? foutInInvoer : goed;
 }
 
 std::string Verslag::sluitAf(Afloop afloop) const {
@@ -206,10 +212,10 @@ std::string Verslag::sluitAf(Afloop afloop) const {
     // Een filter in een pijp of een makefile vertelt niet wat het deed.
     const bool zwijgt = opties_.stil || opties_.opdracht == Opdracht::verschil || opties_.naarUitvoer() ||
                         (opties_.uit && opties_.schrijft());
-    return zwijgt ? std::string() : maakTellingen();
+    return zwijgt ? std::string() : maakTellingen(afloop);
 }
 
-std::string Verslag::maakTellingen() const {
+std::string Verslag::maakTellingen(Afloop afloop) const {
     std::string regel = noemBestanden(tellingen_.geknipt) + (opties_.schrijft() ? " geknipt" : " in orde");
     regel += ", " + noem(tellingen_.blokken, "blok", "blokken");
     if (tellingen_.ongewijzigd > 0) {
@@ -228,8 +234,10 @@ std::string Verslag::maakTellingen() const {
         regel += ", " + noemWaarschuwingen(tellingen_.waarschuwingen);
     }
     if (opties_.bewijs) {
-        regel += vondsten_ == 0 ? ", bewezen schoon"
-                                : ", " + noem(vondsten_, "regel", "regels") + " te veel in de bestemming";
+        // Bewezen is het alleen als er iets te bewijzen was en alles goed ging.
+        regel += vondsten_ > 0     ? ", " + noem(vondsten_, "regel", "regels") + " te veel in de bestemming"
+                 : afloop == goed ? ", bewezen schoon"
+                                  : ", niet bewezen";
     }
     return regel + "\n";
 }

@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "KnipselaarCli/bewijs.h"
 #include "KnipselaarCli/fout.h"
@@ -19,7 +18,8 @@ struct Tellingen {
     std::size_t overgenomen = 0;
     std::size_t tegengehouden = 0;
     std::size_t mislukt = 0;
-    std::size_t blokken = 0;
+    std::size_t blokken = 0;    ///< geknipt
+    std::size_t gevonden = 0;   ///< blokken, ook in een bestand dat tegengehouden is
     std::size_t fouten = 0;
     std::size_t waarschuwingen = 0;
 };
@@ -32,10 +32,12 @@ class Verslag {
     /// verschil, en anders niets.
     std::string neem(const Taak& taak, const Uitslag& uitslag);
 
-    void neem(const std::vector<Bewijsvondst>& vondsten);
+    void neem(const Nalezing& nalezing);
 
     /// Neemt op wat er over de run als geheel te melden was.
-    void neemOpmerkingen(const std::vector<std::string>& opmerkingen);
+    void neemOpmerking(const std::string& opmerking, Ernst ernst);
+
+    const Tellingen& geefTellingen() const { return tellingen_; }
 
     /// Hoe de run tot nu toe afloopt.
     Afloop geefAfloop() const;
@@ -44,13 +46,13 @@ class Verslag {
     std::string sluitAf(Afloop afloop) const;
 
   private:
-    std::string maakTellingen() const;
+    std::string maakTellingen(Afloop afloop) const;
     void neemInJson(const Taak& taak, const Uitslag& uitslag);
 
     const Opties& opties_;
     Tellingen tellingen_;
     std::size_t vondsten_ = 0;
-    bool heeftOpmerking_ = false;
+    bool opmerkingIsFout_ = false;
     std::string jsonBestanden_;
     std::string jsonBewijs_;
     std::string jsonOpmerkingen_;

@@ -7,7 +7,9 @@
 #include "Knipselaar/kern/systeem/bestand.h"
 #include "Knipselaar/kern/systeem/directory.h"
 #include "Knipselaar/kern/systeem/onderbreking.h"
+#include "Knipselaar/kern/systeem/paden.h"
 #include "KnipselaarCli/bestanden.h"
+#include "KnipselaarCli/boom.h"
 #include "KnipselaarCli/fout.h"
 #include "KnipselaarCli/knipsel.h"
 #include "KnipselaarCli/verschil.h"
@@ -28,6 +30,43 @@ std::size_t telTekst(std::string_view tekst) {
     return telRegels(tekst) - (extra ? 1 : 0);
 }
 
+/// Met een bewijs gaat er niets door dat een marker had moeten zijn.
+Ernst geefErnstVanBijna(const Opties& opties) {
+    return opties.bewijs ? Ernst::fout : Ernst::waarschuwing;
+}
+
+/// Neemt de meldingen over een bestand op. Geeft of het zo verwerkt mag worden.
+bool neemMeldingen(std::vector<Melding> meldingen, const Opties& opties, Uitslag& uitslag) {
+    if (opties.streng) {
+        for (Melding& melding : meldingen) {
+            melding.ernst = Ernst::fout;
+        }
+    }
+    const bool mag = std::none_of(meldingen.begin(), meldingen.end(), [](const Melding& melding) {
+        return melding.ernst == Ernst::fout;
+    });
+    uitslag.meldingen = std::move(meldingen);
+    if (!mag) {
+        uitslag.status = Status::tegengehouden;
+    }
+    return mag;
+}
+
+/// Voorspelt of er op een plaats te schrijven is: in de directory, of in de eerste erboven die er al is.
+void keurPlaats(const std::string& doel) {
+    if (doel.empty()) {
+        return;
+    }
+    std::error_code fout;
+    fs::path directory = fs::absolute(kern::isLink(doel) ? fs::path(maakEcht(doel)) : fs::path(doel)).parent_path();
+    while (!fs::exists(directory, fout) && directory.has_relative_path()) {
+        directory = directory.parent_path();
+    }
+    if (const auto bezwaar = kern::keurSchrijfbaar(directory.string())) {
+        throw Fout(doel + ": kan niet geschreven worden: " + noemReden(bezwaar));
+    }
+}
+
 class Knipbeurt {
   public:
     Knipbeurt(const Taak& taak, const Opties& opties, const Teksten& teksten, Uitvoersoort soort)
@@ -36,30 +75,20 @@ class Knipbeurt {
     Uitslag voerUit() {
         Inhoud inhoud = leesInhoud(taak_.bron);
         const Brontekst bron(std::move(inhoud.bytes), kiesLezing());
-        const Ontleding ontleding = ontleed(bron.geefTekst(), teksten_.markers);
+        const Ontleding ontleding = ontleed(bron.geefTekst(), teksten_.markers, geefErnstVanBijna(opties_));
         uitslag_.blokken = ontleding.blokken.size();
-        uitslag_.meldingen = ontleding.meldingen;
-        if (opties_.streng) {
-            for (Melding& melding : uitslag_.meldingen) {
-                melding.ernst = Ernst::fout;
-            }
+        if (neemMeldingen(ontleding.meldingen, opties_, uitslag_)) {
+            knip(bron, ontleding, inhoud.rechten);
         }
-        if (std::any_of(uitslag_.meldingen.begin(), uitslag_.meldingen.end(),
-                        [](const Melding& melding) { return melding.ernst == Ernst::fout; })) {
-            uitslag_.status = Status::tegengehouden;
-            return std::move(uitslag_);
-        }
-        knip(bron, ontleding, inhoud.rechten);
         return std::move(uitslag_);
     }
 
   private:
-    /// Voor een bewijs telt de tekst zoals de kern haar leest.
     Lezing kiesLezing() const {
         if (opties_.manier == Manier::venster && opties_.opdracht == Opdracht::verschil) {
             return Lezing::volledig;
         }
-        if (teksten_.markersGewoon && !opties_.bewijs) {
+        if (teksten_.markersGewoon) {
             return Lezing::zuinig;
         }
         return opties_.manier == Manier::venster ? Lezing::tekst : Lezing::volledig;
@@ -71,7 +100,8 @@ class Knipbeurt {
 
     void knip(const Brontekst& bron, const Ontleding& ontleding, fs::perms rechten) {
         if (opties_.bewijs) {
-            uitslag_.stof = verzamelStof(bron.geefTekst(), ontleding.blokken, opties_.bewijsLengte);
+            uitslag_.stof = verzamelStof(bron, ontleding.blokken, teksten_.markers.geefParen(),
+                                         opties_.bewijsLengte);
         }
         try {
             Knipsel knipsel(
@@ -100,6 +130,8 @@ class Knipbeurt {
             uitslag_.status = Status::ongewijzigd;
         } else if (opties_.schrijft()) {
             schrijf(knipsel, rechten);
+        } else if (opties_.opdracht == Opdracht::droog) {
+            keurPlaats(taak_.doel);
         }
     }
 
@@ -134,7 +166,12 @@ class Knipbeurt {
             }
         };
         if (opties_.terPlaatse) {
-            vervangTerPlaatse(taak_.doel, stukken);
+            const kern::Verlies verlies = vervangTerPlaatse(taak_.doel, stukken);
+            if (verlies.isEr()) {
+                uitslag_.meldingen.push_back({.regel = 0,
+                                              .ernst = opties_.streng ? Ernst::fout : Ernst::waarschuwing,
+                                              .tekst = kern::noemVerlies(verlies)});
+            }
         } else if (taak_.doel.empty()) {
             try {
                 schrijfAlles(kern::uitvoerkanaal, stukken);
@@ -153,16 +190,59 @@ class Knipbeurt {
     Uitslag uitslag_;
 };
 
+/// Een directory uit de boom houdt haar rechten; de bestemming zelf is nieuw.
 void maakDirectory(const Taak& taak) {
-    if (const auto fout = kern::maakDirectories(taak.doel)) {
+    kern::Kenmerken kenmerken;
+    const bool uitBoom = !taak.bron.empty() && !kern::leesKenmerken(taak.bron, kenmerken);
+    if (const auto fout = uitBoom ? kern::maakDirectory(taak.doel, kenmerken.rechten)
+                                  : kern::maakDirectories(taak.doel)) {
         throw Fout(taak.doel + ": kan niet gemaakt worden: " + noemReden(fout));
     }
 }
 
-void neemOver(const Taak& taak, Uitvoersoort soort) {
-    const Inhoud inhoud = leesInhoud(taak.bron);
-    schrijfUitvoer(
-        taak.doel, [&inhoud](const Ontvanger& uit) { uit(inhoud.bytes.geef()); }, inhoud.rechten, soort);
+/// Wat er te melden is over een bestand dat heel meegaat: de eerste marker, want wat die omsluit gaat dan ook
+/// mee, en elke regel die bijna een marker is. Bij een bewijs blijkt een marker bij het nalezen.
+std::vector<Melding> keurOvername(std::string_view tekst, const Opties& opties, const Teksten& teksten) {
+    std::vector<Melding> meldingen;
+    kern::Markerloper loper(teksten.markers, tekst);
+    std::size_t nummer = 1;
+    std::size_t plek = 0;
+    bool heeftMarker = opties.bewijs;
+    while (const auto regel = loper.volgende()) {
+        nummer += telRegels(tekst.substr(plek, regel->begin - plek));
+        plek = regel->begin;
+        const std::string_view inhoud = tekst.substr(regel->begin, regel->eind - 1 - regel->begin);
+        if (teksten.markers.draagtMarker(inhoud)) {
+            if (!heeftMarker) {
+                meldingen.push_back({.regel = nummer,
+                                     .ernst = Ernst::waarschuwing,
+                                     .tekst = "hier staat een marker, maar het bestand gaat heel mee; kies het "
+                                              "met --masker of --keuze"});
+            }
+            heeftMarker = true;
+        } else if (const auto bijna = teksten.markers.lijktOpMarker(inhoud)) {
+            meldingen.push_back(maakBijnaMelding(nummer, *bijna, geefErnstVanBijna(opties)));
+        }
+    }
+    return meldingen;
+}
+
+/// De inhoud wordt ook gelezen als er niets geschreven mag worden: zo blijkt wat er bij schrijven misgaat.
+Uitslag neemOver(const Taak& taak, const Opties& opties, const Teksten& teksten, Uitvoersoort soort) {
+    Inhoud inhoud = leesInhoud(taak.bron);
+    const Brontekst bron(std::move(inhoud.bytes), Lezing::tekst);
+    Uitslag uitslag;
+    uitslag.status = Status::overgenomen;
+    if (!neemMeldingen(keurOvername(bron.geefTekst(), opties, teksten), opties, uitslag)) {
+        return uitslag;
+    }
+    if (opties.schrijft()) {
+        schrijfUitvoer(
+            taak.doel, [&bron](const Ontvanger& uit) { uit(bron.geefRuw()); }, inhoud.rechten, soort);
+    } else if (opties.opdracht == Opdracht::droog) {
+        keurPlaats(taak.doel);
+    }
+    return uitslag;
 }
 
 void legLink(const Taak& taak) {
@@ -181,21 +261,18 @@ Uitslag doe(const Taak& taak, const Opties& opties, const Teksten& teksten, Uitv
     if (taak.handeling == Handeling::knip) {
         return Knipbeurt(taak, opties, teksten, soort).voerUit();
     }
+    if (taak.handeling == Handeling::neemOver) {
+        return neemOver(taak, opties, teksten, soort);
+    }
     Uitslag uitslag;
     uitslag.status = Status::overgenomen;
     if (!opties.schrijft()) {
         return uitslag;
     }
-    switch (taak.handeling) {
-        case Handeling::maakDirectory:
-            maakDirectory(taak);
-            break;
-        case Handeling::neemOver:
-            neemOver(taak, soort);
-            break;
-        default:
-            legLink(taak);
-            break;
+    if (taak.handeling == Handeling::maakDirectory) {
+        maakDirectory(taak);
+    } else {
+        legLink(taak);
     }
     return uitslag;
 }

@@ -120,6 +120,7 @@ Afloop knipTerPlaatse(const wxFileName& bestand, const std::string& echt, TerPla
     } else if (afloop.knip.isGelukt() && !terPlaatse.vervang(echt, afloop.knip.bron)) {
         afloop.vervangReden = terPlaatse.geefReden();
     }
+    afloop.verlies = terPlaatse.geefVerlies();
     return afloop;
 }
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "Knipselaar/kern/bestandKnipper.h"
+#include "Knipselaar/kern/systeem/verlies.h"
 
 namespace kern {
 
@@ -28,6 +29,7 @@ struct Afloop {
     bool naarZichzelf = false;  ///< bron en bestemming waren hetzelfde bestand; het is geleegd voor het lezen
     std::string tijdelijkReden;  ///< waarom er geen tijdelijk bestand te maken was; leeg als het lukte
     std::string vervangReden;    ///< waarom het knipsel de plaats van het bestand niet innam
+    Verlies verlies;             ///< wat het bestand daarbij niet kon houden
 
     bool isGelukt() const {
         return knip.isGelukt() && !naarZichzelf && tijdelijkReden.empty() && vervangReden.empty();

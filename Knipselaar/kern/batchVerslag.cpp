@@ -93,6 +93,10 @@ BatchBijschriften beschrijfAfloop(const Afloop& afloop) {
             bijschriften.bron.push_back(maakBijschrift(Ernst::fout, "niet geknipt" + noemGevolg(afloop)));
         }
     }
+    if (afloop.verlies.isEr() && afloop.isGelukt()) {
+        bijschriften.bestemming.push_back(
+            maakBijschrift(Ernst::waarschuwing, wxString::FromUTF8(noemVerlies(afloop.verlies))));
+    }
     beschrijfMarkers(afloop.knip.bevindingen, bijschriften);
     return bijschriften;
 }

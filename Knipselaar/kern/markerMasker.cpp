@@ -43,6 +43,15 @@ bool MarkerMasker::past(std::string_view regel) const {
     return heeftStukken(regel) && pastVerder(regel);
 }
 
+std::pair<std::string_view, std::string_view> MarkerMasker::geefOmheen(std::string_view regel) const {
+    if (stukken_.empty()) {
+        return {};
+    }
+    const std::string& laatste = stukken_.back().geefNaald();
+    return {regel.substr(0, stukken_.front().zoek(regel)),
+            regel.substr(regel.rfind(laatste) + laatste.size())};
+}
+
 bool MarkerMasker::heeftStukken(std::string_view regel) const {
     for (const Zoeker& stuk : stukken_) {
         const std::size_t plek = stuk.zoek(regel);

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "Knipselaar/kern/zoeker.h"
@@ -38,6 +39,10 @@ class MarkerMasker {
     /// Of een regel past.
     /// @param regel  één regel in UTF-8 zonder regeleinde.
     bool past(std::string_view regel) const;
+
+    /// Wat er in een passende regel voor en achter de marker staat: voor zijn eerste letterlijke stuk en achter
+    /// zijn laatste. Van een marker met alleen jokers is er niets omheen.
+    std::pair<std::string_view, std::string_view> geefOmheen(std::string_view regel) const;
 
     /// Het langste letterlijke stuk van de marker, in UTF-8: staat in elke regel die past. Leeg als de marker
     /// alleen jokers heeft.

@@ -36,7 +36,7 @@ std::vector<BijnaMarker> maakBijna(const std::vector<const MarkerMasker*>& maske
 
 }  // namespace
 
-MarkerReeks::MarkerReeks(std::vector<Markerpaar> paren, Bijna bijna) : paren_(std::move(paren)) {
+MarkerReeks::MarkerReeks(std::vector<Markerpaar> paren) : paren_(std::move(paren)) {
     const auto maskers = geefMaskers();
     const std::string gemeenschap = geefGemeenschap(maskers);
     if (gemeenschap.size() >= kleinsteZeef) {
@@ -45,9 +45,24 @@ MarkerReeks::MarkerReeks(std::vector<Markerpaar> paren, Bijna bijna) : paren_(st
             zeef_.reset();  // de gemeenschap begon of eindigde midden in een teken
         }
     }
-    if (bijna == Bijna::ja) {
-        bijna_.emplace(maakBijna(maskers));
+    bijna_.emplace(maakBijna(maskers));
+}
+
+bool MarkerReeks::draagtMarker(std::string_view regel) const {
+    const auto draagt = [regel](const MarkerMasker& masker) {
+        return !masker.pastOpElkeRegel() && masker.past(regel);
+    };
+    return std::any_of(paren_.begin(), paren_.end(), [&draagt](const Markerpaar& paar) {
+        return draagt(paar.begin) || draagt(paar.eind);
+    });
+}
+
+std::optional<Gelijkenis> MarkerReeks::lijktOpMarker(std::string_view regel) const {
+    const auto marker = bijna_ ? bijna_->geefMarker(regel) : std::nullopt;
+    if (!marker) {
+        return std::nullopt;
     }
+    return *marker % 2 == 0 ? Gelijkenis::begin : Gelijkenis::eind;
 }
 
 std::vector<const MarkerMasker*> MarkerReeks::geefMaskers() const {
@@ -63,13 +78,13 @@ Markerloper::Markerloper(const MarkerReeks& reeks, std::string_view regels) : re
     for (const MarkerMasker* masker : maskers) {
         vondsten_.push_back({.masker = masker, .regel = zoek(masker, 0)});
     }
-    if (reeks.geefBijna()) {
+    if (reeks.bijna_) {
         vondsten_.push_back({.masker = nullptr, .regel = zoek(nullptr, 0)});
     }
 }
 
 std::optional<Regel> Markerloper::zoek(const MarkerMasker* masker, std::size_t vanaf) const {
-    return masker == nullptr ? reeks_.geefBijna()->zoekRegel(regels_, vanaf)
+    return masker == nullptr ? reeks_.bijna_->zoekRegel(regels_, vanaf)
                              : masker->zoekRegel(regels_, vanaf);
 }
 

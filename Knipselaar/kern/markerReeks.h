@@ -18,8 +18,8 @@ struct Markerpaar {
     MarkerMasker eind;
 };
 
-/// Of er ook naar regels gezocht wordt die bijna een marker zijn.
-enum class Bijna { nee, ja };
+/// Waar een regel op lijkt die bijna een marker is.
+enum class Gelijkenis { begin, eind };
 
 /// Bezit de paren; verandert na het maken niet meer en mag door meer draden gelezen worden.
 class MarkerReeks {
@@ -28,13 +28,17 @@ class MarkerReeks {
     MarkerReeks() = default;
 
     /// @param paren  minstens één.
-    MarkerReeks(std::vector<Markerpaar> paren, Bijna bijna);
+    explicit MarkerReeks(std::vector<Markerpaar> paren);
 
     const std::vector<Markerpaar>& geefParen() const { return paren_; }
 
-    /// Waar regels op lijken: van elk paar eerst het begin en dan het eind. Niets als er niet naar gezocht
-    /// wordt.
-    const std::optional<BijnaZoeker>& geefBijna() const { return bijna_; }
+    /// Of een regel een marker draagt; een marker die op elke regel past telt niet.
+    /// @param regel  één regel in UTF-8 zonder regeleinde.
+    bool draagtMarker(std::string_view regel) const;
+
+    /// Waar een regel op lijkt; niets als zij op geen marker lijkt. Een regel die een marker draagt lijkt er
+    /// meestal ook op.
+    std::optional<Gelijkenis> lijktOpMarker(std::string_view regel) const;
 
   private:
     friend class Markerloper;
@@ -43,7 +47,7 @@ class MarkerReeks {
 
     std::vector<Markerpaar> paren_;
     std::optional<MarkerMasker> zeef_;  ///< wat alle markers gemeen hebben, als daar iets aan te winnen is
-    std::optional<BijnaZoeker> bijna_;
+    std::optional<BijnaZoeker> bijna_;  ///< van elk paar eerst het begin en dan het eind
 };
 
 /// Loopt de regels van een tekst af waar een marker in kan staan. Markers lijken meestal op elkaar; wat ze

@@ -120,9 +120,8 @@ void Ontleder::neemEind(std::string_view inhoud) {
 }
 
 void Ontleder::meldBijna(std::string_view inhoud) {
-    const auto marker = reeks_.geefBijna() ? reeks_.geefBijna()->geefMarker(inhoud) : std::nullopt;
-    if (marker) {
-        meld(nummer_, *marker % 2 == 0 ? Soort::bijnaBegin : Soort::bijnaEind);
+    if (const auto lijktOp = reeks_.lijktOpMarker(inhoud)) {
+        meld(nummer_, *lijktOp == Gelijkenis::begin ? Soort::bijnaBegin : Soort::bijnaEind);
     }
 }
 

@@ -31,7 +31,8 @@ std::error_code kopieerInhoud(int bron, int doel) {
 
 /// Zet een kopie op de plaats van een bestaand bestand. Dat gaat ook vanaf een ander bestandssysteem, en wie
 /// eigenaar en groep niet kan overnemen laat ze zo door de directory van de bestemming kiezen.
-std::error_code kopieer(const std::string& knipsel, const std::string& echt, const Kenmerken& oud) {
+std::error_code kopieer(const std::string& knipsel, const std::string& echt, const Kenmerken& oud,
+                        Verlies& verlies) {
     const Opening bron = openBron(knipsel);
     if (!bron.bestand.isOpen()) {
         return bron.keur();
@@ -40,8 +41,12 @@ std::error_code kopieer(const std::string& knipsel, const std::string& echt, con
     if (!nieuw.isOpen()) {
         return nieuw.geefFout();
     }
-    const auto fout = kopieerInhoud(bron.bestand.geefKanaal(), nieuw.geefKanaal());
-    return fout ? fout : nieuw.vervang(oud);
+    if (const auto fout = kopieerInhoud(bron.bestand.geefKanaal(), nieuw.geefKanaal())) {
+        return fout;
+    }
+    const auto fout = nieuw.vervang(oud);
+    verlies = nieuw.geefVerlies();
+    return fout;
 }
 
 }  // namespace
@@ -79,7 +84,7 @@ bool TerPlaatse::vervang(const std::string& echt, const std::optional<Kenmerken>
         tijdelijk_.Clear();
         return true;
     }
-    return onthoudReden(kopieer(knipsel, echt, oud));
+    return onthoudReden(kopieer(knipsel, echt, oud, verlies_));
 }
 
 bool TerPlaatse::onthoudReden(const std::error_code& fout) {

@@ -13,6 +13,7 @@
 #include <system_error>
 
 #include "Knipselaar/kern/systeem/kenmerken.h"
+#include "Knipselaar/kern/systeem/verlies.h"
 
 namespace kern {
 
@@ -30,8 +31,11 @@ class TerPlaatse {
     /// Waarom het tijdelijke bestand er niet kwam, of waarom vervang niet lukte; leeg zolang alles lukt.
     const std::string& geefReden() const { return reden_; }
 
+    /// Wat het bestand bij het vervangen niet kon houden.
+    const Verlies& geefVerlies() const { return verlies_; }
+
     /// Zet de inhoud van het tijdelijke bestand op de plaats van een bestaand gewoon bestand; dat kan één
-    /// keer. Rechten, eigenaar en groep blijven. Geeft false, en laat het bestand zoals het was, als er iets
+    /// keer. Rechten, eigenaar, groep, toegangslijst en aantekeningen blijven, op wat geefVerlies zegt na. Geeft false, en laat het bestand zoals het was, als er iets
     /// niet lukt.
     /// @param echt     het pad zonder links, zoals geefEchtPad het geeft; dan blijft een link een link.
     /// @param gelezen  van het bestand dat geknipt is. Staat er intussen een ander, omdat iemand een nieuwe
@@ -44,6 +48,7 @@ class TerPlaatse {
 
     wxFileName tijdelijk_;
     std::string reden_;
+    Verlies verlies_;
 };
 
 }  // namespace kern

@@ -4,6 +4,7 @@
 
 namespace fs = std::filesystem;
 
+using hulp::Boom;
 using proef::bron;
 using proef::goed;
 using proef::Uitkomst;
@@ -99,13 +100,117 @@ TEST_F(CliBewijs, LeestEenBestandMetEenFoutInDeBestemmingOokNa) {
 TEST_F(CliBewijs, MeldtWatNietNaTeLezenIs) {
     schrijf("bron/a.c", opBron);
     schrijf("uit/dicht", "x");
+    schrijf("uit/lek", "int geheim = f(42);\n");
+    schrijf("uit/afgesloten/x", "x");
     fs::permissions(map_ / "uit", fs::perms::all);
+    fs::permissions(map_ / "uit/afgesloten", fs::perms::none);
     fs::permissions(map_ / "uit/dicht", fs::perms::none);
     const Uitkomst uitkomst = draai({"-r", "-p", "bron", "-n", "uit"}, {.gewoneGebruiker = true});
-    EXPECT_EQ(2, uitkomst.status);
-    EXPECT_EQ(
-        "knipselaar-cli: fout: uit/dicht: kan niet gelezen worden: geen toegang; geef rechten of kies een "
-        "andere "
-        "plaats\n",
-        uitkomst.fout);
+    const std::string toegang = "geen toegang; geef rechten of kies een andere plaats\n";
+    EXPECT_EQ((Uitkomst{.status = 2,
+                        .uit = "1 bestand geknipt, 1 blok, 2 mislukt, 1 regel te veel in de bestemming\n",
+                        .fout = "uit/lek:1: fout: hier staat de weggelaten regel van bron/a.c:3\n"
+                                "knipselaar-cli: fout: uit/afgesloten: kan niet gelezen worden: " +
+                                toegang + "knipselaar-cli: fout: uit/dicht: kan niet gelezen worden: " + toegang}),
+              uitkomst);
+    const std::string json = draai({"-j", "-r", "-p", "bron", "-n", "uit"}, {.gewoneGebruiker = true}).uit;
+    EXPECT_NE(std::string::npos,
+              json.find("\"bewijs\": [\n    {\"bestand\": \"uit/lek\", \"regel\": 1, \"tekst\": \"hier staat de "
+                        "weggelaten regel van bron/a.c:3\"},\n    {\"storing\": \"uit/afgesloten: kan niet"))
+        << json;
+    fs::permissions(map_ / "uit/afgesloten", fs::perms::all);
+}
+
+TEST_F(CliBewijs, NoemtNietsBewezenAlsErGeenBlokWas) {
+    const std::string begin = "//**** STUDENT BEGIN ****//\n";
+    const std::string eind = "//**** STUDENT EIND ****//\n";
+    schrijf("bron/a.c", begin + "geheime oplossing\n" + eind);
+    schrijf("bron/LEESMIJ", "/**** student begin ****/\n");
+    schrijf("gewoon/a.c", "int a;\n");
+    const auto bijna = [](const std::string& ernst) {
+        return "bron/LEESMIJ:1: " + ernst + ": bijna een beginmarker; zo telt hij niet\n" + "bron/a.c:1: " + ernst +
+               ": bijna een beginmarker; zo telt hij niet\nbron/a.c:3: " + ernst +
+               ": bijna een eindmarker; zo telt hij niet\n";
+    };
+    EXPECT_EQ((Uitkomst{.status = 0,
+                        .uit = "1 bestand geknipt, 0 blokken, 1 overgenomen, 3 waarschuwingen\n",
+                        .fout = bijna("waarschuwing") + proef::geenBlok}),
+              draai({"-r", "bron", "-n", "uit"}));
+    EXPECT_EQ((Uitkomst{.status = 1,
+                        .uit = "0 bestanden geknipt, 0 blokken, 2 met fouten, niet bewezen\n",
+                        .fout = bijna("fout")}),
+              draai({"-r", "-p", "bron", "-n", "uit2"}));
+    EXPECT_EQ((Boom{}), leesBoom("uit2"));
+    EXPECT_EQ((Uitkomst{.status = 1,
+                        .uit = "1 bestand geknipt, 0 blokken, niet bewezen\n",
+                        .fout = "knipselaar-cli: fout: er is nergens een blok gevonden; kijk de markers na\n"}),
+              draai({"-r", "-p", "gewoon", "-n", "uit3"}));
+    EXPECT_EQ(1, draai({"-s", "-r", "gewoon", "-n", "uit4"}).status);
+    EXPECT_EQ((Uitkomst{.status = 1,
+                        .uit = "0 bestanden geknipt, 0 blokken, 1 overgenomen, niet bewezen\n",
+                        .fout = "knipselaar-cli: fout: er is geen bestand gekozen om te knippen; kijk --keuze en "
+                                "--masker na\n"}),
+              draai({"-r", "-p", "-k", "vhdl", "gewoon", "-n", "uit5"}));
+}
+
+TEST_F(CliBewijs, NoemtNietsBewezenInUtf16ZonderMerkteken) {
+    std::string inhoud;
+    for (const char teken : bron) {
+        inhoud += {teken, '\0'};
+    }
+    schrijf("bron/a.c", inhoud);
+    EXPECT_EQ(1, draai({"-r", "-p", "bron", "-n", "uit"}).status);
+}
+
+TEST_F(CliBewijs, MeldtBijnaEenMarkerInWatErAlStond) {
+    schrijf("bron/a.c", opBron);
+    schrijf("uit/oud.c", "x\n  # student BEGIN\n");
+    EXPECT_EQ("uit/oud.c:2: fout: er staat een regel die bijna een marker is\n",
+              draai({"-r", "-p", "bron", "-n", "uit"}).fout);
+}
+
+TEST_F(CliBewijs, MeldtEenLinkDieDeBestemmingUitGaat) {
+    schrijf("bron/a.c", opBron);
+    fs::create_directories(map_ / "uit");
+    fs::create_symlink("../bron/a.c", map_ / "uit/b.c");
+    fs::create_symlink("a.c", map_ / "uit/goed.c");
+    fs::create_symlink("weg.c", map_ / "uit/dood.c");
+    EXPECT_EQ((Uitkomst{.status = 1,
+                        .uit = "1 bestand geknipt, 1 blok, 1 regel te veel in de bestemming\n",
+                        .fout = "uit/b.c: fout: is een link die buiten uit uitkomt\n"}),
+              draai({"-r", "-p", "bron", "-n", "uit"}));
+}
+
+TEST_F(CliBewijs, TeltWatOpEenMarkerregelStaatAlsWeggelaten) {
+    schrijf("bron/a.c",
+            "int begin = geheim(1); //**** Student Begin ****// int verder = geheim(2);\nx\n"
+            "int eind = geheim(3); //**** Student Eind ****// int daarna = geheim(4);\n");
+    schrijf("bron/notities",
+            "int begin = geheim(1);\nint verder = geheim(2);\nint eind = geheim(3);\nint daarna = geheim(4);\n");
+    const auto melding = [](int regel, int van) {
+        return "uit/notities:" + std::to_string(regel) + ": fout: hier staat de weggelaten regel van bron/a.c:" +
+               std::to_string(van) + "\n";
+    };
+    EXPECT_EQ(melding(1, 1) + melding(2, 1) + melding(3, 3) + melding(4, 3),
+              draai({"-r", "-p", "bron", "-n", "uit"}).fout);
+}
+
+TEST_F(CliBewijs, VergelijktElkeCoderingEnElkRegeleinde) {
+    schrijf("bron/a.c", "//**** Student Begin ****//\r\nint één = 11;\r\n//**** Student Eind ****//\r\n");
+    schrijf("bron/b.c", "int \xE9\xE9n = 12;\r\n//**** Student Begin ****//\r\nint \xE9\xE9n = 13;\r\n"
+                        "//**** Student Eind ****//\r\n");
+    schrijf("bron/c", "int één = 11;\nint één = 12;\nint één = 13;\n");
+    EXPECT_EQ("uit/c:1: fout: hier staat de weggelaten regel van bron/a.c:2\n"
+              "uit/c:3: fout: hier staat de weggelaten regel van bron/b.c:3\n",
+              draai({"-r", "-p", "bron", "-n", "uit"}).fout);
+}
+
+TEST_F(CliBewijs, RekentHetBestandVanEenWerkkopieBijHetVersiebeheer) {
+    schrijf("bron/a.c", opBron);
+    schrijf("bron/.git", "gitdir: ../elders\n");
+    EXPECT_EQ(goed("1 bestand geknipt, 1 blok, bewezen schoon\n"), draai({"-x", "-r", "-p", "bron", "-n", "uit"}));
+    EXPECT_FALSE(bestaat("uit/.git"));
+    EXPECT_EQ(goed("1 bestand geknipt, 1 blok, 1 overgenomen\n"),
+              draai({"--versiebeheer", "-r", "bron", "-n", "uit2"}));
+    EXPECT_TRUE(bestaat("uit2/.git"));
 }

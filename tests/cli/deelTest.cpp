@@ -74,8 +74,7 @@ class Tekstmaker {
 };
 
 kern::MarkerReeks maakMarkers() {
-    return kern::MarkerReeks({{.begin = kern::MarkerMasker("B{"), .eind = kern::MarkerMasker("B}")}},
-                             kern::Bijna::nee);
+    return kern::MarkerReeks({{.begin = kern::MarkerMasker("B{"), .eind = kern::MarkerMasker("B}")}});
 }
 
 }  // namespace
@@ -125,8 +124,8 @@ TEST(CliDeel, LeestZuinigDezelfdeBlokken) {
         const std::string inhoud = maker.maak();
         const Brontekst zuinig(Bytes(inhoud), Lezing::zuinig);
         const Brontekst volledig(Bytes(inhoud), Lezing::volledig);
-        const cli::Ontleding een = cli::ontleed(zuinig.geefTekst(), markers);
-        const cli::Ontleding ander = cli::ontleed(volledig.geefTekst(), markers);
+        const cli::Ontleding een = cli::ontleed(zuinig.geefTekst(), markers, cli::Ernst::waarschuwing);
+        const cli::Ontleding ander = cli::ontleed(volledig.geefTekst(), markers, cli::Ernst::waarschuwing);
         ASSERT_EQ(ander.meldingen, een.meldingen) << hulp::toonBytes(inhoud);
         const cli::KnipWens wens{.manier = Manier::getrouw, .inspringen = true, .vervanging = "X\nY"};
         ASSERT_EQ(cli::Knipsel(volledig, ander, wens).geefInhoud(),
@@ -143,7 +142,7 @@ TEST(CliDeel, KniptZoalsDeKern) {
         const std::string inhoud = maker.maakRegels(i % 3 == 0 ? "\n" : i % 3 == 1 ? "\r\n" : "\r");
         // Uit de ruwe bytes wordt pas bij het schrijven wat de kern ervan maakt.
         const Brontekst bron(Bytes(inhoud), i % 2 == 0 ? Lezing::tekst : Lezing::zuinig);
-        const cli::Ontleding ontleding = cli::ontleed(bron.geefTekst(), markers);
+        const cli::Ontleding ontleding = cli::ontleed(bron.geefTekst(), markers, cli::Ernst::waarschuwing);
         if (ontleding.heeftFout()) {
             continue;
         }
@@ -162,7 +161,7 @@ TEST(CliDeel, GetrouwLeestAlsHetVenster) {
     for (int i = 0; i < 50'000; ++i) {
         const std::string inhoud = maker.maakRegels(i % 3 == 0 ? "\n" : i % 3 == 1 ? "\r\n" : "\r");
         const Brontekst bron(Bytes(inhoud), Lezing::zuinig);
-        const cli::Ontleding ontleding = cli::ontleed(bron.geefTekst(), markers);
+        const cli::Ontleding ontleding = cli::ontleed(bron.geefTekst(), markers, cli::Ernst::waarschuwing);
         // Valt de enige byte weg die geen UTF-8 is, dan leest wat overblijft anders dan het hele bestand.
         const bool gemengd =
             inhoud.find('\xE9') != std::string::npos && inhoud.find("é") != std::string::npos;

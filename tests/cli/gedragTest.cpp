@@ -18,6 +18,7 @@ using hulp::Boom;
 using proef::bron;
 using proef::goed;
 using proef::knipselX;
+using proef::storing;
 using proef::Uitkomst;
 using proef::Woorden;
 
@@ -156,12 +157,86 @@ TEST_F(CliGedrag, DoetVerslagInJson) {
     EXPECT_EQ(
         "{\n  \"bestanden\": [\n    {\"bron\": \"-\", \"status\": \"in orde\", \"blokken\": 0, "
         "\"regels_erin\": 0, "
-        "\"regels_eruit\": 0, \"meldingen\": []}\n  ],\n  \"bewijs\": [],\n  \"opmerkingen\": [],\n  "
+        "\"regels_eruit\": 0, \"meldingen\": []}\n  ],\n  \"bewijs\": [],\n  \"opmerkingen\": [\n    \"er is nergens een blok gevonden; kijk de markers na\"\n  ],\n  "
         "\"totaal\": {\"geknipt\": 1, "
         "\"ongewijzigd\": 0, \"overgenomen\": 0, \"blokken\": 0, \"fouten\": 0, \"waarschuwingen\": 0, "
         "\"mislukt\": "
         "0},\n  \"afloop\": 0\n}\n",
         draai({"-j", "-c", "-"}).uit);
+}
+
+TEST_F(CliGedrag, GeeftOokEenVerslagInJsonAlsDeRunNietKan) {
+    const auto verslag = [](const std::string& reden) {
+        return Uitkomst{.status = 2,
+                        .uit = "{\n  \"bestanden\": [],\n  \"bewijs\": [],\n  \"opmerkingen\": [\n    \"" + reden +
+                               "\"\n  ],\n  \"totaal\": {\"geknipt\": 0, \"ongewijzigd\": 0, \"overgenomen\": 0, "
+                               "\"blokken\": 0, \"fouten\": 0, \"waarschuwingen\": 0, \"mislukt\": 0},\n  "
+                               "\"afloop\": 2\n}\n",
+                        .fout = "knipselaar-cli: fout: " + reden + "\n"};
+    };
+    const std::string onbekend = "onbekende optie '--nietbekend'; zie knipselaar-cli --help";
+    EXPECT_EQ(verslag(onbekend), draai({"--nietbekend", "--json", "a.c"}));
+    EXPECT_EQ(verslag(onbekend), draai({"-rj", "--nietbekend", "a.c"}));
+    EXPECT_EQ(storing(onbekend), draai({"-v", "j", "-vj", "--nietbekend", "--", "-j"})) << "dat is er geen";
+    EXPECT_EQ(verslag("weg: kan niet gelezen worden: bestaat niet; kijk de naam na"), draai({"-j", "weg", "-n", "uit"}));
+    schrijf("a.c", bron);
+    EXPECT_EQ(verslag("--json gaat niet samen met een knipsel of verschil op de standaarduitvoer; geef --uit, "
+                      "--naar, --ter-plaatse, --controle of --droog"),
+              draai({"-j", "a.c"}));
+}
+
+TEST_F(CliGedrag, ToontGeenBesturingstekensUitNamen) {
+    schrijf("boom/a\x1b[2J\nb\xC2\x9B.c", "//**** Student Eind ****//\n");
+    schrijf("boom/goed.c", bron);
+    EXPECT_EQ((Uitkomst{.status = 1,
+                        .uit = "boom/a\\x1b[2J\\x0ab\\x9b.c -> uit/a\\x1b[2J\\x0ab\\x9b.c: wordt niet geknipt, 1 fout\n"
+                               "boom/goed.c -> uit/goed.c: 1 blok, 5 regels erin, 5 eruit, 0 waarschuwingen\n"
+                               "1 bestand in orde, 1 blok, 1 met fouten\n",
+                        .fout = "boom/a\\x1b[2J\\x0ab\\x9b.c:1: fout: eindmarker zonder beginmarker\n"}),
+              draai({"--droog", "boom", "-n", "uit"}));
+    EXPECT_EQ(storing("w\\x1bg: kan niet gelezen worden: bestaat niet; kijk de naam na"), draai({"w\x1bg"}));
+}
+
+TEST_F(CliGedrag, MeldtBijDroogWatErBijSchrijvenMisgaat) {
+    schrijf("bron/a.c", bron);
+    schrijf("bron/dicht", "x");
+    schrijf("vast/oud", "x");
+    fs::permissions(map_ / "bron/a.c", fs::perms::all);
+    fs::permissions(map_ / "bron/dicht", fs::perms::none);
+    fs::permissions(map_ / "vast", fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
+                                       fs::perms::others_exec);
+    const std::string toegang = "geen toegang; geef rechten of kies een andere plaats\n";
+    const Uitkomst dicht{.status = 2,
+                         .uit = "bron/a.c -> uit/a.c: 1 blok, 5 regels erin, 5 eruit, 0 waarschuwingen\n"
+                                "bron/dicht -> uit/dicht: lukt niet\n"
+                                "1 bestand in orde, 1 blok, 1 mislukt\n",
+                         .fout = "knipselaar-cli: fout: bron/dicht: kan niet gelezen worden: " + toegang};
+    const proef::Start gewoon{.gewoneGebruiker = true};
+    EXPECT_EQ(dicht, draai({"--droog", "-r", "bron", "-n", "uit"}, gewoon));
+    const Uitkomst vast{
+        .status = 2,
+        .uit = "bron/a.c -> vast/diep/a.c: lukt niet\n0 bestanden in orde, 0 blokken, 1 mislukt\n",
+        .fout = "knipselaar-cli: fout: vast/diep/a.c: kan niet geschreven worden: " + toegang};
+    EXPECT_EQ(vast, draai({"--droog", "bron", "-n", "vast/diep"}, gewoon));
+    EXPECT_EQ(storing("weg/a.c: de directory weg bestaat niet; maak haar eerst"),
+              draai({"--droog", "bron/a.c", "-u", "weg/a.c"}));
+    fs::permissions(map_ / "bron/dicht", fs::perms::owner_all);
+}
+
+TEST_F(CliGedrag, SchrijftGeenMeldingInEenBestandAlsEenKanaalDichtIs) {
+    for (int i = 0; i < 200; ++i) {
+        schrijf("boom/" + std::to_string(i) + ".c", i % 2 == 0 ? bron : leegBlok + bron);
+    }
+    const proef::Start shell{.programma = "/bin/sh"};
+    EXPECT_EQ(0, draai({"-c", "exec \"$0\" -vX -J4 -r -t boom <&- 2>&-", KNIPSELAAR_CLI}, shell).status);
+    hulp::Boom verwacht;
+    for (int i = 0; i < 200; ++i) {
+        verwacht[std::to_string(i) + ".c"] = proef::knipselX;
+    }
+    EXPECT_EQ(verwacht, leesBoom("boom"));
+    schrijf("a.c", bron);
+    EXPECT_EQ(2, draai({"-c", "exec \"$0\" a.c >&-", KNIPSELAAR_CLI}, shell).status) << "uitvoer die nergens komt";
+    EXPECT_EQ(2, draai({"-c", "exec \"$0\" - <&-", KNIPSELAAR_CLI}, shell).status) << "invoer die er niet is";
 }
 
 TEST_F(CliGedrag, JsonIsTeLezen) {
@@ -197,7 +272,7 @@ TEST_F(CliGedrag, ToontVoortgangAlleenOpEenTerminal) {
     EXPECT_TRUE(fout.starts_with("\r1/30 bestanden, nog 0:0")) << hulp::toonBytes(fout);
     EXPECT_TRUE(fout.ends_with("\r\x1b[K")) << hulp::toonBytes(fout);
     EXPECT_EQ("", draaiOpTerminal({"-q", "-t", "-r", "boom"}).fout);
-    EXPECT_EQ("", draai({"-t", "-r", "boom"}).fout);
+    EXPECT_EQ(proef::geenBlok, draai({"-t", "-r", "boom"}).fout);
 }
 
 TEST_F(CliGedrag, DoetMeerBestandenTegelijkMetUitvoerOpVolgorde) {

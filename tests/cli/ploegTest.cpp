@@ -1,6 +1,7 @@
 #include "KnipselaarCli/ploeg.h"
 
 #include <gtest/gtest.h>
+#include <pthread.h>
 
 #include <chrono>
 #include <numeric>
@@ -29,6 +30,24 @@ TEST(CliPloeg, MeldtElkeUitslagOpVolgorde) {
         std::iota(verwacht.begin(), verwacht.end(), 0U);
         EXPECT_EQ(verwacht, gemeld) << draden;
     }
+}
+
+TEST(CliPloeg, GaatVerderMetDeDradenDieErZijn) {
+    pthread_attr_t gewoon{};
+    pthread_attr_t onmogelijk{};
+    ASSERT_EQ(0, pthread_getattr_default_np(&gewoon));
+    ASSERT_EQ(0, pthread_attr_init(&onmogelijk));
+    ASSERT_EQ(0, pthread_attr_setstacksize(&onmogelijk, std::size_t{1} << 46U));
+    ASSERT_EQ(0, pthread_setattr_default_np(&onmogelijk));
+    EXPECT_THROW(std::thread([] {}), std::system_error);
+    std::size_t gemeld = 0;
+    Ploeg ploeg(
+        100, [](std::size_t i) { return i; }, [] { return true; });
+    ploeg.werk(8, [&gemeld](std::size_t, std::size_t) { ++gemeld; });
+    EXPECT_EQ(100U, gemeld);
+    pthread_setattr_default_np(&gewoon);
+    pthread_attr_destroy(&onmogelijk);
+    pthread_attr_destroy(&gewoon);
 }
 
 TEST(CliPloeg, BegintNietsMeerAlsHetNietVerderMag) {

@@ -86,6 +86,15 @@ inline Uitkomst goed(std::string uit = {}) {
     return {.status = 0, .uit = std::move(uit), .fout = {}};
 }
 
+/// Wat er gemeld wordt als een hele run geen blok vond.
+inline const std::string geenBlok =
+    "knipselaar-cli: waarschuwing: er is nergens een blok gevonden; kijk de markers na\n";
+
+/// Een goede uitkomst van een run zonder blok.
+inline Uitkomst zonderBlok(std::string uit = {}) {
+    return {.status = 0, .uit = std::move(uit), .fout = geenBlok};
+}
+
 /// Verkeerd gebruik of een storing: één regel, niets op de uitvoer.
 inline Uitkomst storing(const std::string& melding) {
     return {.status = 2, .uit = {}, .fout = "knipselaar-cli: fout: " + melding + "\n"};

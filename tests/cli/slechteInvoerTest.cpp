@@ -45,14 +45,19 @@ TEST_F(CliSlechteInvoer, MeldtVerkeerdeOpties) {
         {{"-g", "-a", "a.c"}, "--getrouw en --als-venster gaan niet samen; kies er één"},
         {{"-i", "-a", "a.c"}, "--inspringen gaat niet samen met --als-venster; het venster springt niet in"},
         {{"-c", "-d", "a.c"}, "--controle, --droog en --verschil gaan niet samen; kies er één"},
-        {{"-j", "a.c"},
-         "--json gaat niet samen met een knipsel of verschil op de standaarduitvoer; geef --uit, --naar, "
-         "--ter-plaatse, "
-         "--controle of --droog"},
         {{"-p", "a.c"},
          "--bewijs heeft een bestemming nodig om na te lezen; geef --uit, --naar of --ter-plaatse"},
         {{"-p", "-c", "a.c"},
          "--bewijs heeft een bestemming nodig om na te lezen; geef --uit, --naar of --ter-plaatse"},
+        {{"-k", "alles", "-m", "*.c", "a.c"}, "--keuze en --masker gaan niet samen; met --masker kiest u alles zelf"},
+        {{"-p", "--versiebeheer", "-n", "x", "a.c"},
+         "--bewijs gaat niet samen met --versiebeheer; in de geschiedenis staat elke oplossing"},
+        {{"-u", "-", "-t", "a.c"}, "--uit, --naar en --ter-plaatse gaan niet samen; kies er één"},
+        {{"--vervang-uit", "-", "-"}, "'-' staat er 2 keer; de standaardinvoer is maar één keer te lezen"},
+        {{"--vervang-uit", "-", "--markers-uit", "-", "a.c"},
+         "'-' staat er 2 keer; de standaardinvoer is maar één keer te lezen"},
+        {{"-b", "A", "--markers-uit", "b.c", "-e", "B", "a.c"},
+         "--markers-uit staat tussen een --begin en zijn --eind; zet hem ervoor of erna"},
         {{"-p", "-d", "-n", "x", "a.c"},
          "--bewijs gaat niet samen met --droog of --verschil; die schrijven geen bestemming"},
     };
@@ -211,7 +216,7 @@ TEST_F(CliSlechteInvoer, LaatBijEenTeGrootBestandNietsHalfsAchter) {
 }
 
 TEST_F(CliSlechteInvoer, MeldtEenGebrokenPijp) {
-    schrijf("a.c", std::string(1'000'000, 'x'));
+    schrijf("a.c", std::string(1'000'000, 'x') + "\n" + bron);
     std::array<int, 2> pijp{};
     ASSERT_EQ(0, pipe2(pijp.data(), O_CLOEXEC));
     close(pijp[0]);

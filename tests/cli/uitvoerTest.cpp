@@ -34,8 +34,8 @@ TEST_F(CliUitvoer, KniptEenBestandNaarDeStandaarduitvoer) {
 
 TEST_F(CliUitvoer, KniptDeStandaardinvoer) {
     EXPECT_EQ(goed(knipselX), draai({"-v", "X", "-"}, {.invoer = bron}));
-    EXPECT_EQ(goed(), draai({"-"}));
-    EXPECT_EQ(goed("geen nieuwe regel"), draai({"-"}, {.invoer = "geen nieuwe regel"}));
+    EXPECT_EQ(proef::zonderBlok(), draai({"-"}));
+    EXPECT_EQ(proef::zonderBlok("geen nieuwe regel"), draai({"-"}, {.invoer = "geen nieuwe regel"}));
 }
 
 TEST_F(CliUitvoer, KniptEenGroteStandaardinvoer) {
@@ -205,19 +205,60 @@ TEST_F(CliUitvoer, VolgtGeenLinkDeBoomUit) {
     fs::create_symlink("../buiten/geheim.c", map_ / "bron/geheim.c");
     fs::create_symlink((map_ / "bron/a.c").string(), map_ / "bron/absoluut.c");
     fs::create_symlink("nergens", map_ / "bron/dood.c");
-    const auto buiten = [](const std::string& naam) {
-        return "knipselaar-cli: waarschuwing: bron/" + naam +
-               ": is een link die buiten bron uitkomt; overgeslagen\n";
+    const auto melding = [](const std::string& naam, const std::string& wat) {
+        return "knipselaar-cli: waarschuwing: bron/" + naam + ": is een link " + wat + "; overgeslagen\n";
     };
-    EXPECT_EQ(
-        (Uitkomst{.status = 0,
-                  .uit = "1 bestand geknipt, 1 blok\n",
-                  .fout = buiten("absoluut.c") + buiten("dood.c") + buiten("geheim.c") + buiten("weg")}),
-        draai({"-vX", "-r", "bron", "-n", "uit"}));
+    const std::string buiten = "die buiten bron uitkomt";
+    EXPECT_EQ((Uitkomst{.status = 0,
+                        .uit = "1 bestand geknipt, 1 blok\n",
+                        .fout = melding("absoluut.c", buiten) + melding("dood.c", "die nergens heen wijst") +
+                                melding("geheim.c", buiten) + melding("weg", buiten)}),
+              draai({"-vX", "-r", "bron", "-n", "uit"}));
     EXPECT_EQ((Boom{{"a.c", knipselX}}), leesBoom("uit"));
     EXPECT_EQ(0, draai({"-vX", "-r", "-t", "bron"}).status);
     EXPECT_EQ((Boom{{"geheim.c", bron}}), leesBoom("buiten"));
     EXPECT_EQ(knipselX, lees("bron/a.c"));
+}
+
+TEST_F(CliUitvoer, VolgtGeenLinkDieDeBoomUitGaatEnErWeerInKomt) {
+    schrijf("l/a.c", bron);
+    fs::create_symlink("../l/a.c", map_ / "l/b.c");
+    fs::create_symlink("sub/../../l/a.c", map_ / "l/c.c");
+    fs::create_symlink("b.c", map_ / "l/d.c");
+    fs::create_directories(map_ / "l/sub");
+    std::string fout;
+    for (const std::string naam : {"b.c", "c.c", "d.c"}) {
+        fout += "knipselaar-cli: waarschuwing: l/" + naam + ": is een link die buiten l uitkomt; overgeslagen\n";
+    }
+    EXPECT_EQ((Uitkomst{.status = 0, .uit = "1 bestand geknipt, 1 blok, bewezen schoon\n", .fout = fout}),
+              draai({"-vX", "-r", "-p", "l", "-n", "uit"}));
+    EXPECT_EQ((Boom{{"a.c", knipselX}, {"sub", "/"}}), leesBoom("uit"));
+    EXPECT_EQ((Uitkomst{.status = 0, .uit = "1 bestand geknipt, 1 blok\n", .fout = fout}),
+              draai({"-vX", "l", "-n", "plat"}));
+    EXPECT_EQ((Boom{{"a.c", knipselX}}), leesBoom("plat"));
+}
+
+TEST_F(CliUitvoer, LegtAlleenLinksNaarWatOokMeegaat) {
+    schrijf("bron/a.c", bron);
+    schrijf("bron/.verborgen/x", "x");
+    fs::create_symlink(".verborgen/x", map_ / "bron/een");
+    fs::create_symlink("een", map_ / "bron/twee");
+    fs::create_symlink("kring", map_ / "bron/kring");
+    fs::create_symlink(".", map_ / "bron/zelf");
+    fs::create_symlink("zelf/a.c", map_ / "bron/ver.c");
+    ASSERT_EQ(0, mkfifo((map_ / "bron/pijp").c_str(), 0600));
+    fs::create_symlink("pijp", map_ / "bron/naar-pijp");
+    const auto melding = [](const std::string& naam, const std::string& wat) {
+        return "knipselaar-cli: waarschuwing: bron/" + naam + ": is " + wat + "; overgeslagen\n";
+    };
+    const std::string verborgen = "een link naar bron/.verborgen, en dat gaat niet mee";
+    EXPECT_EQ((Uitkomst{.status = 0,
+                        .uit = "1 bestand geknipt, 1 blok, 2 overgenomen\n",
+                        .fout = melding("een", verborgen) + melding("kring", "een link die nergens heen wijst") +
+                                melding("naar-pijp", "een link naar bron/pijp, en dat gaat niet mee") +
+                                melding("pijp", "geen gewoon bestand") + melding("twee", verborgen)}),
+              draai({"-vX", "-r", "bron", "-n", "uit"}));
+    EXPECT_EQ((Boom{{"a.c", knipselX}, {"ver.c", "-> zelf/a.c"}, {"zelf", "-> ."}}), leesBoom("uit"));
 }
 
 TEST_F(CliUitvoer, SchrijftNietDoorEenLinkInDeBestemming) {
@@ -262,7 +303,7 @@ TEST_F(CliUitvoer, KniptEenBoomTerPlaatseEnElkBestandEenmaal) {
                     {"sub/b.cpp", knipselX},
                     {"sub/c.txt", bron}}),
               leesBoom("boom"));
-    EXPECT_EQ(goed("0 bestanden geknipt, 0 blokken, 1 zonder blok\n"), draai({"-t", "boom"}))
+    EXPECT_EQ(proef::zonderBlok("0 bestanden geknipt, 0 blokken, 1 zonder blok\n"), draai({"-t", "boom"}))
         << "zonder -r plat";
 }
 
@@ -347,4 +388,72 @@ TEST_F(CliUitvoer, LaatEenBestandMetEenFoutStaanEnKniptDeAndere) {
                         .fout = "boom/fout.c:1: fout: beginmarker zonder eindmarker\n"}),
               draai({"-vX", "boom", "-n", "uit"}));
     EXPECT_EQ((Boom{{"a.c", knipselX}, {"z.c", knipselX}}), leesBoom("uit"));
+}
+
+TEST_F(CliUitvoer, GeeftEenNieuweDirectoryDeRechtenVanDieVanDeBron) {
+    schrijf("bron/dicht/diep/a.c", bron);
+    schrijf("bron/open/b.c", bron);
+    chmod((map_ / "bron/dicht").c_str(), 0700);
+    chmod((map_ / "bron/dicht/diep").c_str(), 0555);
+    chmod((map_ / "bron/open").c_str(), 0777);
+    ASSERT_EQ(0, draai({"-r", "bron", "-n", "uit"}).status);
+    const mode_t masker = umask(0);
+    umask(masker);
+    EXPECT_EQ(0700U, geefRechten("uit/dicht"));
+    EXPECT_EQ((0555U | 0700U) & ~masker, geefRechten("uit/dicht/diep")) << "de eigenaar moet erin kunnen schrijven";
+    EXPECT_EQ(0777U & ~masker, geefRechten("uit/open"));
+    chmod((map_ / "uit/open").c_str(), 0700);
+    ASSERT_EQ(0, draai({"-r", "bron", "-n", "uit"}).status);
+    EXPECT_EQ(0700U, geefRechten("uit/open")) << "die was er al";
+}
+
+TEST_F(CliUitvoer, HerkentEenBestemmingInDeBronDieErgensAndersAangekoppeldIs) {
+    schrijf("bron/a.c", bron);
+    fs::create_directories(map_ / "bron/sub");
+    fs::create_directories(map_ / "elders/diep");
+    const proef::Start eigenAankoppeling{.programma = "/usr/bin/unshare"};
+    const auto draaiAangekoppeld = [&](const std::string& bestemming) {
+        return draai({"-m", "sh", "-c", "mount --bind elders bron/sub && exec \"$0\" -r bron -n \"$1\"", KNIPSELAAR_CLI,
+                      bestemming},
+                     eigenAankoppeling);
+    };
+    if (geteuid() != 0 || draai({"-m", "mount", "--bind", "elders", "bron/sub"}, eigenAankoppeling).status != 0) {
+        GTEST_SKIP() << "alleen root kan een directory elders aankoppelen";
+    }
+    for (const std::string bestemming : {"elders", "elders/diep", "elders/nieuw"}) {
+        EXPECT_EQ(storing(bestemming + ": ligt in de bron, via bron/sub; kies een bestemming erbuiten"),
+                  draaiAangekoppeld(bestemming));
+    }
+    EXPECT_EQ((Boom{{"diep", "/"}}), leesBoom("elders"));
+}
+
+TEST_F(CliUitvoer, SchrijftNaarDeStandaarduitvoerAlsDatMetUitGevraagdIs) {
+    schrijf("a.c", bron);
+    EXPECT_EQ(goed(knipsel), draai({"a.c", "--uit", "-"}));
+    EXPECT_FALSE(bestaat("-"));
+}
+
+TEST_F(CliUitvoer, MeldtWatEenBestandVanEenCollegaTerPlaatseNietHoudt) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "alleen root kan een bestand van een ander maken";
+    }
+    constexpr uid_t ik = 65534;
+    constexpr uid_t collega = 12345;
+    for (const auto& [naam, groep] : {std::pair("groep.c", ik), std::pair("vreemd.c", collega)}) {
+        schrijf(naam, bron);
+        ASSERT_EQ(0, chown((map_ / naam).c_str(), collega, groep));
+        ASSERT_EQ(0, chmod((map_ / naam).c_str(), 0664));
+    }
+    EXPECT_EQ((Uitkomst{.status = 0,
+                        .uit = "2 bestanden geknipt, 2 blokken, 2 waarschuwingen\n",
+                        .fout = "groep.c: waarschuwing: kon eigenaar niet houden\n"
+                                "vreemd.c: waarschuwing: kon eigenaar en groep niet houden\n"}),
+              draai({"-vX", "-t", "groep.c", "vreemd.c"}, {.gewoneGebruiker = true}));
+    struct stat kenmerken {};
+    ASSERT_EQ(0, stat((map_ / "groep.c").c_str(), &kenmerken));
+    EXPECT_EQ(ik, kenmerken.st_uid);
+    EXPECT_EQ(ik, kenmerken.st_gid);
+    EXPECT_EQ(0664U, geefRechten("groep.c"));
+    EXPECT_EQ(0644U, geefRechten("vreemd.c")) << "een andere groep mag niet meer dan iedereen";
+    EXPECT_EQ(knipselX, lees("vreemd.c"));
 }

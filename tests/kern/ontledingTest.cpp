@@ -151,14 +151,12 @@ TEST(Ontleding, KentMarkersDieMiddenInEenTekenVanElkaarVerschillen) {
     EXPECT_EQ(toon({{5, Soort::zonderBegin}}), toon(uitslag.bevindingen.lijst));
 }
 
-TEST(Ontleding, ZoektAlleenNaarBijnaMarkersAlsDatGevraagdIs) {
-    const kern::MarkerReeks reeks(
-        {{.begin = kern::MarkerMasker("Student Begin"), .eind = kern::MarkerMasker("Student Eind")}},
-        kern::Bijna::nee);
+TEST(Ontleding, HeeftDeMarkerVanHetEnePaarNietVoorBijnaDieVanHetAndere) {
+    const kern::MarkerReeks reeks({{.begin = kern::MarkerMasker("//Begin"), .eind = kern::MarkerMasker("//Eind")},
+                                   {.begin = kern::MarkerMasker("--begin"), .eind = kern::MarkerMasker("--eind")}});
     Ontleder ontleder(reeks);
-    ontleder.neem("Student Begin\n//Student  \nStudent begin\nStudent Eind\n");
-    ontleder.neemStaart("student eind");
-    EXPECT_EQ("", toon(ontleder.maakAf().lijst));
+    ontleder.neem("//Begin\nx\n//Eind\n--begin\ny\n--eind\n##BEGIN\n");
+    EXPECT_EQ(toon({{7, Soort::bijnaBegin}}), toon(ontleder.maakAf().lijst));
 }
 
 TEST(Ontleding, BewaartHoogstensZoveelEnTeltDeRest) {

@@ -71,6 +71,10 @@ struct Opening {
 /// Opent een gewoon bestand om te lezen. Een link wordt gevolgd.
 Opening openBron(const std::string& pad);
 
+/// Opent wat de gebruiker zelf noemt om te lezen, ook een pijp, en wacht zo nodig op wie haar vult. Alleen als het
+/// geen gewoon bestand hoeft te zijn.
+Opening openStroom(const std::string& pad);
+
 /// Opent een gewoon bestand om te schrijven en maakt het leeg, of maakt het. Een link wordt gevolgd, behalve
 /// een die nergens heen wijst: dan zou er elders een bestand ontstaan. Die gaat niet open en is van de soort
 /// link. Wat geen gewoon bestand is blijft zoals het is.

@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "Knipselaar/kern/systeem/bestand.h"
+#include "Knipselaar/kern/systeem/verlies.h"
 
 namespace kern {
 
@@ -31,12 +32,14 @@ class Buurbestand {
     /// Waar geschreven kan worden; blijft van dit object.
     int geefKanaal() const { return bestand_.geefKanaal(); }
 
-    /// Sluit het bestand en zet het op de plaats van de bestemming, met de eigenaar, groep en rechten van wat
-    /// daar staat (op Windows: kenmerken en toegangslijst). Een vreemde eigenaar kan alleen een beheerder
-    /// houden; dan vervallen de bijzondere rechten, en de gewone blijven. Lukt het niet, dan is de bestemming
-    /// wat zij was.
+    /// Sluit het bestand en zet het op de plaats van de bestemming, met de eigenaar, groep, rechten,
+    /// toegangslijst en aantekeningen van wat daar staat (op Windows: kenmerken en toegangslijst). Een vreemde
+    /// eigenaar kan alleen een beheerder houden; dan vervallen de bijzondere rechten. Wat niet te houden was
+    /// zegt geefVerlies; niemand mag daardoor meer dan eerst. Lukt het niet, dan is de bestemming wat zij was.
     /// @param oud  van de bestemming.
     std::error_code vervang(const Kenmerken& oud);
+
+    const Verlies& geefVerlies() const { return verlies_; }
 
     /// Sluit het bestand en zet het op de plaats van de bestemming, of die er al is of niet, voor uitvoer die
     /// opnieuw te maken is. Lukt het niet, dan is de bestemming wat zij was. Valt kort erna de stroom uit,
@@ -52,6 +55,7 @@ class Buurbestand {
     std::string naam_;
     Bestand bestand_;
     std::error_code fout_;
+    Verlies verlies_;
     bool bestaat_ = false;
 };
 

@@ -23,4 +23,12 @@ std::error_code leesDirectory(const std::string& pad, std::vector<Deel>& uit);
 /// Maakt een directory, met de directories erboven die er nog niet zijn. Is zij er al, dan gebeurt er niets.
 std::error_code maakDirectories(const std::string& pad);
 
+/// Maakt één directory. Is zij er al, dan gebeurt er niets.
+/// @param rechten  van de nieuwe directory; de eigenaar houdt altijd alle rechten, en wat de gebruiker zijn
+///                 directories nooit geeft gaat eraf. Op Windows zijn ze die van de directory erboven.
+std::error_code maakDirectory(const std::string& pad, std::filesystem::perms rechten);
+
+/// Waarom er in een directory niets te maken is; leeg als dat mag.
+std::error_code keurSchrijfbaar(const std::string& directory);
+
 }  // namespace kern

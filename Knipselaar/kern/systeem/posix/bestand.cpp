@@ -59,6 +59,13 @@ Opening openBron(const std::string& pad) {
     return houdGewoonBestand(open(pad.c_str(), O_RDONLY | altijd));
 }
 
+Opening openStroom(const std::string& pad) {
+    const int kanaal = open(pad.c_str(), O_RDONLY | O_NOCTTY | O_CLOEXEC);
+    Opening opening{.bestand = Bestand(kanaal), .kenmerken = {}, .fout = {}};
+    opening.fout = opening.bestand.isOpen() ? leesKenmerken(kanaal, opening.kenmerken) : posix::geefFout();
+    return opening;
+}
+
 Opening openDoel(const std::string& pad) {
     constexpr mode_t rechten = 0666;
     int kanaal = open(pad.c_str(), O_WRONLY | altijd);

@@ -51,12 +51,11 @@ std::error_code Buurbestand::vervang(const Kenmerken& oud) {
     // Neemt het de plaats van een ander in, dan schrijft ext4 de inhoud hoe dan ook naar de schijf, maar
     // zonder deze wenk pas bij de hernoeming, en dan wacht iedereen die iets in dezelfde directory doet.
     sync_file_range(geefKanaal(), 0, 0, SYNC_FILE_RANGE_WRITE);
-    // Eerst de eigenaar en dan pas de rechten: die wissel kan rechten afnemen.
     Kenmerken nu;
-    const bool eigenaarGelijk =
-        !leesKenmerken(geefKanaal(), nu) && !posix::neemEigenaarOver(geefKanaal(), nu, oud);
-    if (const auto fout =
-            posix::zetRechten(geefKanaal(), eigenaarGelijk ? oud.rechten : oud.rechten & perms::all)) {
+    if (const auto fout = leesKenmerken(geefKanaal(), nu)) {
+        return fout;
+    }
+    if (const auto fout = posix::neemAllesOver(geefKanaal(), nu, bestemming_, oud, verlies_)) {
         return fout;
     }
     const auto fout = bestand_.sluit();

@@ -1,6 +1,8 @@
 #include "Knipselaar/kern/systeem/directory.h"
 
 #include <dirent.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <memory>
@@ -62,6 +64,17 @@ std::error_code maakDirectories(const std::string& pad) {
     std::error_code fout;
     std::filesystem::create_directories(pad, fout);
     return fout;
+}
+
+std::error_code maakDirectory(const std::string& pad, std::filesystem::perms rechten) {
+    using std::filesystem::perms;
+    const auto fout =
+        posix::keur(mkdir(pad.c_str(), static_cast<mode_t>((rechten & perms::all) | perms::owner_all)));
+    return fout == std::errc::file_exists ? std::error_code() : fout;
+}
+
+std::error_code keurSchrijfbaar(const std::string& directory) {
+    return posix::keur(access(directory.c_str(), W_OK | X_OK));
 }
 
 }  // namespace kern

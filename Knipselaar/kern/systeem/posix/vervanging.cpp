@@ -17,11 +17,12 @@ std::error_code verhuis(const std::string& nieuw, const std::string& plaats, con
         return std::make_error_code(std::errc::cross_device_link);
     }
     const int kanaal = opening.bestand.geefKanaal();
-    if (const auto fout = posix::neemEigenaarOver(kanaal, opening.kenmerken, oud)) {
+    Verlies verlies;
+    if (const auto fout = posix::neemAllesOver(kanaal, opening.kenmerken, plaats, oud, verlies)) {
         return fout;
     }
-    if (const auto fout = posix::zetRechten(kanaal, oud.rechten)) {
-        return fout;
+    if (verlies.isEr()) {
+        return std::make_error_code(std::errc::operation_not_permitted);
     }
     return posix::keur(std::rename(nieuw.c_str(), plaats.c_str()));
 }

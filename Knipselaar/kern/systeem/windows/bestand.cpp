@@ -96,6 +96,10 @@ Opening openBron(const std::string& pad) {
     return houdGewoonBestand(handvat, _O_RDONLY);
 }
 
+Opening openStroom(const std::string& pad) {
+    return openBron(pad);
+}
+
 Opening openDoel(const std::string& pad) {
     const std::wstring voluit = windows::maakVoluit(pad);
     if (windows::isApparaat(voluit)) {

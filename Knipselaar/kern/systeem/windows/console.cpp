@@ -35,7 +35,20 @@ void maakTerminalKlaar(int kanaal) {
 
 }  // namespace
 
+void zorgVoorKanalen() {
+    for (const int kanaal : std::array{invoerkanaal, uitvoerkanaal, foutkanaal}) {
+        if (_get_osfhandle(kanaal) < 0) {
+            const int niets = _open("NUL", kanaal == invoerkanaal ? _O_WRONLY : _O_RDONLY);
+            if (niets >= 0 && niets != kanaal) {
+                _dup2(niets, kanaal);
+                _close(niets);
+            }
+        }
+    }
+}
+
 std::vector<std::string> beginConsole(int /*aantal*/, char** /*woorden*/) {
+    zorgVoorKanalen();
     for (const int kanaal : std::array{invoerkanaal, uitvoerkanaal, foutkanaal}) {
         _setmode(kanaal, _O_BINARY);
         maakTerminalKlaar(kanaal);

@@ -83,4 +83,13 @@ std::error_code maakDirectories(const std::string& pad) {
     return maakVolledig(voluit);
 }
 
+std::error_code maakDirectory(const std::string& pad, std::filesystem::perms /*rechten*/) {
+    return maakDirectories(pad);
+}
+
+std::error_code keurSchrijfbaar(const std::string& directory) {
+    Kenmerken kenmerken;
+    return leesKenmerken(directory, kenmerken);
+}
+
 }  // namespace kern
