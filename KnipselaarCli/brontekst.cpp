@@ -242,7 +242,9 @@ void Brontekst::zetOm(std::string_view smal) {
 /// regel kan eindigen; wat de omzetter daarvan niet als regeleinde ziet hoort bij wat ervoor stond.
 void Brontekst::deelIn(std::string_view stuk, std::size_t begin) {
     kern::RegelOmzetter omzetter;
-    std::string tekst;
+    std::string regel;
+    // Uit één byte komen er hoogstens twee; wat niet gebruikt wordt kost niets.
+    tekst_.maakRuimte(2 * stuk.size() + 1);
     // Een te lang geschreven LF, CR of NUL is ook een regeleinde; die bytes komen dan één voor één.
     constexpr std::string_view mogelijkEinde = "\n\r\0\x8A\x8D\x80"sv;
     beginRegel(0, begin);
@@ -250,22 +252,23 @@ void Brontekst::deelIn(std::string_view stuk, std::size_t begin) {
         const std::size_t einde = stuk.find_first_of(mogelijkEinde, plek);
         const std::size_t volgende = einde == std::string_view::npos ? stuk.size() : einde + 1;
         const std::string_view nieuw = stuk.substr(plek, volgende - plek);
-        const std::size_t vooraf = tekst.size();
-        omzetter.zetOm(nieuw, tekst);
+        regel.clear();
+        omzetter.zetOm(nieuw, regel);
+        tekst_.voegToe(regel);
         plek = volgende;
-        if (tekst.size() > vooraf && tekst.back() == '\n') {
-            beginRegel(tekst.size(), begin + plek);
-        } else if (tekst.size() == vooraf && isTweedeDeel(nieuw)) {
+        if (regel.ends_with('\n')) {
+            beginRegel(tekst_.geef().size(), begin + plek);
+        } else if (regel.empty() && isTweedeDeel(nieuw)) {
             ruwe_.back() = begin + plek;
         }
     }
-    const std::size_t vooraf = tekst.size();
-    omzetter.sluitAf(tekst);
-    if (tekst.size() == vooraf) {
+    regel.clear();
+    omzetter.sluitAf(regel);
+    tekst_.voegToe(regel);
+    if (regel.empty()) {
         regels_.pop_back();
         ruwe_.pop_back();
     }
-    tekst_ = kern::Bytes(tekst);
 }
 
 void Brontekst::leesBreed() {

@@ -24,9 +24,12 @@ std::size_t telRegels(std::string_view bytes) {
     return static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
 }
 
-/// Het aantal regels van een tekst van de kern; de lege regel achter het laatste regeleinde telt niet.
-std::size_t telTekst(std::string_view tekst) {
-    const bool extra = tekst.size() == 1 || tekst.ends_with("\n\n");
+/// Het aantal regels van een bestand. De kern leest achter het laatste regeleinde meestal nog een lege regel; die
+/// telt niet.
+std::size_t telBestand(const Brontekst& bron) {
+    const std::string_view tekst = bron.geefTekst();
+    const std::size_t laatste = tekst.substr(0, tekst.size() - 1).rfind('\n') + 1;
+    const bool extra = bron.naarRuw(laatste) == bron.geefRuw().size();
     return telRegels(tekst) - (extra ? 1 : 0);
 }
 
@@ -91,8 +94,10 @@ class Knipbeurt {
         if (teksten_.markersGewoon) {
             return Lezing::zuinig;
         }
-        return opties_.manier == Manier::venster ? Lezing::tekst : Lezing::volledig;
+        return opties_.manier == Manier::venster && !moetTellen() ? Lezing::tekst : Lezing::volledig;
     }
+
+    bool moetTellen() const { return opties_.json || opties_.opdracht == Opdracht::droog; }
 
     const std::string& geefVervanging() const {
         return teksten_.geefVervanging(opties_.taal.value_or(kiesTaal(taak_.bron)));
@@ -117,7 +122,7 @@ class Knipbeurt {
     }
 
     void verwerk(const Brontekst& bron, const Ontleding& ontleding, Knipsel& knipsel, fs::perms rechten) {
-        if (opties_.json || opties_.opdracht == Opdracht::droog) {
+        if (moetTellen()) {
             tel(bron, ontleding, knipsel);
         }
         if (opties_.opdracht == Opdracht::verschil) {
@@ -136,7 +141,7 @@ class Knipbeurt {
     }
 
     void tel(const Brontekst& bron, const Ontleding& ontleding, Knipsel& knipsel) {
-        uitslag_.regelsErin = telTekst(bron.geefTekst());
+        uitslag_.regelsErin = telBestand(bron);
         if (opties_.manier == Manier::venster) {
             uitslag_.regelsEruit = telRegels(knipsel.geefInhoud());
             return;
