@@ -4,10 +4,14 @@
 #include <gtest/gtest.h>
 #include <wx/mstream.h>
 
+#include <csignal>
+#include <cstdlib>
 #include <random>
 
 #include "Knipselaar/kern/stroomKnipper.h"
+#include "Knipselaar/kern/systeem/onderbreking.h"
 #include "Knipselaar/kern/tekstLezer.h"
+#include "KnipselaarCli/boom.h"
 #include "KnipselaarCli/knipsel.h"
 #include "KnipselaarCli/verslag.h"
 #include "tests/hulp/bestanden.h"
@@ -177,6 +181,20 @@ TEST(CliDeel, GetrouwLeestAlsHetVenster) {
             << hulp::toonBytes(inhoud);
     }
     EXPECT_LT(500, geknipt);
+}
+
+TEST(CliDeel, LooptNietVerderAlsErOmStoppenGevraagdIs) {
+    const hulp::TijdelijkeMap map;
+    const auto stopEnLoop = [&map] {
+        kern::vangOnderbreking();
+        std::raise(SIGINT);
+        try {
+            cli::loopAf(map.pad().string(), {});
+        } catch (const cli::Fout& fout) {
+            std::_Exit(std::string(fout.what()) == "onderbroken" ? 7 : 8);
+        }
+    };
+    EXPECT_EXIT(stopEnLoop(), testing::ExitedWithCode(7), "");
 }
 
 TEST(CliDeel, SchrijftElkeNaamInJson) {

@@ -55,6 +55,15 @@ std::string vatSamen(const kern::BatchTelling& telling) {
 
 }  // namespace
 
+TEST(BatchVerslag, ZegtWatEenBestandTerPlaatseNietHield) {
+    Afloop afloop = maakTerPlaatse();
+    afloop.verlies = {.eigenaar = true, .groep = true};
+    verwacht(afloop, {}, {"waarschuwing | Let op: kon eigenaar en groep niet houden"});
+    afloop.vervangReden = "bestaat niet";
+    verwacht(afloop, {"fout | Fout: niet geknipt; de oplossing staat er nog"},
+             {"fout | Fout: niet vervangen (bestaat niet); de oplossing staat er nog"});
+}
+
 TEST(BatchVerslag, ZegtNietsOverEenBestandDatGoedGing) {
     for (const std::size_t blokken : {0U, 1U, 7U}) {
         verwacht(maakVlak(blokken), {}, {});
