@@ -1,27 +1,43 @@
 # Aanvulling van knipselaar-cli in bash.
 
 _knipselaar_cli() {
-    local huidig=${COMP_WORDS[COMP_CWORD]} vorige=${COMP_WORDS[COMP_CWORD - 1]}
+    local huidig=${COMP_WORDS[COMP_CWORD]} vorige=${COMP_WORDS[COMP_CWORD - 1]} vooraan=
     # Bash maakt van "--keuze=v" drie woorden.
     [ "$huidig" = = ] && huidig=
     [ "$vorige" = = ] && vorige=${COMP_WORDS[COMP_CWORD - 2]}
 
+    # Na "--" komen alleen nog bestanden.
+    local woord
+    for woord in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
+        if [ "$woord" = -- ]; then
+            mapfile -t COMPREPLY < <(compgen -f -- "$huidig")
+            compopt -o filenames 2>/dev/null
+            return
+        fi
+    done
+    # Staat "=" niet bij wat woorden scheidt, dan zit de waarde aan de optie vast.
+    if [[ $huidig == --*=* ]]; then
+        vorige=${huidig%%=*}
+        huidig=${huidig#*=}
+        vooraan="$vorige="
+    fi
+
     compopt -o filenames 2>/dev/null
     case $vorige in
     -k | --keuze)
-        mapfile -t COMPREPLY < <(compgen -W 'talen vhdl alles' -- "$huidig")
+        mapfile -t COMPREPLY < <(compgen -P "$vooraan" -W 'talen vhdl alles' -- "$huidig")
         return
         ;;
     -T | --taal)
-        mapfile -t COMPREPLY < <(compgen -W 'c vhdl overig' -- "$huidig")
+        mapfile -t COMPREPLY < <(compgen -P "$vooraan" -W 'c vhdl overig' -- "$huidig")
         return
         ;;
     -n | --naar)
-        mapfile -t COMPREPLY < <(compgen -d -- "$huidig")
+        mapfile -t COMPREPLY < <(compgen -P "$vooraan" -d -- "$huidig")
         return
         ;;
     -u | --uit | --markers-uit | --vervang-uit | --vervang-c-uit | --vervang-vhdl-uit | --vervang-overig-uit)
-        mapfile -t COMPREPLY < <(compgen -f -- "$huidig")
+        mapfile -t COMPREPLY < <(compgen -P "$vooraan" -f -- "$huidig")
         return
         ;;
     -b | --begin | -e | --eind | -v | --vervang | --vervang-c | --vervang-vhdl | --vervang-overig | -m | --masker | \

@@ -126,6 +126,12 @@ TEST_F(CliHandleiding, BashVultAan) {
     std::sort(bestanden.begin(), bestanden.end());
     EXPECT_EQ((Woorden{"een.c", "eendir"}), bestanden);
     EXPECT_EQ(cli::geefAlleOpties().size(), vulAan("--").size());
+    EXPECT_EQ((Woorden{"een.c"}), vulAan("--uit = een."));
+    EXPECT_EQ((Woorden{"--uit=een.c"}), vulAan("--uit=een."));
+    EXPECT_EQ((Woorden{"--keuze=vhdl"}), vulAan("--keuze=v"));
+    schrijf("--droog", "");
+    EXPECT_EQ((Woorden{"--droog"}), vulAan("-- --dr"));
+    EXPECT_EQ((Woorden{""}), vulAan("-- --bew"));
 }
 
 TEST_F(CliHandleiding, DeMakefileKniptWatVeranderdIs) {
@@ -155,11 +161,22 @@ TEST_F(CliHandleiding, DeHookHoudtEenFouteCommitTegen) {
     schrijf("LEESMIJ", foutBron);
     EXPECT_EQ("afloop 0\n", voerScriptUit("git add -A; git commit --quiet -m goed"));
     schrijf("fout.c", foutBron);
-    EXPECT_EQ("fout.c:1: fout: beginmarker zonder eindmarker\nafloop 1\n",
-              voerScriptUit("git add -A; git commit --quiet -m fout"));
-    EXPECT_EQ("goed\nafloop 0\n", voerScriptUit("git log --format=%s"));
+    const std::string melding = "./fout.c:1: fout: beginmarker zonder eindmarker\nafloop 1\n";
+    EXPECT_EQ(melding, voerScriptUit("git add -A; git commit --quiet -m fout"));
+    schrijf("fout.c", bron);
+    EXPECT_EQ(melding, voerScriptUit("git commit --quiet -m fout")) << "alleen in de werkkopie hersteld";
+    EXPECT_EQ("afloop 0\n", voerScriptUit("git add -A; git commit --quiet -m hersteld"));
+    schrijf("fout.c", foutBron);
+    EXPECT_EQ("afloop 0\n", voerScriptUit("git commit --quiet --allow-empty -m nietfout"))
+        << "de fout zit niet in de commit";
+    EXPECT_EQ("./anders.c:1: fout: beginmarker zonder eindmarker\nafloop 1\n",
+              voerScriptUit("git mv fout.c anders.c; git add -A; git commit --quiet -m anders"));
+    schrijf("anders.c", "//**** STUDENT BEGIN ****//\n");
+    EXPECT_EQ("./anders.c:1: fout: bijna een beginmarker; zo telt hij niet\nafloop 1\n",
+              voerScriptUit("git add -A; git commit --quiet -m bijna"));
+    EXPECT_EQ("nietfout\nhersteld\ngoed\nafloop 0\n", voerScriptUit("git log --format=%s"));
     EXPECT_EQ("afloop 0\n",
-              voerScriptUit("git rm --quiet --cached fout.c; git commit --quiet --allow-empty -m leeg"))
+              voerScriptUit("git rm -f --quiet '*.c'; git commit --quiet --allow-empty -m leeg"))
         << "zonder C of VHDL valt er niets na te kijken";
 }
 
@@ -199,6 +216,13 @@ TEST_F(CliHandleiding, DeTaakPubliceertDeStudentversie) {
     fs::remove(map_ / "opdrachten/lab1/Makefile");
     publiceer();
     EXPECT_EQ("LEESMIJ\nlab1/a.c\n" + knipsel + "2\nafloop 0\n", gepubliceerd());
+    voerScriptUit(
+        "rm -rf student; git clone --quiet \"$STUDENTREPO\" student; cd student; mkdir .ci; touch .gitignore .ci/taak "
+        "lab1/.clang-format; git add -A; git commit -q -m punten; git push -q origin HEAD");
+    schrijf("opdrachten/LEESMIJ", "heel veel plezier\n");
+    publiceer();
+    EXPECT_EQ(".ci/taak\n.gitignore\nLEESMIJ\nlab1/.clang-format\nlab1/a.c\n" + knipsel + "4\nafloop 0\n",
+              gepubliceerd());
 }
 
 TEST_F(CliHandleiding, DeEersteVoorbeeldenWerken) {
