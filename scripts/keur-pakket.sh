@@ -122,7 +122,7 @@ met_apt() {
 toestand() {
     dpkg-query -W -f '${db:Status-Abbrev} ${binary:Package} ${Version}\n' | grep -v '^un'
     locale -a
-    find /etc /opt /usr /var -xdev -iname '*knipselaar*' 2>/dev/null | sort
+    als_root find /etc /opt /usr /var -xdev -iname '*knipselaar*' | sort
 }
 
 # De pakketten die apt erbij gaat zetten; wat het alleen vernieuwt, noemt het met de oude versie erachter.
