@@ -7,6 +7,7 @@
 #include "Knipselaar/kern/systeem/bestand.h"
 #include "Knipselaar/kern/systeem/directory.h"
 #include "Knipselaar/kern/systeem/onderbreking.h"
+#include "Knipselaar/kern/utf8.h"
 #include "KnipselaarCli/bestanden.h"
 #include "KnipselaarCli/fout.h"
 #include "KnipselaarCli/knipsel.h"
@@ -18,14 +19,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::size_t telRegels(std::string_view bytes) {
-    return static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
-}
-
 /// Het aantal regels van een tekst van de kern; de lege regel achter het laatste regeleinde telt niet.
 std::size_t telTekst(std::string_view tekst) {
     const bool extra = tekst.size() == 1 || tekst.ends_with("\n\n");
-    return telRegels(tekst) - (extra ? 1 : 0);
+    return kern::telRegeleinden(tekst) - (extra ? 1 : 0);
 }
 
 class Knipbeurt {
@@ -80,7 +77,7 @@ class Knipbeurt {
             verwerk(bron, ontleding, knipsel, rechten);
         } catch (const CodeerFout& fout) {
             const std::size_t regel =
-                telRegels(bron.geefTekst().substr(0, ontleding.blokken.front().begin.begin));
+                kern::telRegeleinden(bron.geefTekst().substr(0, ontleding.blokken.front().begin.begin));
             uitslag_.meldingen.push_back({.regel = regel + 1, .ernst = Ernst::fout, .tekst = fout.what()});
             uitslag_.status = Status::tegengehouden;
         }
@@ -106,16 +103,17 @@ class Knipbeurt {
     void tel(const Brontekst& bron, const Ontleding& ontleding, Knipsel& knipsel) {
         uitslag_.regelsErin = telTekst(bron.geefTekst());
         if (opties_.manier == Manier::venster) {
-            uitslag_.regelsEruit = telRegels(knipsel.geefInhoud());
+            uitslag_.regelsEruit = kern::telRegeleinden(knipsel.geefInhoud());
             return;
         }
         std::size_t weg = 0;
         for (const kern::Blok& blok : ontleding.blokken) {
-            weg += telRegels(bron.geefTekst().substr(blok.begin.begin, blok.eind.eind - blok.begin.begin));
+            weg += kern::telRegeleinden(
+                bron.geefTekst().substr(blok.begin.begin, blok.eind.eind - blok.begin.begin));
         }
         const std::string& vervanging = geefVervanging();
         const std::size_t erbij =
-            telRegels(vervanging) + (vervanging.empty() || vervanging.ends_with('\n') ? 0 : 1);
+            kern::telRegeleinden(vervanging) + (vervanging.empty() || vervanging.ends_with('\n') ? 0 : 1);
         const auto vervangen =
             static_cast<std::size_t>(std::count_if(ontleding.blokken.begin(), ontleding.blokken.end(),
                                                    [](const kern::Blok& blok) { return !blok.isLeeg(); }));
