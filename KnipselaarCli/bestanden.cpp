@@ -29,7 +29,7 @@ std::error_code leesVerder(int kanaal, kern::Bytes& bytes) {
     for (;;) {
         const std::size_t lengte = bytes.geef().size();
         if (bytes.geefRuimte() - lengte < kleinsteRuimte) {
-            bytes.maakRuimte(std::max(2 * bytes.geefRuimte(), lengte + leesBlok));
+            bytes.maakPlaats(leesBlok);
         }
         const kern::Gelezen gelezen =
             kern::lees(kanaal, {bytes.geefBegin() + lengte, bytes.geefRuimte() - lengte});

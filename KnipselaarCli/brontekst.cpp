@@ -37,7 +37,7 @@ Keuring keur(std::string_view bytes) {
     // Wat geen UTF-8 is, is ISO 8859-1; dan tellen alleen de regeleinden nog.
     const auto telGewone = [&keuring](std::string_view rest) {
         const kern::CrLf crLf = keuring.heeftCR ? kern::CrLf::teltMee : kern::CrLf::eindigt;
-        return keuring.utf8 ? kern::telGewoneAscii(rest, crLf) : kern::telZonderEinden(rest, crLf);
+        return keuring.utf8 ? kern::telKorteTekens(rest, crLf) : kern::telZonderEinden(rest, crLf);
     };
     while ((plek += telGewone(bytes.substr(plek))) < bytes.size()) {
         const char teken = bytes[plek];
@@ -225,24 +225,18 @@ void Brontekst::leesSmal(Lezing lezing) {
 void Brontekst::zetOm(std::string_view smal) {
     constexpr std::size_t blok = std::size_t{256} * 1024;
     kern::RegelOmzetter omzetter;
-    std::string uit;
     // Uit één byte komen er hoogstens twee; wat niet gebruikt wordt kost niets.
     tekst_.maakRuimte(2 * smal.size() + 1);
     for (; !smal.empty(); smal.remove_prefix(std::min(blok, smal.size()))) {
-        uit.clear();
-        omzetter.zetOm(smal.substr(0, blok), uit);
-        tekst_.voegToe(uit);
+        omzetter.zetOm(smal.substr(0, blok), tekst_);
     }
-    uit.clear();
-    omzetter.sluitAf(uit);
-    tekst_.voegToe(uit);
+    omzetter.sluitAf(tekst_);
 }
 
 /// Zet de bytes in stukjes om en kijkt na elk stukje of er een regel bij kwam. Een stukje eindigt waar een
 /// regel kan eindigen; wat de omzetter daarvan niet als regeleinde ziet hoort bij wat ervoor stond.
 void Brontekst::deelIn(std::string_view stuk, std::size_t begin) {
     kern::RegelOmzetter omzetter;
-    std::string regel;
     // Uit één byte komen er hoogstens twee; wat niet gebruikt wordt kost niets.
     tekst_.maakRuimte(2 * stuk.size() + 1);
     // Een te lang geschreven LF, CR of NUL is ook een regeleinde; die bytes komen dan één voor één.
@@ -252,20 +246,19 @@ void Brontekst::deelIn(std::string_view stuk, std::size_t begin) {
         const std::size_t einde = stuk.find_first_of(mogelijkEinde, plek);
         const std::size_t volgende = einde == std::string_view::npos ? stuk.size() : einde + 1;
         const std::string_view nieuw = stuk.substr(plek, volgende - plek);
-        regel.clear();
-        omzetter.zetOm(nieuw, regel);
-        tekst_.voegToe(regel);
+        const std::size_t vooraf = tekst_.geef().size();
+        omzetter.zetOm(nieuw, tekst_);
         plek = volgende;
-        if (regel.ends_with('\n')) {
-            beginRegel(tekst_.geef().size(), begin + plek);
-        } else if (regel.empty() && isTweedeDeel(nieuw)) {
+        const std::string_view erbij = tekst_.geef().substr(vooraf);
+        if (erbij.ends_with('\n')) {
+            beginRegel(vooraf + erbij.size(), begin + plek);
+        } else if (erbij.empty() && isTweedeDeel(nieuw)) {
             ruwe_.back() = begin + plek;
         }
     }
-    regel.clear();
-    omzetter.sluitAf(regel);
-    tekst_.voegToe(regel);
-    if (regel.empty()) {
+    const std::size_t vooraf = tekst_.geef().size();
+    omzetter.sluitAf(tekst_);
+    if (tekst_.geef().size() == vooraf) {
         regels_.pop_back();
         ruwe_.pop_back();
     }
@@ -273,29 +266,27 @@ void Brontekst::deelIn(std::string_view stuk, std::size_t begin) {
 
 void Brontekst::leesBreed() {
     BreedLezer lezer(geefRuw().substr(merk_), codering_);
-    std::string tekst;
     beginRegel(0, merk_);
     bool naCR = false;
     while (const auto teken = lezer.lees()) {
         naCR = *teken == '\r';
         if (!naCR && *teken != '\n' && *teken != 0) {
-            kern::schrijfUtf8(*teken, tekst);
+            kern::schrijfUtf8(*teken, tekst_);
             continue;
         }
         if (naCR) {
             // Ook een NUL hoort bij de CR ervoor.
             naCR = !lezer.neem('\n') && !lezer.neem(0);
         }
-        tekst += '\n';
-        beginRegel(tekst.size(), merk_ + lezer.geefPlek());
+        tekst_.voegToe('\n');
+        beginRegel(tekst_.geef().size(), merk_ + lezer.geefPlek());
     }
     if (naCR) {
         regels_.pop_back();
         ruwe_.pop_back();
     } else {
-        tekst += '\n';
+        tekst_.voegToe('\n');
     }
-    tekst_ = kern::Bytes(tekst);
 }
 
 std::string codeer(std::string_view utf8, Codering codering) {

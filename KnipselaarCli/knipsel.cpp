@@ -80,9 +80,9 @@ void Knipsel::zetOm(const std::function<void(std::string_view)>& uit) {
     std::string_view rest = tekst.substr(0, tekst.size() - 1);  // zonder het regeleinde dat er niet in staat
     std::size_t plek = 0;
     kern::RegelOmzetter omzetter;
-    std::string omgezet;
+    kern::Bytes omgezet;
     const auto neemTot = [&](std::size_t eind) {
-        omgezet.clear();
+        omgezet.zetLengte(0);
         const std::string_view stuk = rest.substr(0, eind - plek);
         omzetter.zetOm(stuk, omgezet);
         rest.remove_prefix(stuk.size());
@@ -91,7 +91,7 @@ void Knipsel::zetOm(const std::function<void(std::string_view)>& uit) {
     const auto geefTot = [&](std::size_t eind) {
         while (plek < eind) {
             neemTot(std::min(eind, plek + deel));
-            uit(omgezet);
+            uit(omgezet.geef());
         }
     };
     for (const kern::Blok& blok : ontleding_.blokken) {
@@ -101,9 +101,9 @@ void Knipsel::zetOm(const std::function<void(std::string_view)>& uit) {
     }
     const bool eindigtMetBlok = plek == tekst.size();
     geefTot(tekst.size());
-    omgezet.clear();
+    omgezet.zetLengte(0);
     omzetter.sluitAf(omgezet);
-    uit(eindigtMetBlok ? std::string_view() : std::string_view(omgezet));
+    uit(eindigtMetBlok ? std::string_view() : omgezet.geef());
 }
 
 std::string_view Knipsel::geefVervanging(const kern::Blok& blok) {

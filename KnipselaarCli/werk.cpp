@@ -8,6 +8,7 @@
 #include "Knipselaar/kern/systeem/directory.h"
 #include "Knipselaar/kern/systeem/onderbreking.h"
 #include "Knipselaar/kern/systeem/paden.h"
+#include "Knipselaar/kern/utf8.h"
 #include "KnipselaarCli/bestanden.h"
 #include "KnipselaarCli/boom.h"
 #include "KnipselaarCli/fout.h"
@@ -20,17 +21,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::size_t telRegels(std::string_view bytes) {
-    return static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
-}
-
 /// Het aantal regels van een bestand. De kern leest achter het laatste regeleinde meestal nog een lege regel; die
 /// telt niet.
 std::size_t telBestand(const Brontekst& bron) {
     const std::string_view tekst = bron.geefTekst();
     const std::size_t laatste = tekst.substr(0, tekst.size() - 1).rfind('\n') + 1;
     const bool extra = bron.naarRuw(laatste) == bron.geefRuw().size();
-    return telRegels(tekst) - (extra ? 1 : 0);
+    return kern::telRegeleinden(tekst) - (extra ? 1 : 0);
 }
 
 /// Met een bewijs gaat er niets door dat een marker had moeten zijn.
@@ -115,7 +112,7 @@ class Knipbeurt {
             verwerk(bron, ontleding, knipsel, rechten);
         } catch (const CodeerFout& fout) {
             const std::size_t regel =
-                telRegels(bron.geefTekst().substr(0, ontleding.blokken.front().begin.begin));
+                kern::telRegeleinden(bron.geefTekst().substr(0, ontleding.blokken.front().begin.begin));
             uitslag_.meldingen.push_back({.regel = regel + 1, .ernst = Ernst::fout, .tekst = fout.what()});
             uitslag_.status = Status::tegengehouden;
         }
@@ -143,16 +140,17 @@ class Knipbeurt {
     void tel(const Brontekst& bron, const Ontleding& ontleding, Knipsel& knipsel) {
         uitslag_.regelsErin = telBestand(bron);
         if (opties_.manier == Manier::venster) {
-            uitslag_.regelsEruit = telRegels(knipsel.geefInhoud());
+            uitslag_.regelsEruit = kern::telRegeleinden(knipsel.geefInhoud());
             return;
         }
         std::size_t weg = 0;
         for (const kern::Blok& blok : ontleding.blokken) {
-            weg += telRegels(bron.geefTekst().substr(blok.begin.begin, blok.eind.eind - blok.begin.begin));
+            weg += kern::telRegeleinden(
+                bron.geefTekst().substr(blok.begin.begin, blok.eind.eind - blok.begin.begin));
         }
         const std::string& vervanging = geefVervanging();
         const std::size_t erbij =
-            telRegels(vervanging) + (vervanging.empty() || vervanging.ends_with('\n') ? 0 : 1);
+            kern::telRegeleinden(vervanging) + (vervanging.empty() || vervanging.ends_with('\n') ? 0 : 1);
         const auto vervangen =
             static_cast<std::size_t>(std::count_if(ontleding.blokken.begin(), ontleding.blokken.end(),
                                                    [](const kern::Blok& blok) { return !blok.isLeeg(); }));
@@ -214,7 +212,7 @@ std::vector<Melding> keurOvername(std::string_view tekst, const Opties& opties, 
     std::size_t plek = 0;
     bool heeftMarker = opties.bewijs;
     while (const auto regel = loper.volgende()) {
-        nummer += telRegels(tekst.substr(plek, regel->begin - plek));
+        nummer += kern::telRegeleinden(tekst.substr(plek, regel->begin - plek));
         plek = regel->begin;
         const std::string_view inhoud = tekst.substr(regel->begin, regel->eind - 1 - regel->begin);
         if (teksten.markers.draagtMarker(inhoud)) {

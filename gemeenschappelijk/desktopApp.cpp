@@ -10,6 +10,7 @@
 #include <wx/utils.h>
 
 #include "gemeenschappelijk/systeem/overPlaatje.h"
+#include "gemeenschappelijk/systeem/slotDirectory.h"
 
 namespace {
 
@@ -40,7 +41,7 @@ DesktopApp::DesktopApp(const wxString& naam)
     // omgevingsvariabele uitwerken.
     configuratie->SetExpandEnvVars(false);
     // Het slot laat anderen alleen zien dat er een instantie loopt; een tweede mag gewoon starten.
-    instantieControle->Create(naam + wxString::Format("-%s", wxGetUserId()), "/tmp");
+    instantieControle->Create(naam + wxString::Format("-%s", wxGetUserId()), geefSlotDirectory());
 
     const wxDateTime start = wxDateTime::Now();
     wxConfigBase::DontCreateOnDemand();

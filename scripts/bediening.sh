@@ -70,6 +70,22 @@ open_beeldscherm() {
     wacht_op "de vensterbeheerder start niet" xdotool get_num_desktops
 }
 
+# Start een bus waarop de schermlezer van de tests meekijkt, met alleen deze ene dienst. Programma's die daarna starten
+# doen eraan mee.
+open_schermlezerbus() {
+    mkdir "$werk/diensten"
+    cp /usr/share/dbus-1/services/org.a11y.Bus.service "$werk/diensten"
+    cat >"$werk/bus.conf" <<EINDE
+<busconfig><type>session</type><listen>unix:path=$werk/bus</listen><servicedir>$werk/diensten</servicedir>
+<policy context="default"><allow send_destination="*"/><allow receive_sender="*"/><allow own="*"/></policy></busconfig>
+EINDE
+    dbus-daemon --config-file="$werk/bus.conf" --nofork >/dev/null 2>&1 &
+    processen+=($!)
+    wacht_op "de bus voor schermlezers start niet" test -S "$werk/bus"
+    export DBUS_SESSION_BUS_ADDRESS="unix:path=$werk/bus"
+    unset NO_AT_BRIDGE
+}
+
 # Of twee afdrukken gelijk zijn op een knipperende tekstaanwijzer na.
 lijkt_op() {
     local verschil

@@ -80,10 +80,11 @@ bouw() {
 pakketten_bouw=(g++ cmake ninja-build libgtk-3-dev libwxgtk3.2-dev pkg-config wx3.2-i18n locales fonts-dejavu-core
     librsvg2-common)
 pakketten_bediening=(xvfb xdotool openbox imagemagick)
+pakketten_schermlezer=(libatspi2.0-dev at-spi2-core dbus-daemon)
 pakketten_pakket=(build-essential debhelper git librsvg2-bin pandoc)
 pakketten_keur_pakket=(lintian desktop-file-utils appstream man-db)
-pakketten_test=("${pakketten_bediening[@]}" libgtest-dev libatspi2.0-dev librsvg2-bin python3 gcc ghdl
-    x11-utils at-spi2-core dbus-daemon git patch make man-db sway wtype grim)
+pakketten_test=("${pakketten_bediening[@]}" "${pakketten_schermlezer[@]}" libgtest-dev libwayland-dev libxkbcommon-dev
+    librsvg2-bin python3 gcc ghdl x11-utils git patch make man-db sway grim)
 pakketten_windows=(g++-mingw-w64-x86-64-posix cmake ninja-build git dpkg-dev gettext googletest librsvg2-bin imagemagick
     pandoc zip nsis wine wine64)
 pakketten_keur=(git clang clang-format clang-tidy cppcheck libbenchmark-dev libclang-rt-14-dev llvm-14)

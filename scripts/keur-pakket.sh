@@ -43,8 +43,9 @@ lintian() {
 bureaublad() {
     local maat gevonden
     zwijgt desktop-file-validate "$deel/applications/knipselaar.desktop"
-    appstreamcli validate --no-net --pedantic --strict --explain "$deel"/metainfo/*.metainfo.xml
-    appstreamcli validate-tree --no-net --pedantic --strict "$inhoud"
+    # Zonder --strict: wat de ene uitgave verouderd noemt, kent een eerdere nog niet anders.
+    appstreamcli validate --no-net --pedantic --explain "$deel"/metainfo/*.metainfo.xml
+    appstreamcli validate-tree --no-net --pedantic "$inhoud"
     for maat in 16 22 24 32 48 64 128 256; do
         gevonden=$(identify -format '%wx%h' "$deel/icons/hicolor/${maat}x$maat/apps/knipselaar.png")
         [ "$gevonden" = "${maat}x$maat" ] || stop "het pictogram van $maat is $gevonden"
@@ -121,7 +122,7 @@ met_apt() {
 toestand() {
     dpkg-query -W -f '${db:Status-Abbrev} ${binary:Package} ${Version}\n' | grep -v '^un'
     locale -a
-    find /etc /opt /usr /var -xdev -iname '*knipselaar*' 2>/dev/null | sort
+    als_root find /etc /opt /usr /var -xdev -iname '*knipselaar*' | sort
 }
 
 # De pakketten die apt erbij gaat zetten; wat het alleen vernieuwt, noemt het met de oude versie erachter.
@@ -159,9 +160,9 @@ bedien() {
     exec=$(sed -n 's/^Exec=//p' /usr/share/applications/knipselaar.desktop)
     [ "$(command -v "$exec")" = /usr/bin/knipselaar ] || stop "het startmenu start $exec"
     uitvoer=$(KNIPSELAAR_PROGRAMMA=$exec timeout 120 "$1" \
-        --gtest_filter='Programma.KniptEenCBestandMetToetsen:Bureaublad.*') ||
+        --gtest_filter='Programma.KniptEenCBestandMetToetsen:Bureaublad*') ||
         stop "het geïnstalleerde programma doet het niet: $uitvoer"
-    grep 'PASSED.* 2 tests' <<<"$uitvoer" || stop "niet alle tests zijn er: $uitvoer"
+    grep 'PASSED.* 3 tests' <<<"$uitvoer" || stop "niet alle tests zijn er: $uitvoer"
 }
 
 installatie() {

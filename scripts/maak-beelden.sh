@@ -6,7 +6,7 @@ set -euo pipefail
 hoofdmap=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$hoofdmap/scripts/gemeen.sh"
 
-installeer "${pakketten_bouw[@]}" "${pakketten_bediening[@]}"
+installeer "${pakketten_bouw[@]}" "${pakketten_bediening[@]}" "${pakketten_schermlezer[@]}"
 zorg_voor_locale
 bouw release
 
@@ -19,6 +19,9 @@ trap 'rm -rf "$kopie"' EXIT
 als_gebruiker cp -r "$hoofdmap/scripts" "$hoofdmap/voorbeelden" "$hoofdmap/docs/handleiding.md" \
     "$hoofdmap/bouw/release/Knipselaar/knipselaar" "$kopie"
 als_gebruiker mkdir "$kopie/beelden"
-"${naamruimte[@]}" "$kopie/scripts/neem-beelden.sh" "$kopie/knipselaar" "$kopie/beelden"
+mapfile -t atspi < <(pkg-config --cflags --libs atspi-2 gobject-2.0 | xargs printf '%s\n')
+stil "de schermlezer bouwt niet" \
+    als_gebruiker g++ -std=c++20 -o "$kopie/schermlezer" "$hoofdmap/tests/eind/schermlezer.cpp" "${atspi[@]}"
+"${naamruimte[@]}" "$kopie/scripts/neem-beelden.sh" "$kopie/knipselaar" "$kopie/beelden" "$kopie/schermlezer"
 als_gebruiker mkdir -p "$hoofdmap/docs/beelden"
 als_gebruiker cp "$kopie"/beelden/*.png "$hoofdmap/docs/beelden"

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Bedient het programma als een docent en neemt onderweg de beelden van de handleiding; wordt door
-# maak-beelden.sh in een eigen naamruimte gestart. $1 is het programma, $2 de directory voor de beelden.
+# maak-beelden.sh in een eigen naamruimte gestart. $1 is het programma, $2 de directory voor de beelden, $3 de
+# schermlezer van de tests, die zegt waar iets staat.
 set -euo pipefail
 hoofdmap=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$hoofdmap/scripts/gemeen.sh"
@@ -8,17 +9,17 @@ hoofdmap=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 programma=$1
 beelden=$2
+schermlezer=$3
 voorbeelden="$hoofdmap/voorbeelden"
 venster='^Knipselaar$'
 openen='^Kies een origineel bestand[.]$'
 opslaan='^Sla aangepast bestand op[.]$'
 breedte=1100
 hoogte=774
-# Waar de bediening ligt, gerekend vanaf de onderrand van het venster.
-modus_directory=138
-modus_boom=115
-bron_hoogte=154
-doel_hoogte=115
+modus_directory='radio button "Alle bestanden in een directory"'
+modus_boom='radio button "Alle bestanden recursief in een directory"'
+bron_veld='text "Bron directory"'
+doel_veld='text "Bestemming directory"'
 
 # De uitwerking waarmee de handleiding begint.
 schrijf_som() { awk '/^```c bron/ { aan = 1; next } /^```/ && aan { exit } aan' "$hoofdmap/handleiding.md"; }
@@ -69,15 +70,27 @@ EINDE
     cd "$HOME"
 }
 
-# Klikt op een plaats van het hoofdvenster, gerekend vanaf linksonder. Een muis die daar blijft, roept een tooltip op.
+# Of een ding van het hoofdvenster een plaats heeft; die staat dan in plek.
+heeft_plek() {
+    "$schermlezer" plek "$1" | tail -n 1 >"$werk/plek"
+    [ -s "$werk/plek" ]
+}
+
+heeft_toetsen() { [ "$("$schermlezer" toetsen | head -n 1)" = "$1" ]; }
+
+# Klikt midden op een ding van het hoofdvenster, een rol en een naam. Een muis die daar blijft, roept een tooltip op.
 klik() {
-    xdotool mousemove --window "$(venster_nummer "$venster")" "$1" "$((hoogte - $2))" click 1
+    local links boven breed hoog
+    wacht_op "$1 is er niet" heeft_plek "$1"
+    read -r links boven breed hoog <"$werk/plek"
+    xdotool mousemove --window "$(venster_nummer "$venster")" "$((links + breed / 2))" "$((boven + hoog / 2))" click 1
     xdotool mousemove 0 0
 }
 
-# Vult het tekstveld van een directorykiezer. $1 is de hoogte vanaf de onderrand, $2 het pad.
+# Vult het tekstveld $1 van een directorykiezer met het pad $2.
 vul_kiezer() {
-    klik 700 "$1"
+    klik "$1"
+    wacht_op "$1 krijgt de toetsen niet" heeft_toetsen "$1"
     xdotool key ctrl+a
     xdotool type --delay 20 "$2"
 }
@@ -134,12 +147,12 @@ enkel_bestand() {
 
 # Wijst de directories aan: $1 met originelen, $2 voor de opgaven.
 kies_directories() {
-    vul_kiezer $bron_hoogte "$1"
-    vul_kiezer $doel_hoogte "$2"
+    vul_kiezer "$bron_veld" "$1"
+    vul_kiezer "$doel_veld" "$2"
 }
 
 een_directory() {
-    neem_verandering "$venster" "$werk/modus.png" klik 60 $modus_directory
+    neem_verandering "$venster" "$werk/modus.png" klik "$modus_directory"
     neem_verandering "$venster" "$beelden/directory.png" kies_directories "$HOME/lessen" "$HOME/klas"
     neem_verandering "$venster" "$beelden/directory-klaar.png" xdotool key ctrl+f
     grep -qF 'Dit stuk software ontbreekt' "$HOME/klas/teller.vhdl"
@@ -164,8 +177,8 @@ gelijke_directories() {
 }
 
 een_boom() {
-    neem_verandering "$venster" "$werk/modus.png" klik 60 $modus_boom
-    vul_kiezer $doel_hoogte "$HOME/practicum"
+    neem_verandering "$venster" "$werk/modus.png" klik "$modus_boom"
+    vul_kiezer "$doel_veld" "$HOME/practicum"
     neem_verandering "$venster" "$beelden/boom-klaar.png" xdotool key ctrl+f
     grep -qF 'Dit stuk software ontbreekt' "$HOME/practicum/les2/matrix.h"
 }
@@ -176,6 +189,7 @@ sluit_af() {
 }
 
 open_beeldscherm 1280x1024
+open_schermlezerbus
 richt_in
 start
 enkel_bestand

@@ -21,14 +21,20 @@ void Bytes::maakRuimte(std::size_t ruimte) {
     ruimte_ = ruimte;
 }
 
+void Bytes::maakPlaats(std::size_t erbij) {
+    if (ruimte_ - lengte_ < erbij) {
+        maakRuimte(std::max(2 * ruimte_, lengte_ + erbij));
+    }
+}
+
 void Bytes::voegToe(char byte) {
-    voegToe(std::string_view(&byte, 1));
+    maakPlaats(1);
+    geefBegin()[lengte_] = byte;
+    ++lengte_;
 }
 
 void Bytes::voegToe(std::string_view bytes) {
-    if (ruimte_ - lengte_ < bytes.size()) {
-        maakRuimte(std::max(2 * ruimte_, lengte_ + bytes.size()));
-    }
+    maakPlaats(bytes.size());
     std::copy(bytes.begin(), bytes.end(), geefBegin() + lengte_);
     lengte_ += bytes.size();
 }

@@ -35,6 +35,10 @@ class Bytes {
     /// Maakt plaats voor minstens zoveel bytes; wat er staat blijft. Gooit std::bad_alloc.
     void maakRuimte(std::size_t ruimte);
 
+    /// Maakt plaats voor minstens zoveel bytes achter wat er staat, en zoveel meer dat steeds bijzetten niet
+    /// steeds verhuizen is. Gooit std::bad_alloc.
+    void maakPlaats(std::size_t erbij);
+
     /// Zegt hoeveel bytes gelden, hoogstens zoveel als er ruimte is.
     void zetLengte(std::size_t lengte) { lengte_ = lengte; }
 

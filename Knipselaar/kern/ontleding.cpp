@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "Knipselaar/kern/utf8.h"
+
 namespace kern {
 
 bool isFout(Soort soort) {
@@ -171,9 +173,7 @@ void Ontleder::meld(std::size_t regel, Soort soort) {
 
 /// Brengt het regelnummer bij. Elke plaats ligt voorbij de vorige, dus alleen wat erbij kwam wordt geteld.
 void Ontleder::telTot(std::size_t plek) {
-    const auto begin = stuk_.begin();
-    nummer_ += static_cast<std::size_t>(std::count(begin + static_cast<std::ptrdiff_t>(geteldTot_),
-                                                   begin + static_cast<std::ptrdiff_t>(plek), '\n'));
+    nummer_ += telRegeleinden(stuk_.substr(geteldTot_, plek - geteldTot_));
     geteldTot_ = plek;
 }
 

@@ -1,5 +1,7 @@
 #include "Knipselaar/kern/regelOmzetter.h"
 
+#include <utility>
+
 #include "Knipselaar/kern/utf8.h"
 
 namespace kern {
@@ -8,59 +10,57 @@ bool RegelOmzetter::isAlGoed(std::string_view blok) const {
     return codering_ == Codering::utf8 && !naCR_ && halfTeken_.empty() && isSchoneUtf8(blok);
 }
 
-void RegelOmzetter::zetOm(std::string_view blok, std::string& uit) {
+void RegelOmzetter::zetOm(std::string_view blok, Bytes& uit) {
+    while (!halfTeken_.empty() && !blok.empty()) {
+        const std::string teken = std::exchange(halfTeken_, {}) + blok.front();
+        zetUtf8Om(teken, uit);
+        blok.remove_prefix(1);
+    }
     if (codering_ == Codering::latijn1) {
         zetLatijn1Om(blok, uit);
-    } else if (halfTeken_.empty()) {
-        zetUtf8Om(blok, uit);
     } else {
-        const std::string geheel = std::move(halfTeken_) + std::string(blok);
-        halfTeken_.clear();
-        zetUtf8Om(geheel, uit);
+        zetUtf8Om(blok, uit);
     }
 }
 
-void RegelOmzetter::sluitAf(std::string& uit) {
-    const std::string rest = std::move(halfTeken_);
-    halfTeken_.clear();
-    zetLatijn1Om(rest, uit);
+void RegelOmzetter::sluitAf(Bytes& uit) {
+    zetLatijn1Om(std::exchange(halfTeken_, {}), uit);
     if (!naCR_) {
-        uit += '\n';
+        uit.voegToe('\n');
     }
 }
 
 /// Verwerkt een teken dat een regel eindigt, of het tweede deel daarvan. False voor elk ander teken.
-bool RegelOmzetter::eindigRegel(char teken, std::string& uit) {
+bool RegelOmzetter::eindigRegel(char teken, Bytes& uit) {
     const bool hoortBijCR = naCR_ && teken != '\r';
     naCR_ = teken == '\r';
     if (teken != '\n' && teken != '\r' && teken != '\0') {
         return false;
     }
     if (!hoortBijCR) {
-        uit += '\n';
+        uit.voegToe('\n');
     }
     return true;
 }
 
-/// Neemt de tekens over die in elke codering zichzelf zijn, tot het eerste waar iets mee moet gebeuren. Een
-/// CR LF is daar ook een van, maar dan zo vaak dat hij hier meteen meegaat.
-void RegelOmzetter::neemGewoneTekens(std::string_view& blok, std::string& uit) const {
+/// Neemt de tekens over die blijven wat ze zijn, tot het eerste waar iets mee moet gebeuren. Een CR LF is
+/// daar ook een van, maar dan zo vaak dat hij hier meteen meegaat.
+void RegelOmzetter::neemGewoneTekens(std::string_view& blok, Bytes& uit) const {
     if (naCR_) {
         return;
     }
     for (;;) {
-        const std::size_t gewoon = telGewoneAscii(blok);
-        uit += blok.substr(0, gewoon);
-        blok.remove_prefix(gewoon);
-        if (!blok.starts_with("\r\n")) {
+        blok.remove_prefix(neemGewoneAscii(blok, uit));
+        const std::size_t kort = telKorteTekens(blok);
+        if (kort == 0) {
             return;
         }
-        uit += '\n';
-        blok.remove_prefix(2);
+        uit.voegToe(blok.substr(0, kort));
+        blok.remove_prefix(kort);
     }
 }
 
-void RegelOmzetter::zetUtf8Om(std::string_view blok, std::string& uit) {
+void RegelOmzetter::zetUtf8Om(std::string_view blok, Bytes& uit) {
     while (!blok.empty()) {
         neemGewoneTekens(blok, uit);
         if (blok.empty()) {
@@ -85,7 +85,7 @@ void RegelOmzetter::zetUtf8Om(std::string_view blok, std::string& uit) {
     }
 }
 
-void RegelOmzetter::zetLatijn1Om(std::string_view blok, std::string& uit) {
+void RegelOmzetter::zetLatijn1Om(std::string_view blok, Bytes& uit) {
     while (!blok.empty()) {
         std::size_t genomen = naCR_ ? 0 : neemLatijn1(blok, uit);
         if (genomen == 0) {

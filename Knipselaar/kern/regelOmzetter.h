@@ -13,6 +13,8 @@
 #include <string>
 #include <string_view>
 
+#include "Knipselaar/kern/bytes.h"
+
 namespace kern {
 
 class RegelOmzetter {
@@ -22,19 +24,19 @@ class RegelOmzetter {
     bool isAlGoed(std::string_view blok) const;
 
     /// Zet het volgende blok om en hangt de uitkomst achter uit.
-    void zetOm(std::string_view blok, std::string& uit);
+    void zetOm(std::string_view blok, Bytes& uit);
 
     /// Sluit de tekst af: een half teken komt alsnog, en de laatste regel krijgt haar regeleinde. Dat is een
     /// extra lege regel als de tekst op een regeleinde eindigde, behalve na een kale CR.
-    void sluitAf(std::string& uit);
+    void sluitAf(Bytes& uit);
 
   private:
     enum class Codering { utf8, latijn1 };
 
-    void neemGewoneTekens(std::string_view& blok, std::string& uit) const;
-    void zetUtf8Om(std::string_view blok, std::string& uit);
-    void zetLatijn1Om(std::string_view blok, std::string& uit);
-    bool eindigRegel(char teken, std::string& uit);
+    void neemGewoneTekens(std::string_view& blok, Bytes& uit) const;
+    void zetUtf8Om(std::string_view blok, Bytes& uit);
+    void zetLatijn1Om(std::string_view blok, Bytes& uit);
+    bool eindigRegel(char teken, Bytes& uit);
 
     Codering codering_ = Codering::utf8;
     bool naCR_ = false;      ///< de CR is al een regeleinde; een LF of NUL direct erna hoort erbij

@@ -53,13 +53,12 @@ void TekstLezer::vulAan() {
         leesBreed();
         return;
     }
-    std::size_t gelezen = 0;
+    std::string_view gelezen;
     if (invoer_.GetLastError() == wxSTREAM_NO_ERROR) {
-        const std::size_t vulling = tekst_.geef().size();
-        if (tekst_.geefRuimte() < vulling + blok_) {
-            tekst_.maakRuimte(std::max(2 * tekst_.geefRuimte(), vulling + blok_));
-        }
-        gelezen = leesBlok(invoer_, tekst_.geefBegin() + vulling, blok_);
+        Bytes& plaats = naast_ ? ruw_ : tekst_;
+        plaats.maakPlaats(blok_);
+        char* begin = plaats.geefBegin() + plaats.geef().size();
+        gelezen = {begin, leesBlok(invoer_, begin, blok_)};
         blok_ = std::min(2 * blok_, grootsteBlok);
     }
     if (!begonnen_) {
@@ -68,45 +67,50 @@ void TekstLezer::vulAan() {
     } else {
         voegRuwToe(gelezen);
     }
-    if (gelezen == 0) {
+    if (gelezen.empty()) {
         sluitAf();
     }
 }
 
 /// Neemt het eerste blok: haalt een UTF-8-merkteken af, of geeft een brede tekst uit handen.
-void TekstLezer::beginTekst(std::size_t gelezen) {
-    const std::string_view begin(tekst_.geefBegin(), gelezen);
+void TekstLezer::beginTekst(std::string_view begin) {
     if (const auto formaat = herkenBreedFormaat(begin)) {
         hersteller_ = std::make_unique<BreedHersteller>(begin, invoer_, *formaat);
         breed_ = std::make_unique<wxTextInputStream>(*hersteller_, " \t", wxConvAuto());
     } else if (begin.starts_with(utf8Merkteken)) {
-        const std::size_t rest = gelezen - utf8Merkteken.size();
+        const std::size_t rest = begin.size() - utf8Merkteken.size();
         std::memmove(tekst_.geefBegin(), tekst_.geefBegin() + utf8Merkteken.size(), rest);
-        voegRuwToe(rest);
+        voegRuwToe(begin.substr(0, rest));
     } else if (!isAfgebrokenMerkteken(begin)) {
-        voegRuwToe(gelezen);
+        voegRuwToe(begin);
     }
 }
 
-/// Maakt ruwe bytes die achter de tekst staan tot tekst. Meestal zijn ze dat al.
-void TekstLezer::voegRuwToe(std::size_t gelezen) {
-    const std::size_t vulling = tekst_.geef().size();
-    const std::string_view ruw(tekst_.geefBegin() + vulling, gelezen);
-    if (omzetter_.isAlGoed(ruw)) {
-        tekst_.zetLengte(vulling + gelezen);
+/// Maakt de bytes van een blok tot tekst. Meestal zijn ze dat al, en staan ze er al achter.
+void TekstLezer::voegRuwToe(std::string_view ruw) {
+    const bool goed = omzetter_.isAlGoed(ruw);
+    if (goed && !naast_) {
+        tekst_.zetLengte(tekst_.geef().size() + ruw.size());
         return;
     }
-    omgezet_.clear();
-    omzetter_.zetOm(ruw, omgezet_);
-    tekst_.voegToe(omgezet_);
+    if (!naast_) {
+        // De tekst komt waar de bytes nu staan, en kan langer zijn.
+        ruw_.voegToe(ruw);
+        ruw = ruw_.geef();
+    }
+    naast_ = !goed;
+    if (goed) {
+        tekst_.voegToe(ruw);
+    } else {
+        omzetter_.zetOm(ruw, tekst_);
+    }
+    ruw_.zetLengte(0);
 }
 
 void TekstLezer::sluitAf() {
     klaar_ = true;
     heelGelezen_ = invoer_.GetLastError() == wxSTREAM_EOF;
-    omgezet_.clear();
-    omzetter_.sluitAf(omgezet_);
-    tekst_.voegToe(omgezet_);
+    omzetter_.sluitAf(tekst_);
 }
 
 /// Haalt een blok regels bij de tekststroom van de toolkit. Vóór elke regel vragen of het einde bereikt is

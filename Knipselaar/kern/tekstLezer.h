@@ -41,8 +41,8 @@ class TekstLezer {
 
   private:
     void vulAan();
-    void beginTekst(std::size_t gelezen);
-    void voegRuwToe(std::size_t gelezen);
+    void beginTekst(std::string_view begin);
+    void voegRuwToe(std::string_view ruw);
     void sluitAf();
     void leesBreed();
 
@@ -54,7 +54,10 @@ class TekstLezer {
     std::size_t blok_ = eersteBlok;  ///< bytes die de volgende keer gevraagd worden
     std::size_t gegeven_ = 0;        ///< bytes van tekst_ die de aanroeper al heeft
     RegelOmzetter omzetter_;
-    std::string omgezet_;
+    /// Of het volgende blok niet achter de tekst komt maar in ruw_: aan het vorige was iets om te zetten, en
+    /// dan meestal ook aan dit.
+    bool naast_ = false;
+    Bytes ruw_;
     std::unique_ptr<BreedHersteller> hersteller_;
     std::unique_ptr<wxTextInputStream> breed_;  ///< leest uit hersteller_ als de tekst UTF-16 of UTF-32 is
     bool begonnen_ = false;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <experimental/simd>
 
 namespace kern {
@@ -26,14 +27,23 @@ auto eindigtBij(const Byte& byte, const Byte& volgende) {
     }
 }
 
-/// Aantal bytes voor die waar het tellen ophoudt: per vak zolang er nog een byte op volgt, dan per byte.
+/// Zoveel bytes na een vak tellen mee bij wat er in dat vak gevonden wordt.
+template <CrLf crLf>
+constexpr std::size_t vooruit = crLf == CrLf::teltMee ? 1 : 0;
+
+/// Bij welke bytes van een vak het tellen ophoudt.
+template <Bytesoort soort, CrLf crLf>
+auto zoekEinden(const char* vak) {
+    return eindigtBij<soort, crLf>(Vak(vak, simd::element_aligned),
+                                   Vak(vak + vooruit<crLf>, simd::element_aligned));
+}
+
+/// Aantal bytes voor die waar het tellen ophoudt: per vak zolang dat heel is, dan per byte.
 template <Bytesoort soort, CrLf crLf>
 std::size_t telTotEinde(std::string_view bytes) {
     std::size_t plek = 0;
-    for (; plek + Vak::size() < bytes.size(); plek += Vak::size()) {
-        const char* begin = bytes.data() + plek;
-        const auto gevonden =
-            eindigtBij<soort, crLf>(Vak(begin, simd::element_aligned), Vak(begin + 1, simd::element_aligned));
+    for (; plek + Vak::size() + vooruit<crLf> <= bytes.size(); plek += Vak::size()) {
+        const auto gevonden = zoekEinden<soort, crLf>(bytes.data() + plek);
         if (simd::any_of(gevonden)) {
             return plek + static_cast<std::size_t>(simd::find_first_set(gevonden));
         }
@@ -61,6 +71,7 @@ auto isEersteVanTwee(const Byte& byte) {
 
 /// Aantal bytes vanaf een teken dat gewone ASCII is of hele tekens van twee bytes, per vak. Aan het begin van
 /// de bytes nul: wat er voor een vak staat zegt of het met een vervolg moet beginnen.
+template <CrLf crLf>
 std::size_t telTweetallen(std::string_view bytes, std::size_t begin) {
     if (begin == 0) {
         return 0;
@@ -69,13 +80,13 @@ std::size_t telTweetallen(std::string_view bytes, std::size_t begin) {
     const auto isHalf = [bytes, begin, &plek] {
         return plek > begin && isEersteVanTwee(static_cast<signed char>(bytes[plek - 1]));
     };
-    for (bool verder = true; verder && plek + Vak::size() <= bytes.size();) {
-        const Vak vak(bytes.data() + plek, simd::element_aligned);
-        const auto gewoon = vak > '\0' && vak != '\r';
+    for (bool verder = true; verder && plek + Vak::size() + vooruit<crLf> <= bytes.size();) {
+        const auto gewoon = !zoekEinden<Bytesoort::ascii, crLf>(bytes.data() + plek);
         if (simd::all_of(gewoon) && !isHalf()) {
             plek += Vak::size();
             continue;
         }
+        const Vak vak(bytes.data() + plek, simd::element_aligned);
         const Vak ervoor(bytes.data() + plek - 1, simd::element_aligned);
         const auto vervolg = vak < static_cast<signed char>(0xC0);
         const auto fout = !(gewoon || vervolg || isEersteVanTwee(vak)) || vervolg != isEersteVanTwee(ervoor);
@@ -83,6 +94,25 @@ std::size_t telTweetallen(std::string_view bytes, std::size_t begin) {
         plek += verder ? Vak::size() : static_cast<std::size_t>(simd::find_first_set(fout));
     }
     return plek - begin - (isHalf() ? 1 : 0);
+}
+
+template <CrLf crLf>
+std::size_t telKort(std::string_view bytes) {
+    std::size_t plek = 0;
+    for (;;) {
+        plek += telTotEinde<Bytesoort::ascii, crLf>(bytes.substr(plek));
+        if (plek == bytes.size() || !isEersteVanTwee(static_cast<signed char>(bytes[plek]))) {
+            return plek;
+        }
+        std::size_t erbij = telTweetallen<crLf>(bytes, plek);
+        if (erbij == 0) {
+            erbij = leesUtf8(bytes.substr(plek)).lengte;
+        }
+        if (erbij == 0) {
+            return plek;
+        }
+        plek += erbij;
+    }
 }
 
 constexpr std::size_t reeksLengte(unsigned char eerste) {
@@ -101,6 +131,70 @@ constexpr std::size_t reeksLengte(unsigned char eerste) {
 /// De laagste waarde die een reeks van deze lengte nodig heeft; wat eronder ligt is een te lange vorm.
 constexpr std::uint32_t laagsteWaarde(std::size_t lengte) {
     return lengte == 4 ? 0x10000U : lengte == 3 ? 0x800U : lengte == 2 ? 0x80U : 0U;
+}
+
+/// Kopieert gewone ASCII naar doel en schuift dat op, met een LF voor elke CR LF, tot de eerste andere byte.
+/// @return hoeveel bytes het waren.
+std::size_t neemAscii(std::string_view bytes, char*& doel) {
+    std::size_t plek = 0;
+    while (plek < bytes.size()) {
+        if (plek + Vak::size() <= bytes.size()) {
+            // Het hele vak gaat mee; wat na de eerste bijzondere byte komt wordt daarna overschreven.
+            const Vak vak(bytes.data() + plek, simd::element_aligned);
+            vak.copy_to(doel, simd::element_aligned);
+            const auto bijzonder = vak <= '\0' || vak == '\r';
+            const bool heel = simd::none_of(bijzonder);
+            const std::size_t gewoon =
+                heel ? Vak::size() : static_cast<std::size_t>(simd::find_first_set(bijzonder));
+            doel += gewoon;
+            plek += gewoon;
+            if (heel) {
+                continue;
+            }
+        }
+        const auto teken = static_cast<signed char>(bytes[plek]);
+        if (!eindigtBij<Bytesoort::ascii, CrLf::eindigt>(teken, teken)) {
+            *doel++ = bytes[plek];
+        } else if (!bytes.substr(plek).starts_with("\r\n")) {
+            break;
+        }
+        ++plek;
+    }
+    return plek;
+}
+
+/// Laat iets achter uit schrijven waar plaats is voor zoveel bytes.
+/// @param neem  krijgt waar het komt, schuift dat op en geeft hoeveel bytes het nam.
+template <typename Neem>
+std::size_t neemMet(Bytes& uit, std::size_t hoogstens, const Neem& neem) {
+    uit.maakPlaats(hoogstens);
+    char* doel = uit.geefBegin() + uit.geef().size();
+    const std::size_t genomen = neem(doel);
+    uit.zetLengte(static_cast<std::size_t>(doel - uit.geefBegin()));
+    return genomen;
+}
+
+/// Elke byte van ISO 8859-1 in UTF-8; die van ASCII hebben genoeg aan de eerste van de twee.
+constexpr auto latijn1Tekens = [] {
+    std::array<std::array<char, 2>, 256> tekens{};
+    for (std::size_t byte = 0; byte < tekens.size(); ++byte) {
+        tekens[byte] = byte < 0x80 ? std::array{static_cast<char>(byte), '\0'}
+                                   : std::array{static_cast<char>(0xC0U | (byte >> 6U)),
+                                                static_cast<char>(0x80U | (byte & 0x3FU))};
+    }
+    return tekens;
+}();
+
+/// Zet bytes in ISO 8859-1 om, zonder sprong: waar een accent staat is niet te voorspellen.
+/// @param doel  waar twee bytes passen voor elke byte.
+/// @return waar het volgende teken komt.
+char* verbreed(std::string_view bytes, char* doel) {
+    for (const char teken : bytes) {
+        const auto byte = static_cast<unsigned char>(teken);
+        std::memcpy(doel, latijn1Tekens[byte].data(), 2);
+        doel += 1 + (byte >> 7U);
+    }
+    return doel;
 }
 
 }  // namespace
@@ -132,27 +226,31 @@ Utf8Teken leesUtf8(std::string_view bytes) {
     return {Utf8Oordeel::geldig, lengte, waarde};
 }
 
-void schrijfUtf8(std::uint32_t waarde, std::string& uit) {
+void schrijfUtf8(std::uint32_t waarde, Bytes& uit) {
     if (waarde < 0x80) {
-        uit += static_cast<char>(waarde);
+        uit.voegToe(static_cast<char>(waarde));
         return;
     }
     if (waarde < 0x800) {
-        uit += static_cast<char>(0xC0U | (waarde >> 6U));
+        uit.voegToe(static_cast<char>(0xC0U | (waarde >> 6U)));
     } else {
         if (waarde < 0x10000) {
-            uit += static_cast<char>(0xE0U | (waarde >> 12U));
+            uit.voegToe(static_cast<char>(0xE0U | (waarde >> 12U)));
         } else {
-            uit += static_cast<char>(0xF0U | (waarde >> 18U));
-            uit += static_cast<char>(0x80U | ((waarde >> 12U) & 0x3FU));
+            uit.voegToe(static_cast<char>(0xF0U | (waarde >> 18U)));
+            uit.voegToe(static_cast<char>(0x80U | ((waarde >> 12U) & 0x3FU)));
         }
-        uit += static_cast<char>(0x80U | ((waarde >> 6U) & 0x3FU));
+        uit.voegToe(static_cast<char>(0x80U | ((waarde >> 6U) & 0x3FU)));
     }
-    uit += static_cast<char>(0x80U | (waarde & 0x3FU));
+    uit.voegToe(static_cast<char>(0x80U | (waarde & 0x3FU)));
 }
 
 std::size_t telGewoneAscii(std::string_view bytes, CrLf crLf) {
     return telTotEinde<Bytesoort::ascii>(bytes, crLf);
+}
+
+std::size_t telKorteTekens(std::string_view bytes, CrLf crLf) {
+    return crLf == CrLf::teltMee ? telKort<CrLf::teltMee>(bytes) : telKort<CrLf::eindigt>(bytes);
 }
 
 std::size_t telZonderEinden(std::string_view bytes, CrLf crLf) {
@@ -161,7 +259,7 @@ std::size_t telZonderEinden(std::string_view bytes, CrLf crLf) {
 
 bool isSchoneUtf8(std::string_view bytes) {
     std::size_t plek = 0;
-    while ((plek += telTweetallen(bytes, plek)) < bytes.size()) {
+    while ((plek += telTweetallen<CrLf::eindigt>(bytes, plek)) < bytes.size()) {
         const Utf8Teken teken = leesUtf8(bytes.substr(plek));
         if (teken.oordeel != Utf8Oordeel::geldig || teken.waarde < laagsteWaarde(teken.lengte) ||
             teken.waarde == '\0' || teken.waarde == '\r') {
@@ -172,43 +270,29 @@ bool isSchoneUtf8(std::string_view bytes) {
     return true;
 }
 
-std::size_t neemLatijn1(std::string_view bytes, std::string& uit) {
-    constexpr std::size_t hoogstens = 4096;
-    std::array<char, 2 * hoogstens + Vak::size()> plaats;  // NOLINT(cppcoreguidelines-pro-type-member-init)
-    const std::string_view stuk = bytes.substr(0, hoogstens);
-    char* doel = plaats.data();
-    std::size_t plek = 0;
-    while (plek < stuk.size()) {
-        if (plek + Vak::size() <= stuk.size()) {
-            // Het hele vak gaat mee; wat na de eerste bijzondere byte komt wordt daarna overschreven.
-            const Vak vak(stuk.data() + plek, simd::element_aligned);
-            vak.copy_to(doel, simd::element_aligned);
-            const auto bijzonder = vak <= '\0' || vak == '\r';
-            const bool heel = simd::none_of(bijzonder);
-            const std::size_t gewoon =
-                heel ? Vak::size() : static_cast<std::size_t>(simd::find_first_set(bijzonder));
-            doel += gewoon;
-            plek += gewoon;
-            if (heel) {
-                continue;
-            }
-        }
-        const auto byte = static_cast<unsigned char>(stuk[plek]);
-        if (byte >= 0x80) {
-            *doel++ = static_cast<char>(0xC0U | (byte >> 6U));
-            *doel++ = static_cast<char>(0x80U | (byte & 0x3FU));
-            ++plek;
-        } else if (byte != '\0' && byte != '\r') {
-            *doel++ = stuk[plek++];
-        } else if (bytes.substr(plek).starts_with("\r\n")) {
-            *doel++ = '\n';
-            plek += 2;
-        } else {
-            break;
-        }
+std::size_t telRegeleinden(std::string_view bytes) {
+    std::size_t aantal = 0;
+    for (; bytes.size() >= Vak::size(); bytes.remove_prefix(Vak::size())) {
+        aantal += static_cast<std::size_t>(simd::popcount(Vak(bytes.data(), simd::element_aligned) == '\n'));
     }
-    uit.append(plaats.data(), doel);
-    return plek;
+    return aantal + static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
+}
+
+std::size_t neemGewoneAscii(std::string_view bytes, Bytes& uit) {
+    return neemMet(uit, bytes.size(), [bytes](char*& doel) { return neemAscii(bytes, doel); });
+}
+
+std::size_t neemLatijn1(std::string_view bytes, Bytes& uit) {
+    return neemMet(uit, 2 * bytes.size(), [bytes](char*& doel) {
+        std::size_t plek = neemAscii(bytes, doel);
+        // Waar een accent staat, volgen er vaak meer.
+        while (const std::size_t lengte = telZonderEinden(bytes.substr(plek, Vak::size()))) {
+            doel = verbreed(bytes.substr(plek, lengte), doel);
+            plek += lengte;
+            plek += neemAscii(bytes.substr(plek), doel);
+        }
+        return plek;
+    });
 }
 
 }  // namespace kern

@@ -5,8 +5,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
 #include <string_view>
+
+#include "Knipselaar/kern/bytes.h"
 
 namespace kern {
 
@@ -28,12 +29,17 @@ Utf8Teken leesUtf8(std::string_view bytes);
 
 /// Hangt een codepunt in zijn kortste vorm achter uit.
 /// @param waarde  hoogstens U+10FFFF.
-void schrijfUtf8(std::uint32_t waarde, std::string& uit);
+void schrijfUtf8(std::uint32_t waarde, Bytes& uit);
 
-/// Zet bytes in ISO 8859-1 om en hangt ze achter uit: hoogstens een stuk, en tot de eerste CR of NUL. Een CR
-/// LF stopt niet, en wordt een LF.
+/// Hangt gewone ASCII (zie telGewoneAscii) achter uit, tot de eerste andere byte. Een CR LF stopt niet, en
+/// wordt een LF.
+/// @return hoeveel bytes het waren.
+std::size_t neemGewoneAscii(std::string_view bytes, Bytes& uit);
+
+/// Zet bytes in ISO 8859-1 om en hangt ze achter uit, tot de eerste CR of NUL. Een CR LF stopt niet, en wordt
+/// een LF.
 /// @return hoeveel bytes het waren; nul als de eerste een CR of NUL is die stopt.
-std::size_t neemLatijn1(std::string_view bytes, std::string& uit);
+std::size_t neemLatijn1(std::string_view bytes, Bytes& uit);
 
 /// Of alle bytes hele, geldige tekens in hun kortste vorm zijn en er geen CR of NUL bij is.
 bool isSchoneUtf8(std::string_view bytes);
@@ -44,7 +50,13 @@ enum class CrLf { eindigt, teltMee };
 /// Aantal bytes aan het begin dat gewone ASCII is: geen CR, geen NUL, geen hoge byte. Een LF telt mee.
 std::size_t telGewoneAscii(std::string_view bytes, CrLf crLf = CrLf::eindigt);
 
+/// Aantal bytes aan het begin dat gewone ASCII is of een heel teken van twee bytes.
+std::size_t telKorteTekens(std::string_view bytes, CrLf crLf = CrLf::eindigt);
+
 /// Aantal bytes aan het begin zonder CR of NUL.
 std::size_t telZonderEinden(std::string_view bytes, CrLf crLf = CrLf::eindigt);
+
+/// Hoeveel bytes een LF zijn.
+std::size_t telRegeleinden(std::string_view bytes);
 
 }  // namespace kern

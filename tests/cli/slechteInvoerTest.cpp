@@ -144,7 +144,8 @@ TEST_F(CliSlechteInvoer, MeldtWatNietTeLezenIsEnKniptDeRest) {
 TEST_F(CliSlechteInvoer, MeldtWatNietTeSchrijvenIs) {
     schrijf("a.c", bron);
     chmod((map_ / "a.c").c_str(), 0644);
-    fs::create_directory(map_ / "vast");
+    schrijf("vast/b.c", bron);
+    chmod((map_ / "vast/b.c").c_str(), 0644);
     chmod((map_ / "vast").c_str(), 0555);
     const std::string reden = "geen toegang; geef rechten of kies een andere plaats";
     EXPECT_EQ(storing("vast/a.c: kan niet geschreven worden: " + reden),
@@ -152,8 +153,6 @@ TEST_F(CliSlechteInvoer, MeldtWatNietTeSchrijvenIs) {
     EXPECT_EQ("knipselaar-cli: fout: vast/uit: kan niet gemaakt worden: " + reden +
                   "\nknipselaar-cli: fout: vast/uit/a.c: kan niet geschreven worden: bestaat niet\n",
               draai({"a.c", "-n", "vast/uit"}, {.gewoneGebruiker = true}).fout);
-    schrijf("vast/b.c", bron);
-    chmod((map_ / "vast/b.c").c_str(), 0644);
     EXPECT_EQ(
         (Uitkomst{
             .status = 2,

@@ -73,6 +73,9 @@ class Bediening : public testing::Test {
     /// een klik later door dan de toetsen die erna komen.
     void gaMetKlikNaar(const std::string& ding) const;
 
+    /// Of een veld in het hoofdvenster de toetsen heeft en precies deze tekst.
+    bool staatIn(const std::string& veld, const std::string& tekst) const;
+
     /// Vervangt de tekst van een veld in het hoofdvenster dat de toetsen al heeft.
     void vervang(const std::string& veld, const std::string& tekst) const;
 
@@ -125,6 +128,9 @@ class Bediening : public testing::Test {
         });
     }
 
+    /// Wacht tot het programma iets te vragen is: dan is het klaar met wat het deed.
+    void wachtOpAntwoord() const;
+
     /// Geeft met toetsen een opdracht die om een pad om op te slaan vraagt, ook vlak na een knipbeurt.
     void vraagOpslaan(const std::string& toetsen) const;
 
@@ -158,7 +164,7 @@ class Bediening : public testing::Test {
     std::string kijk(const std::vector<std::string>& vraag) const;
 
     hulp::Beeldscherm beeldscherm_;
-    std::unique_ptr<Scherm> scherm_;
+    std::unique_ptr<Scherm> scherm_;            ///< op Wayland vanaf de start
     std::string uitvoerbaar_ = programmaPad();  ///< waar de gebruiker het programma vindt
     std::vector<std::string> schermlezer_{SCHERMLEZER};
 };

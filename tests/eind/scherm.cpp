@@ -1,9 +1,8 @@
 #include "tests/eind/scherm.h"
 
-#include <algorithm>
 #include <sstream>
-#include <vector>
 
+#include "tests/eind/toetsenbord.h"
 #include "tests/hulp/opdracht.h"
 
 using hulp::voerUit;
@@ -42,24 +41,8 @@ class SchermVanX : public Scherm {
 /// zijn.
 class SchermVanWayland : public Scherm {
   public:
-    void druk(const std::string& toetsen) const override {
-        std::vector<std::string> opdracht{"wtype"};
-        std::vector<std::string> loslaten;
-        std::istringstream woorden(toetsen);
-        std::string toets;
-        while (std::getline(woorden, toets, '+') && !woorden.eof()) {
-            opdracht.insert(opdracht.end(), {"-M", toets});
-            loslaten.insert(loslaten.end(), {"-m", toets});
-        }
-        // Een echt toetsenbord maakt van shift en tab één teken.
-        const bool terug =
-            toets == "Tab" && std::find(loslaten.begin(), loslaten.end(), "shift") != loslaten.end();
-        opdracht.insert(opdracht.end(), {"-k", terug ? "ISO_Left_Tab" : toets});
-        opdracht.insert(opdracht.end(), loslaten.begin(), loslaten.end());
-        doe(opdracht);
-    }
-
-    void typ(const std::string& tekst) const override { doe({"wtype", "-d", "20", tekst}); }
+    void druk(const std::string& toetsen) const override { toetsenbord_->druk(toetsen); }
+    void typ(const std::string& tekst) const override { toetsenbord_->typ(tekst); }
 
     bool isZichtbaar(const std::string& titel) const override { return is("title=\"" + titel + "\""); }
 
@@ -68,16 +51,11 @@ class SchermVanWayland : public Scherm {
     }
 
   private:
-    /// Voegt er een toets aan toe die niet gedrukt wordt: GTK slaat de laatste toets van een toetsenbord over
-    /// als het opzoekt waar een sneltoets ligt, en dit toetsenbord heeft alleen de toetsen uit de opdracht.
-    static void doe(std::vector<std::string> opdracht) {
-        opdracht.insert(opdracht.end(), {"-p", "F35"});
-        voerUit(opdracht);
-    }
-
     static bool is(const std::string& kenmerken) {
         return !voerUit({"swaymsg", "--raw", "[" + kenmerken + "] nop"}).empty();
     }
+
+    std::unique_ptr<Toetsenbord> toetsenbord_ = std::make_unique<Toetsenbord>();
 };
 
 }  // namespace

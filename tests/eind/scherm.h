@@ -27,4 +27,5 @@ class Scherm {
     virtual bool isActief(const std::string& titel) const = 0;
 };
 
+/// Voor een beeldscherm dat er al is.
 std::unique_ptr<Scherm> maakScherm(hulp::Beeldscherm beeldscherm);

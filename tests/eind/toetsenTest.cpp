@@ -2,6 +2,7 @@
 // eind met alleen toetsen.
 
 #include <algorithm>
+#include <csignal>
 
 #include "tests/eind/toegang.h"
 #include "tests/hulp/bestandsboom.h"
@@ -127,6 +128,22 @@ TEST_P(Toetsen, LopenDoorHetMenu) {
     vraagOpslaan("ctrl+s");
     kiesPad(opslaanDialoog, doel_, linkereditor);
     EXPECT_EQ(std::string(origineel) + origineel + "\n", hulp::leesBestand(doel_));
+    sluitAf();
+}
+
+TEST_P(Toetsen, KomenAanOokAlsHetProgrammaEvenNietLuistert) {
+    start();
+    gaNaar(beginVeld);
+    programma_->stuur(SIGSTOP);
+    for (const char* tekst : {"Eerst dit", "EN DAN dat"}) {
+        druk("ctrl+a");
+        typ(tekst);
+    }
+    druk("Home");
+    druk("shift+End");
+    typ("BEGIN");
+    programma_->stuur(SIGCONT);
+    EXPECT_TRUE(hulp::wachtTot([this] { return staatIn(beginVeld, "BEGIN"); })) << volgorde().back();
     sluitAf();
 }
 

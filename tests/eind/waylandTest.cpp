@@ -39,6 +39,7 @@ class Wayland : public Toegang {
         wachtTotWeg(vraag);
         wachtTotWeg(bezigvenster);
         wachtOpVenster(hoofdvenster);
+        wachtOpAntwoord();
     }
 
     /// De kleuren van het venster dat de toetsen krijgt, drie bytes per punt. Leeg als er geen is.

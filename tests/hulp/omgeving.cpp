@@ -125,12 +125,6 @@ void Omgeving::startWayland(const std::vector<std::string>& als) {
     const std::string beeldscherm = startBediende(opdracht);
     setenv("WAYLAND_DISPLAY", beeldscherm.c_str(), 1);
     setenv("GDK_BACKEND", "wayland", 1);
-    // Dit toetsenbord wordt niet gebruikt, het is er alleen: zonder krijgt geen venster de toetsen, en gaat
-    // de eerste toets van elk volgend toetsenbord verloren.
-    constexpr const char* langMs = "1000000000";
-    bedienden_.push_back(std::make_unique<Kindproces>(std::vector<std::string>{"wtype", "-s", langMs},
-                                                      map_ / "wtype.log", map_ / "wtype.log"));
-    wachtTot([] { return std::system("swaymsg -t get_inputs 2>/dev/null | grep -q virtual_keyboard") == 0; });
 }
 
 std::string Omgeving::startBediende(const std::vector<std::string>& opdracht) {

@@ -64,10 +64,9 @@ class Omgeving {
     Omgeving& operator=(const Omgeving&) = delete;
     ~Omgeving();
 
-    /// Start een beeldscherm van Wayland, met een toetsenbord. Is het er al, dan blijft het bij dat.
+    /// Start een beeldscherm van Wayland, nog zonder toetsenbord. Is het er al, dan blijft het bij dat.
     /// @param als  de opdracht waarmee een gewone gebruiker het start: root wordt geweigerd. Leeg als dat
-    /// niet
-    ///             hoeft.
+    ///             niet hoeft.
     void startWayland(const std::vector<std::string>& als);
 
     /// Start een bus waarop een schermlezer meeluistert, en laat programma's die daarna starten eraan

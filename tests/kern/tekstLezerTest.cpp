@@ -239,6 +239,26 @@ TEST(TekstLezer, LeestUitEenStroomDieHapert) {
     }
 }
 
+// Blokken zonder en met iets dat om te zetten is, in elke volgorde. Een regel loopt steeds door in het
+// volgende blok.
+TEST(TekstLezer, LeestElkeAfwisselingVanBlokken) {
+    constexpr unsigned blokken = 4;
+    for (unsigned volgorde = 0; volgorde < 1U << blokken; ++volgorde) {
+        std::string inhoud;
+        std::string verwacht;
+        for (unsigned blok = 0; blok < blokken; ++blok) {
+            const bool omTeZetten = ((volgorde >> blok) & 1U) != 0;
+            const std::string begin = "blok " + std::to_string(blok);
+            const std::string_view einde = omTeZetten ? "\r\n" : "\n";
+            const std::size_t lengte = kern::TekstLezer::eersteBlok << blok;
+            const std::string rest(lengte - begin.size() - einde.size(), 'r');
+            inhoud.append(begin).append(einde).append(rest);
+            verwacht.append(begin).append("\n").append(rest);
+        }
+        ASSERT_TRUE(verwacht + "\n" == lees(inhoud)) << volgorde;
+    }
+}
+
 TEST(TekstLezer, HoudtOpNaEenLeesfoutEnMeldtDie) {
     HaperendeStroom stroom("een\ntwee", 3, wxSTREAM_READ_ERROR);
     const Uitkomst uitkomst = leesAlles(stroom);

@@ -202,28 +202,105 @@ TEST(Utf8, ZetLatijn1OmTotEenRegeleinde) {
                 bytes[plek + 1] = tweede;
                 std::size_t verwacht = 0;
                 const std::string omgezet = "al " + zetEenvoudigOm(bytes, verwacht);
-                std::string uit = "al ";
+                kern::Bytes uit("al ");
                 ASSERT_EQ(verwacht, kern::neemLatijn1(bytes, uit)) << plek;
-                ASSERT_EQ(omgezet, uit) << plek;
+                ASSERT_EQ(omgezet, uit.geef()) << plek;
             }
         }
     }
 }
 
-// Wat langer is gaat in stukken, ook als een CR LF over de grens ligt.
-TEST(Utf8, ZetVeelLatijn1InStukkenOm) {
-    for (const std::size_t voor : {4092U, 4093U, 4094U, 4095U, 4096U, 4097U}) {
+TEST(Utf8, NeemtGewoneAsciiOverTotEenAndereByte) {
+    constexpr std::size_t lengte = 40;
+    for (const char eerste : {'\r', '\n', '\0', '\x80', '\x7F'}) {
+        for (const char tweede : {'\n', '\r', '\0', '\xC3', 'b'}) {
+            for (std::size_t plek = 0; plek < lengte; ++plek) {
+                std::string bytes = "a\r\n" + std::string(lengte, ' ');
+                bytes[plek] = eerste;
+                bytes[plek + 1] = tweede;
+                std::size_t verwacht = 0;
+                const std::string omgezet =
+                    zetEenvoudigOm(bytes.substr(0, bytes.find_first_of("\x80\xC3")), verwacht);
+                kern::Bytes uit("al ");
+                ASSERT_EQ(verwacht, kern::neemGewoneAscii(bytes, uit)) << plek;
+                ASSERT_EQ("al " + omgezet, uit.geef()) << plek;
+            }
+        }
+    }
+}
+
+// Elke byte tussen gewone tekst, na een accent en als laatste.
+TEST(Utf8, ZetElkeByteVanLatijn1Om) {
+    for (int waarde = 0; waarde < 256; ++waarde) {
+        const auto byte = static_cast<char>(waarde);
+        for (const std::string& bytes :
+             {std::string(20, 'a') + byte + std::string(20, 'b'), std::string("\xE9") + byte,
+              std::string(byte == '\r' ? "" : "\r\n") + byte}) {
+            std::size_t verwacht = 0;
+            const std::string omgezet = zetEenvoudigOm(bytes, verwacht);
+            kern::Bytes uit;
+            ASSERT_EQ(verwacht, kern::neemLatijn1(bytes, uit)) << waarde;
+            ASSERT_EQ(omgezet, uit.geef()) << waarde;
+        }
+    }
+}
+
+// Tweemaal zo lang wordt het hoogstens; het staat er dan precies in, en een CR LF onderweg houdt niets op.
+TEST(Utf8, ZetVeelLatijn1OmInEenKeer) {
+    for (const std::size_t voor : {15U, 16U, 17U, 4095U, 4096U, 4097U}) {
         const std::string bytes = std::string(voor, '\xE9') + "\r\n" + std::string(9000, '\xFC');
         std::size_t verwacht = 0;
         const std::string omgezet = zetEenvoudigOm(bytes, verwacht);
-        std::string uit;
-        std::size_t genomen = 0;
-        while (genomen < bytes.size()) {
-            const std::size_t stuk = kern::neemLatijn1(std::string_view(bytes).substr(genomen), uit);
-            ASSERT_LT(0U, stuk);
-            genomen += stuk;
+        kern::Bytes uit;
+        uit.maakRuimte(2 * bytes.size());
+        const char* plaats = uit.geefBegin();
+        EXPECT_EQ(verwacht, kern::neemLatijn1(bytes, uit));
+        EXPECT_EQ(bytes.size(), verwacht);
+        EXPECT_EQ(omgezet, uit.geef());
+        EXPECT_EQ(plaats, uit.geefBegin());
+    }
+}
+
+// Wat kort is wordt teken voor teken nagemeten, in elke vulling en tot elk einde, met op elke plaats elke
+// byte.
+TEST(Utf8, TeltKorteTekens) {
+    const auto telEenvoudigKort = [](std::string_view bytes) {
+        std::size_t plek = 0;
+        for (std::size_t lengte = 1; plek < bytes.size() && lengte > 0; plek += lengte) {
+            lengte = meetSchoonTeken(bytes.substr(plek));
+            lengte = lengte > 2 ? 0 : lengte;
         }
-        EXPECT_EQ(verwacht, genomen);
-        EXPECT_EQ(omgezet, uit);
+        return plek;
+    };
+    for (const std::string& vulling : geefVullingen()) {
+        for (std::size_t plek = 0; plek < vulling.size(); ++plek) {
+            const std::string_view begin = std::string_view(vulling).substr(0, plek);
+            ASSERT_EQ(telEenvoudigKort(begin), kern::telKorteTekens(begin)) << plek;
+            for (int waarde = 0; waarde < 256; ++waarde) {
+                std::string bytes = vulling;
+                bytes[plek] = static_cast<char>(waarde);
+                ASSERT_EQ(telEenvoudigKort(bytes), kern::telKorteTekens(bytes)) << plek << " " << waarde;
+            }
+        }
+    }
+}
+
+TEST(Utf8, TeltEenCrLfTussenKorteTekensAlleenMeeAlsDatGevraagdIs) {
+    for (std::size_t plek = 0; plek < 40; ++plek) {
+        const std::string begin = std::string(plek, 'a') + "\xC3\xA9";
+        const std::string bytes = begin + "\r\n\xC3\xA9 en verder nog een heel vak\r";
+        EXPECT_EQ(begin.size(), kern::telKorteTekens(bytes));
+        EXPECT_EQ(bytes.size() - 1, kern::telKorteTekens(bytes, kern::CrLf::teltMee));
+    }
+}
+
+TEST(Utf8, TeltRegeleinden) {
+    for (std::size_t lengte = 0; lengte < 70; ++lengte) {
+        std::string bytes(lengte, '\x8A');
+        EXPECT_EQ(0U, kern::telRegeleinden(bytes));
+        for (std::size_t plek = 0; plek < lengte; plek += 3) {
+            bytes[plek] = '\n';
+        }
+        EXPECT_EQ((lengte + 2) / 3, kern::telRegeleinden(bytes)) << lengte;
     }
 }

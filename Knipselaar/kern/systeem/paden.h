@@ -44,6 +44,11 @@ bool ligtIn(std::string_view pad, std::string_view directory);
 /// letters, en is elke schuine streep dezelfde.
 std::string maakSleutel(std::string_view pad);
 
+/// De tekens die de namen in een pad van elkaar scheiden.
+std::string_view geefScheidingstekens();
+
+bool isScheiding(char teken);
+
 /// De laatste naam van een pad.
 std::string_view geefNaam(std::string_view pad);
 

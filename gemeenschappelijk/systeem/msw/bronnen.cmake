@@ -1,2 +1,2 @@
-set(gemeenschappelijk_systeem_bronnen systeem/msw/overPlaatje.cpp)
+set(gemeenschappelijk_systeem_bronnen systeem/msw/overPlaatje.cpp systeem/msw/slotDirectory.cpp)
 set(gemeenschappelijk_systeem_linkt "")

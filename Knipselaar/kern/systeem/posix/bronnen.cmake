@@ -4,12 +4,12 @@ set(kern_systeem_bronnen
   kern/systeem/posix/buurbestand.cpp
   kern/systeem/posix/console.cpp
   kern/systeem/posix/directory.cpp
+  kern/systeem/posix/eigenReden.cpp
   kern/systeem/posix/geheugen.cpp
   kern/systeem/posix/kenmerken.cpp
   kern/systeem/posix/masker.cpp
   kern/systeem/posix/onderbreking.cpp
   kern/systeem/posix/paden.cpp
   kern/systeem/posix/rechten.cpp
-  kern/systeem/posix/reden.cpp
   kern/systeem/posix/vervanging.cpp
   kern/systeem/posix/vindBytes.cpp)

@@ -5,6 +5,7 @@ set(kern_systeem_bronnen
   kern/systeem/windows/buurbestand.cpp
   kern/systeem/windows/console.cpp
   kern/systeem/windows/directory.cpp
+  kern/systeem/windows/eigenReden.cpp
   kern/systeem/windows/fout.cpp
   kern/systeem/windows/geheugen.cpp
   kern/systeem/windows/handvat.cpp
@@ -13,6 +14,5 @@ set(kern_systeem_bronnen
   kern/systeem/windows/onderbreking.cpp
   kern/systeem/windows/paden.cpp
   kern/systeem/windows/plaats.cpp
-  kern/systeem/windows/reden.cpp
   kern/systeem/windows/vervanging.cpp
   kern/systeem/windows/vindBytes.cpp)

@@ -2,22 +2,11 @@
 
 #include <algorithm>
 
-#include "Knipselaar/kern/systeem/kenmerken.h"
 #include "Knipselaar/kern/systeem/windows/breed.h"
 #include "Knipselaar/kern/systeem/windows/fout.h"
 #include "Knipselaar/kern/systeem/windows/handvat.h"
 
 namespace kern {
-
-namespace {
-
-constexpr std::string_view scheidingstekens = "/\\";
-
-bool isScheiding(char teken) {
-    return scheidingstekens.find(teken) != std::string_view::npos;
-}
-
-}  // namespace
 
 std::string naarPad(const wxString& tekst) {
     return windows::maakSmal(tekst.ToStdWstring());
@@ -27,20 +16,8 @@ wxString naarTekst(const std::string& pad) {
     return windows::maakBreed(pad);
 }
 
-bool isLink(const std::string& pad) {
-    Kenmerken kenmerken;
-    return !leesEigenKenmerken(pad, kenmerken) && kenmerken.soort == Bestandssoort::link;
-}
-
 std::string leesLink(const std::string& pad) {
     return isLink(pad) ? geefEchtPad(pad) : std::string();
-}
-
-bool isZelfdePlaats(const std::string& een, const std::string& ander) {
-    Kenmerken eerste;
-    Kenmerken tweede;
-    return een == ander ||
-           (!leesKenmerken(ander, tweede) && !leesKenmerken(een, eerste) && eerste.isZelfdePlaats(tweede));
 }
 
 std::string geefEchtPad(const std::string& pad, std::error_code& fout) {
@@ -67,11 +44,6 @@ std::string geefEchtPad(const std::string& pad, std::error_code& fout) {
     return smal;
 }
 
-std::string geefEchtPad(const std::string& pad) {
-    std::error_code fout;
-    return geefEchtPad(pad, fout);
-}
-
 bool ligtIn(std::string_view pad, std::string_view directory) {
     while (directory.size() > 1 && isScheiding(directory.back())) {
         directory.remove_suffix(1);
@@ -88,20 +60,8 @@ std::string maakSleutel(std::string_view pad) {
     return windows::maakSmal(breed);
 }
 
-std::string_view geefNaam(std::string_view pad) {
-    const std::size_t plek = pad.find_last_of(scheidingstekens);
-    return plek == std::string_view::npos ? pad : pad.substr(plek + 1);
-}
-
-std::string plak(std::string_view directory, std::string_view pad) {
-    if (directory.empty() || pad.empty()) {
-        return std::string(directory.empty() ? pad : directory);
-    }
-    std::string uit(directory);
-    if (!isScheiding(uit.back())) {
-        uit += '/';
-    }
-    return uit += pad;
+std::string_view geefScheidingstekens() {
+    return "/\\";
 }
 
 }  // namespace kern
