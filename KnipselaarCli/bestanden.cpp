@@ -92,7 +92,7 @@ kern::Bytes leesStroom(const std::string& pad) {
 Inhoud leesInhoud(const std::string& pad) {
     Inhoud inhoud;
     if (pad == standaardinvoer) {
-        inhoud.rechten = perms::owner_read | perms::owner_write | perms::group_read | perms::group_write |
+        inhoud.kenmerken.rechten = perms::owner_read | perms::owner_write | perms::group_read | perms::group_write |
                          perms::others_read | perms::others_write;
         inhoud.bytes = leesStandaardinvoer();
         return inhoud;
@@ -106,7 +106,7 @@ Inhoud leesInhoud(const std::string& pad) {
                               ? ": is een directory; noem een bestand, of geef --naar of --ter-plaatse"
                               : ": is geen gewoon bestand; gebruik '-' voor de standaardinvoer"));
     }
-    inhoud.rechten = bron.kenmerken.rechten & perms::all;
+    inhoud.kenmerken = bron.kenmerken;
     // Het bestand mag intussen korter of langer geworden zijn.
     inhoud.bytes.maakRuimte(static_cast<std::size_t>(bron.kenmerken.lengte) + kleinsteRuimte);
     if (const auto fout = leesVerder(bron.bestand.geefKanaal(), inhoud.bytes)) {
@@ -155,30 +155,39 @@ bool isEerdereUitvoer(const std::string& pad, Uitvoersoort soort) {
            aantekening == maakAantekening(soort, kenmerken);
 }
 
-kern::Verlies vervangTerPlaatse(const std::string& pad, const Stukken& stukken) {
-    std::error_code storing;
-    kern::Kenmerken oud;
-    const std::string echt = kern::geefEchtPad(pad, storing);
-    if (!storing) {
-        storing = kern::leesKenmerken(echt, oud);
-    }
-    if (storing) {
-        gooi(pad, "vervangen", storing);
-    }
-    kern::Buurbestand nieuw(echt);
-    if (!nieuw.isOpen()) {
-        throw Fout(pad +
-                   ": blijft zoals het is: ernaast is geen bestand te maken: " + noemReden(nieuw.geefFout()));
+Klaargezet::Klaargezet(std::string pad, const std::string& echt, const kern::Kenmerken& gelezen,
+                       const Stukken& stukken)
+    : pad_(std::move(pad)), echt_(echt), gelezen_(gelezen), nieuw_(echt) {
+    if (!nieuw_.isOpen()) {
+        throw Fout(pad_ +
+                   ": blijft zoals het is: ernaast is geen bestand te maken: " + noemReden(nieuw_.geefFout()));
     }
     try {
-        schrijfAlles(nieuw.geefKanaal(), stukken);
+        schrijfAlles(nieuw_.geefKanaal(), stukken);
     } catch (const Fout& fout) {
-        throw Fout(pad + ": blijft zoals het is: " + fout.what());
+        throw Fout(pad_ + ": blijft zoals het is: " + fout.what());
     }
-    if (const auto fout = nieuw.vervang(oud)) {
-        gooi(pad, "vervangen", fout);
+    if (const auto fout = nieuw_.maakKlaar(gelezen_)) {
+        gooi(pad_, "vervangen", fout);
     }
-    return nieuw.geefVerlies();
+}
+
+std::string Klaargezet::geefDirectory() const {
+    return echt_.substr(0, echt_.size() - kern::geefNaam(echt_).size());
+}
+
+void Klaargezet::vervang() {
+    kern::Kenmerken nu;
+    if (const auto fout = kern::leesEigenKenmerken(echt_, nu)) {
+        gooi(pad_, "vervangen", fout);
+    }
+    // Tussen lezen en vervangen komen alle andere bestanden; intussen kan iemand dit bewaard hebben.
+    if (!nu.isOngewijzigd(gelezen_)) {
+        throw Fout(pad_ + ": blijft zoals het is: is intussen veranderd; knip het opnieuw");
+    }
+    if (const auto fout = nieuw_.neemPlaatsIn()) {
+        gooi(pad_, "vervangen", fout);
+    }
 }
 
 }  // namespace cli

@@ -3,12 +3,15 @@
 // Bestanden lezen en schrijven zonder iets half achter te laten. Namen zijn de bytes van het bestandssysteem,
 // in welke codering ook. Wat niet lukt gooit Fout, met de naam en de reden.
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
 #include <string_view>
 
 #include "Knipselaar/kern/bytes.h"
+#include "Knipselaar/kern/systeem/buurbestand.h"
+#include "Knipselaar/kern/systeem/kenmerken.h"
 #include "Knipselaar/kern/systeem/verlies.h"
 
 namespace cli {
@@ -24,7 +27,7 @@ using Stukken = std::function<void(const Ontvanger&)>;
 
 struct Inhoud {
     kern::Bytes bytes;
-    std::filesystem::perms rechten{};  ///< rwx voor eigenaar, groep en anderen
+    kern::Kenmerken kenmerken;  ///< van het open bestand; van de standaardinvoer alleen de rechten
 };
 
 /// Leest een gewoon bestand, of de standaardinvoer.
@@ -46,9 +49,32 @@ void schrijfUitvoer(const std::string& pad, const Stukken& stukken, std::filesys
 /// bestandssysteem geen aantekening bewaart.
 bool isEerdereUitvoer(const std::string& pad, Uitvoersoort soort);
 
-/// Vervangt de inhoud van een bestand zoals het venster dat in een boom doet; een link blijft een link.
-/// @return  wat het bestand daarbij niet kon houden.
-kern::Verlies vervangTerPlaatse(const std::string& pad, const Stukken& stukken);
+/// De nieuwe inhoud van een bestand, klaar om zijn plaats in te nemen. Wat zijn plaats niet kreeg, verdwijnt met dit
+/// object.
+class Klaargezet {
+  public:
+    /// Schrijft de inhoud in een bestand ernaast. Gooit Fout; het bestand blijft dan zoals het is.
+    /// @param pad      zoals het in meldingen staat.
+    /// @param echt     het pad zonder links; zo blijft een link een link.
+    /// @param gelezen  van het bestand toen het gelezen werd.
+    Klaargezet(std::string pad, const std::string& echt, const kern::Kenmerken& gelezen, const Stukken& stukken);
+
+    /// Het bestandssysteem waar het op staat, en een directory daarop.
+    std::uint64_t geefSchijf() const { return gelezen_.schijf; }
+    std::string geefDirectory() const;
+
+    /// Neemt de plaats van het bestand in. Gooit Fout als dat niet lukt, of als het bestand intussen veranderd is.
+    void vervang();
+
+    /// Wat het bestand daarbij niet kan houden.
+    const kern::Verlies& geefVerlies() const { return nieuw_.geefVerlies(); }
+
+  private:
+    std::string pad_;
+    std::string echt_;
+    kern::Kenmerken gelezen_;
+    kern::Buurbestand nieuw_;
+};
 
 /// Schrijft alles naar een open kanaal. Gooit Fout met alleen de reden.
 void schrijfAlles(int kanaal, const Stukken& stukken);

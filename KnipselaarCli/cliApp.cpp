@@ -1,6 +1,7 @@
 #include "KnipselaarCli/cliApp.h"
 
 #include <algorithm>
+#include <functional>
 #include <thread>
 
 #include "Knipselaar/kern/systeem/onderbreking.h"
@@ -10,6 +11,7 @@
 #include "KnipselaarCli/plan.h"
 #include "KnipselaarCli/ploeg.h"
 #include "KnipselaarCli/verslag.h"
+#include "KnipselaarCli/vervanging.h"
 #include "KnipselaarCli/werk.h"
 
 namespace cli {
@@ -50,8 +52,14 @@ class Run {
             return taak.handeling != Handeling::maakDirectory;
         });
         const auto directories = static_cast<std::size_t>(grens - plan_.taken.begin());
-        doeTaken(0, directories, 1);
-        doeTaken(directories, plan_.taken.size(), kiesDraden(opties_, plan_.taken.size() - directories));
+        doeTaken(0, directories, 1, [this](const Taak& taak, Uitslag&& uitslag) { neem(taak, uitslag); });
+        const std::size_t draden = kiesDraden(opties_, plan_.taken.size() - directories);
+        if (opties_.terPlaatse) {
+            vervang(directories, draden);
+        } else {
+            doeTaken(directories, plan_.taken.size(), draden,
+                     [this](const Taak& taak, Uitslag&& uitslag) { neem(taak, uitslag); });
+        }
         melder_.wisVoortgang();
         if (kern::isOnderbroken()) {
             return misbruikOfStoring;
@@ -89,7 +97,29 @@ class Run {
         }
     }
 
-    void doeTaken(std::size_t eerste, std::size_t voorbij, std::size_t draden) {
+    /// Zet eerst alles klaar en vast, en vervangt dan pas het eerste bestand. Valt de stroom uit, dan is elk bestand
+    /// heel: zoals het was, of geknipt. Wie onderbroken wordt heeft niets veranderd.
+    void vervang(std::size_t eerste, std::size_t draden) {
+        std::vector<Uitslag> uitslagen;
+        doeTaken(eerste, plan_.taken.size(), draden, [&uitslagen](const Taak&, Uitslag&& uitslag) {
+            uitslagen.push_back(std::move(uitslag));
+        });
+        if (kern::isOnderbroken()) {
+            return;
+        }
+        if (opties_.schrijft()) {
+            const std::string bezwaar = vervangAlles(uitslagen, opties_.allesOfNiets);
+            if (!bezwaar.empty()) {
+                meldOpmerking(bezwaar, true);
+            }
+        }
+        for (std::size_t i = 0; i < uitslagen.size(); ++i) {
+            neem(plan_.taken[eerste + i], uitslagen[i]);
+        }
+    }
+
+    void doeTaken(std::size_t eerste, std::size_t voorbij, std::size_t draden,
+                  const std::function<void(const Taak&, Uitslag&&)>& neemUitslag) {
         const std::size_t aantal = voorbij - eerste;
         Ploeg<Uitslag> ploeg(
             aantal,
@@ -97,8 +127,8 @@ class Run {
                 return cli::voerUit(plan_.taken[eerste + i], opties_, teksten_, plan_.soort);
             },
             [] { return !kern::isOnderbroken(); });
-        ploeg.werk(draden, [&](std::size_t i, const Uitslag& uitslag) {
-            neem(plan_.taken[eerste + i], uitslag);
+        ploeg.werk(draden, [&](std::size_t i, Uitslag&& uitslag) {
+            neemUitslag(plan_.taken[eerste + i], std::move(uitslag));
             if (plan_.taken[eerste].handeling != Handeling::maakDirectory) {
                 melder_.meldVoortgang(i + 1, aantal);
             }

@@ -19,6 +19,7 @@ constexpr std::array alleOpties = {
     Optie{"u", "uit", "BESTAND", "schrijf het knipsel naar dit bestand"},
     Optie{"n", "naar", "DIR", "schrijf de knipsels onder dezelfde naam in deze directory"},
     Optie{"t", "ter-plaatse", "", "vervang elk bestand door zijn knipsel"},
+    Optie{"", "alles-of-niets", "", "laat bij --ter-plaatse elk bestand zoals het is als er ook maar iets misgaat"},
     Optie{"r", "recursief", "", "ga een directory helemaal af; met --naar gaan alle andere bestanden mee"},
     Optie{"f", "overschrijf", "", "vervang ook bestemmingen die geen eerdere uitvoer zijn"},
     Optie{"k", "keuze", "SOORT", "wat in een directory geknipt wordt: talen (standaard), vhdl of alles"},
@@ -211,8 +212,9 @@ class Verwerker {
 
   private:
     bool zetVlag(const std::string& naam) {
-        const std::array<std::pair<const char*, bool*>, 12> vlaggen{{
+        const std::array<std::pair<const char*, bool*>, 13> vlaggen{{
             {"ter-plaatse", &opties_.terPlaatse},
+            {"alles-of-niets", &opties_.allesOfNiets},
             {"recursief", &opties_.recursief},
             {"overschrijf", &opties_.overschrijf},
             {"verborgen", &opties_.verborgen},
@@ -316,6 +318,9 @@ void keurSamen(const Opties& opties) {
     }
     if (opties.bewijs && opties.versiebeheer) {
         throw Fout("--bewijs gaat niet samen met --versiebeheer; in de geschiedenis staat elke oplossing");
+    }
+    if (opties.allesOfNiets && !opties.terPlaatse) {
+        throw Fout("--alles-of-niets hoort bij --ter-plaatse; alleen daar verandert een origineel");
     }
     if (opties.inspringen && opties.manier == Manier::venster) {
         throw Fout("--inspringen gaat niet samen met --als-venster; het venster springt niet in");

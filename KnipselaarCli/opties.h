@@ -28,6 +28,7 @@ struct Opties {
     bool naarStandaarduitvoer = false;  ///< met zoveel woorden gevraagd
     std::optional<std::string> naar;
     bool terPlaatse = false;
+    bool allesOfNiets = false;
     bool recursief = false;
     bool overschrijf = false;
 

@@ -96,7 +96,7 @@ class Planner {
                        ": is geen directory; geef met --naar een directory, of --uit voor één bestand");
         }
         if (opties_.schrijft() && !isDirectory(naar)) {
-            plan_.taken.push_back({.handeling = Handeling::maakDirectory, .bron = {}, .doel = naar});
+            plan_.taken.push_back({.handeling = Handeling::maakDirectory, .bron = {}, .doel = naar, .echt = {}});
         }
         plan_.nalezen.push_back(naar);
     }
@@ -286,8 +286,10 @@ class Planner {
         if (opties_.terPlaatse && !terPlaatse_.insert(echt).second) {
             return false;
         }
-        plan_.taken.push_back(
-            {.handeling = Handeling::knip, .bron = bron, .doel = opties_.terPlaatse ? bron : std::string()});
+        plan_.taken.push_back({.handeling = Handeling::knip,
+                               .bron = bron,
+                               .doel = opties_.terPlaatse ? bron : std::string(),
+                               .echt = echt});
         return true;
     }
 
@@ -297,7 +299,7 @@ class Planner {
             throw Fout(doel + ": zowel " + eerste->second + " als " + bron +
                        " zou hier komen; geef ze een eigen directory");
         }
-        plan_.taken.push_back({.handeling = handeling, .bron = bron, .doel = doel});
+        plan_.taken.push_back({.handeling = handeling, .bron = bron, .doel = doel, .echt = {}});
     }
 
     void keurBestemmingen() const {

@@ -18,6 +18,7 @@ struct Taak {
     Handeling handeling;
     std::string bron;  ///< zoals het in meldingen staat
     std::string doel;  ///< leeg voor de standaarduitvoer, en als er geen bestemming is
+    std::string echt;  ///< ter plaatse: het pad van de bron zonder links
 };
 
 struct Plan {

@@ -23,7 +23,7 @@ template <typename Uitslag>
 class Ploeg {
   public:
     using Doe = std::function<Uitslag(std::size_t)>;
-    using Meld = std::function<void(std::size_t, const Uitslag&)>;
+    using Meld = std::function<void(std::size_t, Uitslag&&)>;
 
     Ploeg(std::size_t aantal, Doe doe, std::function<bool()> magVerder)
         : uitslagen_(aantal), doe_(std::move(doe)), magVerder_(std::move(magVerder)) {}
@@ -41,11 +41,11 @@ class Ploeg {
             // zou bij elk bestand een werkende van zijn plaats halen.
             while (!isKlaar(i) && doeVolgende()) {
             }
-            const std::optional<Uitslag> uitslag = wachtOp(i);
+            std::optional<Uitslag> uitslag = wachtOp(i);
             if (!uitslag) {
                 return;
             }
-            meld(i, *uitslag);
+            meld(i, std::move(*uitslag));
         }
     }
 

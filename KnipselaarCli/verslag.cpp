@@ -18,6 +18,8 @@ const char* noemStatus(const Taak& taak, const Uitslag& uitslag, bool geschreven
             return "ongewijzigd";
         case Status::overgenomen:
             return taak.handeling == Handeling::legLink ? "link" : "overgenomen";
+        case Status::gelaten:
+            return "gelaten";
         case Status::tegengehouden:
             return "fout";
         case Status::mislukt:
@@ -130,6 +132,9 @@ std::string Verslag::neem(const Taak& taak, const Uitslag& uitslag) {
         case Status::overgenomen:
             ++tellingen_.overgenomen;
             break;
+        case Status::gelaten:
+            ++tellingen_.gelaten;
+            break;
         case Status::tegengehouden:
             ++tellingen_.tegengehouden;
             break;
@@ -223,6 +228,9 @@ std::string Verslag::maakTellingen(Afloop afloop) const {
     }
     if (tellingen_.overgenomen > 0) {
         regel += ", " + std::to_string(tellingen_.overgenomen) + " overgenomen";
+    }
+    if (tellingen_.gelaten > 0) {
+        regel += ", " + std::to_string(tellingen_.gelaten) + " gelaten";
     }
     if (tellingen_.tegengehouden > 0) {
         regel += ", " + std::to_string(tellingen_.tegengehouden) + " met fouten";

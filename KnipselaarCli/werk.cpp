@@ -74,11 +74,12 @@ class Knipbeurt {
 
     Uitslag voerUit() {
         Inhoud inhoud = leesInhoud(taak_.bron);
+        gelezen_ = inhoud.kenmerken;
         const Brontekst bron(std::move(inhoud.bytes), kiesLezing());
         const Ontleding ontleding = ontleed(bron.geefTekst(), teksten_.markers, geefErnstVanBijna(opties_));
         uitslag_.blokken = ontleding.blokken.size();
         if (neemMeldingen(ontleding.meldingen, opties_, uitslag_)) {
-            knip(bron, ontleding, inhoud.rechten);
+            knip(bron, ontleding);
         }
         return std::move(uitslag_);
     }
@@ -100,7 +101,7 @@ class Knipbeurt {
         return teksten_.geefVervanging(opties_.taal.value_or(kiesTaal(taak_.bron)));
     }
 
-    void knip(const Brontekst& bron, const Ontleding& ontleding, fs::perms rechten) {
+    void knip(const Brontekst& bron, const Ontleding& ontleding) {
         if (opties_.bewijs) {
             uitslag_.stof = verzamelStof(bron, ontleding.blokken, teksten_.markers.geefParen(),
                                          opties_.bewijsLengte);
@@ -109,7 +110,7 @@ class Knipbeurt {
             Knipsel knipsel(
                 bron, ontleding,
                 {.manier = opties_.manier, .inspringen = opties_.inspringen, .vervanging = geefVervanging()});
-            verwerk(bron, ontleding, knipsel, rechten);
+            verwerk(bron, ontleding, knipsel);
         } catch (const CodeerFout& fout) {
             const std::size_t regel =
                 kern::telRegeleinden(bron.geefTekst().substr(0, ontleding.blokken.front().begin.begin));
@@ -118,7 +119,7 @@ class Knipbeurt {
         }
     }
 
-    void verwerk(const Brontekst& bron, const Ontleding& ontleding, Knipsel& knipsel, fs::perms rechten) {
+    void verwerk(const Brontekst& bron, const Ontleding& ontleding, Knipsel& knipsel) {
         if (moetTellen()) {
             tel(bron, ontleding, knipsel);
         }
@@ -131,7 +132,7 @@ class Knipbeurt {
         if (blijft) {
             uitslag_.status = Status::ongewijzigd;
         } else if (opties_.schrijft()) {
-            schrijf(knipsel, rechten);
+            schrijf(knipsel);
         } else if (opties_.opdracht == Opdracht::droog) {
             keurPlaats(taak_.doel);
         }
@@ -157,7 +158,7 @@ class Knipbeurt {
         uitslag_.regelsEruit = uitslag_.regelsErin - weg + vervangen * erbij;
     }
 
-    void schrijf(Knipsel& knipsel, fs::perms rechten) {
+    void schrijf(Knipsel& knipsel) {
         if (kern::isOnderbroken()) {
             throw Fout(noemReden(std::make_error_code(std::errc::interrupted)));
         }
@@ -169,7 +170,8 @@ class Knipbeurt {
             }
         };
         if (opties_.terPlaatse) {
-            const kern::Verlies verlies = vervangTerPlaatse(taak_.doel, stukken);
+            uitslag_.klaar = std::make_unique<Klaargezet>(taak_.bron, taak_.echt, gelezen_, stukken);
+            const kern::Verlies& verlies = uitslag_.klaar->geefVerlies();
             if (verlies.isEr()) {
                 uitslag_.meldingen.push_back({.regel = 0,
                                               .ernst = opties_.streng ? Ernst::fout : Ernst::waarschuwing,
@@ -182,7 +184,7 @@ class Knipbeurt {
                 throw Fout(std::string("standaarduitvoer: kan niet geschreven worden: ") + fout.what());
             }
         } else {
-            schrijfUitvoer(taak_.doel, stukken, rechten, soort_);
+            schrijfUitvoer(taak_.doel, stukken, gelezen_.rechten, soort_);
         }
     }
 
@@ -190,6 +192,7 @@ class Knipbeurt {
     const Opties& opties_;
     const Teksten& teksten_;
     Uitvoersoort soort_;
+    kern::Kenmerken gelezen_;  ///< van de bron
     Uitslag uitslag_;
 };
 
@@ -241,7 +244,7 @@ Uitslag neemOver(const Taak& taak, const Opties& opties, const Teksten& teksten,
     }
     if (opties.schrijft()) {
         schrijfUitvoer(
-            taak.doel, [&bron](const Ontvanger& uit) { uit(bron.geefRuw()); }, inhoud.rechten, soort);
+            taak.doel, [&bron](const Ontvanger& uit) { uit(bron.geefRuw()); }, inhoud.kenmerken.rechten, soort);
     } else if (opties.opdracht == Opdracht::droog) {
         keurPlaats(taak.doel);
     }

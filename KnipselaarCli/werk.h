@@ -4,9 +4,11 @@
 // naast andere lopen.
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "KnipselaarCli/bestanden.h"
 #include "KnipselaarCli/bewijs.h"
 #include "KnipselaarCli/ontleding.h"
 #include "KnipselaarCli/opties.h"
@@ -18,6 +20,7 @@ enum class Status : std::uint8_t {
     geknipt,        ///< of, als er niets geschreven mag worden, in orde om te knippen
     ongewijzigd,    ///< ter plaatse: er viel niets te knippen
     overgenomen,    ///< als bestand, link of directory
+    gelaten,        ///< ter plaatse: knippen kon, maar elders ging iets mis en dan verandert er niets
     tegengehouden,  ///< de invoer klopt niet; er is niets geschreven
     mislukt         ///< niet te lezen of te schrijven
 };
@@ -31,6 +34,7 @@ struct Uitslag {
     std::size_t regelsEruit = 0;
     std::string verschil;
     Bewijsstof stof;
+    std::unique_ptr<Klaargezet> klaar;  ///< ter plaatse: wat de plaats van het bestand nog in moet nemen
 };
 
 /// Gooit niets; wat er misgaat staat in de uitslag.

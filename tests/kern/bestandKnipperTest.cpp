@@ -227,7 +227,7 @@ TEST_F(BestandKnipper, ZegtWaaromDeBronNietTeLezenIs) {
 
 TEST_F(BestandKnipper, ZegtWaaromDeBronNietVerderTeLezenIs) {
     // Het geheugen van een proces is een gewoon bestand dat vanaf het begin niet te lezen is.
-    EXPECT_EQ("Input/output error (bestaat)", geefBronReden("/proc/self/mem"));
+    EXPECT_EQ("de schijf of het netwerk geeft een fout (bestaat)", geefBronReden("/proc/self/mem"));
 }
 
 TEST_F(BestandKnipper, ZegtDatDeBronNietVoorDezeGebruikerIs) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <string>
 #include <system_error>
 
 namespace {
@@ -34,7 +35,15 @@ TEST(Reden, NoemtElkeFoutInHetNederlands) {
     }
 }
 
-TEST(Reden, NoemtEenAndereFoutZoalsHetSysteem) {
-    EXPECT_EQ("Input/output error", noem(EIO));
-    EXPECT_EQ("Text file busy", noem(ETXTBSY));
+TEST(Reden, NoemtEenZeldzameFoutMetHaarNummer) {
+    EXPECT_EQ("fout " + std::to_string(EUNATCH) + " van het systeem", noem(EUNATCH));
+}
+
+TEST(Reden, NoemtGeenEnkeleFoutInHetEngels) {
+    constexpr int voorbijDeLaatste = 140;
+    for (int foutnummer = 1; foutnummer < voorbijDeLaatste; ++foutnummer) {
+        EXPECT_NE(std::error_code(foutnummer, std::generic_category()).message(), noem(foutnummer));
+    }
+    EXPECT_EQ("de schijf of het netwerk geeft een fout", noem(EIO));
+    EXPECT_EQ("het is in gebruik", noem(ETXTBSY));
 }

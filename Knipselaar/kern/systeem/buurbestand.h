@@ -39,6 +39,13 @@ class Buurbestand {
     /// @param oud  van de bestemming.
     std::error_code vervang(const Kenmerken& oud);
 
+    /// De eerste helft van vervang: sluit het bestand met alles wat het over hoort te nemen. De bestemming verandert
+    /// nog niet. Wie veel bestanden vervangt, zet ze eerst alle klaar en dan vast (zie schijf.h).
+    std::error_code maakKlaar(const Kenmerken& oud);
+
+    /// De tweede helft, na maakKlaar: alleen nog de hernoeming.
+    std::error_code neemPlaatsIn() { return hernoem(); }
+
     const Verlies& geefVerlies() const { return verlies_; }
 
     /// Sluit het bestand en zet het op de plaats van de bestemming, of die er al is of niet, voor uitvoer die

@@ -39,6 +39,12 @@ struct Kenmerken {
     bool isZelfdePlaats(const Kenmerken& ander) const {
         return schijf == ander.schijf && nummer == ander.nummer;
     }
+
+    /// Of het nog hetzelfde bestand is, en niemand er intussen in schreef.
+    bool isOngewijzigd(const Kenmerken& eerder) const {
+        return isZelfdePlaats(eerder) && lengte == eerder.lengte && seconden == eerder.seconden &&
+               nanoseconden == eerder.nanoseconden;
+    }
 };
 
 /// Van wat er op een pad staat; een link wordt gevolgd. Mislukt ook bij een link die nergens heen wijst.

@@ -33,6 +33,39 @@ std::string noemReden(const std::error_code& fout) {
             return "de lezer van de pijp is gestopt";
         case std::errc::interrupted:
             return "onderbroken";
+        case std::errc::file_exists:
+            return "bestaat al";
+        case std::errc::directory_not_empty:
+            return "de directory is niet leeg";
+        case std::errc::not_enough_memory:
+            return "er is te weinig geheugen; sluit iets en probeer het opnieuw";
+        case std::errc::too_many_files_open:
+        case std::errc::too_many_files_open_in_system:
+            return "er staan te veel bestanden open";
+        case std::errc::too_many_links:
+            return "het bestand heeft te veel namen";
+        case std::errc::io_error:
+            return "de schijf of het netwerk geeft een fout";
+        case std::errc::timed_out:
+            return "het antwoordt niet op tijd";
+        case std::errc::device_or_resource_busy:
+        case std::errc::text_file_busy:
+            return "het is in gebruik";
+        case std::errc::resource_unavailable_try_again:
+            return "het systeem heeft even niets over; probeer het opnieuw";
+        case std::errc::no_such_device:
+        case std::errc::no_such_device_or_address:
+            return "het apparaat is er niet";
+        case std::errc::cross_device_link:
+            return "het ligt op een ander bestandssysteem";
+        case std::errc::bad_file_descriptor:
+            return "het kanaal is dicht";
+        case std::errc::value_too_large:
+            return "het getal is te groot voor dit systeem";
+        case std::errc::invalid_argument:
+        case std::errc::operation_not_supported:
+        case std::errc::function_not_supported:
+            return "dat kan hier niet";
         default:
             return noemEigenReden(algemeen);
     }

@@ -7,8 +7,8 @@
 
 namespace kern {
 
-/// De reden bij een fout van het systeem of van de C-bibliotheek, in het Nederlands; onbekende in het Engels
-/// van het systeem.
+/// De reden bij een fout van het systeem of van de C-bibliotheek, in het Nederlands. Een die zelden voorkomt
+/// krijgt haar nummer.
 std::string noemReden(const std::error_code& fout);
 
 }  // namespace kern

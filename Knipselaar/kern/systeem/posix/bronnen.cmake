@@ -11,5 +11,6 @@ set(kern_systeem_bronnen
   kern/systeem/posix/onderbreking.cpp
   kern/systeem/posix/paden.cpp
   kern/systeem/posix/rechten.cpp
+  kern/systeem/posix/schijf.cpp
   kern/systeem/posix/vervanging.cpp
   kern/systeem/posix/vindBytes.cpp)

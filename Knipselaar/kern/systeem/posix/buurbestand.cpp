@@ -51,6 +51,11 @@ std::error_code Buurbestand::vervang(const Kenmerken& oud) {
     // Neemt het de plaats van een ander in, dan schrijft ext4 de inhoud hoe dan ook naar de schijf, maar
     // zonder deze wenk pas bij de hernoeming, en dan wacht iedereen die iets in dezelfde directory doet.
     sync_file_range(geefKanaal(), 0, 0, SYNC_FILE_RANGE_WRITE);
+    const auto fout = maakKlaar(oud);
+    return fout ? fout : hernoem();
+}
+
+std::error_code Buurbestand::maakKlaar(const Kenmerken& oud) {
     Kenmerken nu;
     if (const auto fout = leesKenmerken(geefKanaal(), nu)) {
         return fout;
@@ -58,8 +63,7 @@ std::error_code Buurbestand::vervang(const Kenmerken& oud) {
     if (const auto fout = posix::neemAllesOver(geefKanaal(), nu, bestemming_, oud, verlies_)) {
         return fout;
     }
-    const auto fout = bestand_.sluit();
-    return fout ? fout : hernoem();
+    return bestand_.sluit();
 }
 
 // Ruilt van naam met de bestemming en haalt haar dan weg, of hernoemt waar niets te ruilen valt. ext4

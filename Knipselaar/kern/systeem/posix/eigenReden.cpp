@@ -10,7 +10,7 @@ std::error_code maakAlgemeen(const std::error_code& fout) {
 }
 
 std::string noemEigenReden(const std::error_code& fout) {
-    return fout.message();
+    return "fout " + std::to_string(fout.value()) + " van het systeem";
 }
 
 }  // namespace kern

@@ -14,5 +14,6 @@ set(kern_systeem_bronnen
   kern/systeem/windows/onderbreking.cpp
   kern/systeem/windows/paden.cpp
   kern/systeem/windows/plaats.cpp
+  kern/systeem/windows/schijf.cpp
   kern/systeem/windows/vervanging.cpp
   kern/systeem/windows/vindBytes.cpp)

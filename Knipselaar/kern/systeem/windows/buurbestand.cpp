@@ -58,12 +58,18 @@ Buurbestand::~Buurbestand() {
     }
 }
 
-std::error_code Buurbestand::vervang(const Kenmerken& /*oud*/) {
+std::error_code Buurbestand::vervang(const Kenmerken& oud) {
+    const auto fout = maakKlaar(oud);
+    return fout ? fout : hernoem();
+}
+
+// Een heel bestandssysteem vastzetten mag alleen een beheerder; één bestand mag ieder.
+std::error_code Buurbestand::maakKlaar(const Kenmerken& /*oud*/) {
+    FlushFileBuffers(windows::geefHandvat(geefKanaal()));
     if (const auto fout = bestand_.sluit()) {
         return fout;
     }
-    const auto fout = windows::neemAllesOver(windows::maakVoluit(naam_), windows::maakVoluit(bestemming_));
-    return fout ? fout : hernoem();
+    return windows::neemAllesOver(windows::maakVoluit(naam_), windows::maakVoluit(bestemming_));
 }
 
 std::error_code Buurbestand::ruil(perms rechten) {

@@ -22,7 +22,7 @@ std::string noemEigenReden(const std::error_code& fout) {
                 break;
         }
     }
-    return fout.message();
+    return "fout " + std::to_string(fout.value()) + " van het systeem";
 }
 
 }  // namespace kern
