@@ -1,11 +1,7 @@
 #include "Knipselaar/kern/tekstLezer.h"
 
-#include <wx/txtstrm.h>
-
 #include <algorithm>
 #include <cstring>
-
-#include "Knipselaar/kern/breedHersteller.h"
 
 namespace kern {
 
@@ -27,8 +23,6 @@ bool isAfgebrokenMerkteken(std::string_view tekst) {
 // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): het lezen vult begin_
 TekstLezer::TekstLezer(wxInputStream& invoer) : invoer_(invoer) {}
 
-TekstLezer::~TekstLezer() = default;
-
 std::string_view TekstLezer::leesRegels() {
     if (gegeven_ > 0) {
         const std::size_t rest = tekst_.geef().size() - gegeven_;
@@ -49,17 +43,14 @@ std::string_view TekstLezer::leesRegels() {
 }
 
 void TekstLezer::vulAan() {
-    if (breed_) {
-        leesBreed();
-        return;
-    }
     std::size_t gelezen = 0;
+    // Wat er na een leesfout nog uit de bron komt, hoeft niet aan te sluiten op wat er al was.
     if (invoer_.GetLastError() == wxSTREAM_NO_ERROR) {
         const std::size_t vulling = tekst_.geef().size();
         if (tekst_.geefRuimte() < vulling + blok_) {
             tekst_.maakRuimte(std::max(2 * tekst_.geefRuimte(), vulling + blok_));
         }
-        gelezen = leesBlok(invoer_, tekst_.geefBegin() + vulling, blok_);
+        gelezen = invoer_.Read(tekst_.geefBegin() + vulling, blok_).LastRead();
         blok_ = std::min(2 * blok_, grootsteBlok);
     }
     if (!begonnen_) {
@@ -73,12 +64,12 @@ void TekstLezer::vulAan() {
     }
 }
 
-/// Neemt het eerste blok: haalt een UTF-8-merkteken af, of geeft een brede tekst uit handen.
+/// Neemt het eerste blok: haalt een merkteken eraf, en onthoudt of het een brede tekst aanwees.
 void TekstLezer::beginTekst(std::size_t gelezen) {
     const std::string_view begin(tekst_.geefBegin(), gelezen);
     if (const auto formaat = herkenBreedFormaat(begin)) {
-        hersteller_ = std::make_unique<BreedHersteller>(begin, invoer_, *formaat);
-        breed_ = std::make_unique<wxTextInputStream>(*hersteller_, " \t", wxConvAuto());
+        breed_.emplace(*formaat);
+        voegBreedToe(begin.substr(formaat->eenheid));
     } else if (begin.starts_with(utf8Merkteken)) {
         const std::size_t rest = gelezen - utf8Merkteken.size();
         std::memmove(tekst_.geefBegin(), tekst_.geefBegin() + utf8Merkteken.size(), rest);
@@ -92,6 +83,10 @@ void TekstLezer::beginTekst(std::size_t gelezen) {
 void TekstLezer::voegRuwToe(std::size_t gelezen) {
     const std::size_t vulling = tekst_.geef().size();
     const std::string_view ruw(tekst_.geefBegin() + vulling, gelezen);
+    if (breed_) {
+        voegBreedToe(ruw);
+        return;
+    }
     if (omzetter_.isAlGoed(ruw)) {
         tekst_.zetLengte(vulling + gelezen);
         return;
@@ -105,22 +100,22 @@ void TekstLezer::sluitAf() {
     klaar_ = true;
     heelGelezen_ = invoer_.GetLastError() == wxSTREAM_EOF;
     omgezet_.clear();
+    if (breed_) {
+        std::string rest;
+        breed_->sluitAf(rest);
+        omzetter_.zetOm(rest, omgezet_);
+    }
     omzetter_.sluitAf(omgezet_);
     tekst_.voegToe(omgezet_);
 }
 
-/// Haalt een blok regels bij de tekststroom van de toolkit. Vóór elke regel vragen of het einde bereikt is
-/// bepaalt of er na het laatste regeleinde nog een lege regel komt.
-void TekstLezer::leesBreed() {
-    const std::size_t genoeg = tekst_.geef().size() + grootsteBlok;
-    while (tekst_.geef().size() < genoeg) {
-        if (hersteller_->isUitgeput()) {
-            klaar_ = true;
-            heelGelezen_ = invoer_.GetLastError() == wxSTREAM_EOF;
-            return;
-        }
-        tekst_.voegToe(breed_->ReadLine().utf8_string() + '\n');
-    }
+/// De regels van een brede tekst eindigen zoals die van elke andere.
+void TekstLezer::voegBreedToe(std::string_view ruw) {
+    std::string smal;
+    breed_->zetOm(ruw, smal);
+    omgezet_.clear();
+    omzetter_.zetOm(smal, omgezet_);
+    tekst_.voegToe(omgezet_);
 }
 
 }  // namespace kern

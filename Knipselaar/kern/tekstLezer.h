@@ -2,25 +2,22 @@
 
 // Leest een tekst in blokken en geeft hele regels in UTF-8, elk gesloten door "\n". Wat er uitkomt is regel
 // voor regel wat de tekststroom van de toolkit met wxConvAuto geeft, op de plaatsen na waar die bytes laat
-// verdwijnen of nooit ophoudt (zie RegelOmzetter en BreedHersteller). Houdt hoogstens één regel en een blok
+// verdwijnen of nooit ophoudt (zie RegelOmzetter en BreedOmzetter). Houdt hoogstens één regel en een blok
 // vast. De invoer blijft van de aanroeper en moet langer leven.
 
 #include <wx/stream.h>
 
 #include <array>
 #include <cstddef>
-#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "Knipselaar/kern/breedOmzetter.h"
 #include "Knipselaar/kern/bytes.h"
 #include "Knipselaar/kern/regelOmzetter.h"
 
-class wxTextInputStream;
-
 namespace kern {
-
-class BreedHersteller;
 
 class TekstLezer {
   public:
@@ -30,7 +27,6 @@ class TekstLezer {
     explicit TekstLezer(wxInputStream& invoer);
     TekstLezer(const TekstLezer&) = delete;
     TekstLezer& operator=(const TekstLezer&) = delete;
-    ~TekstLezer();
 
     /// De volgende hele regels; leeg aan het einde van de tekst. Geldig tot de volgende aanroep. Eindigt
     /// altijd, ook na een leesfout: dan eindigt de tekst daar.
@@ -44,7 +40,7 @@ class TekstLezer {
     void beginTekst(std::size_t gelezen);
     void voegRuwToe(std::size_t gelezen);
     void sluitAf();
-    void leesBreed();
+    void voegBreedToe(std::string_view ruw);
 
     wxInputStream& invoer_;
     // De meeste bronbestanden passen in het eerste blok. In het object zelf kost het niets; van de heap zou
@@ -55,8 +51,7 @@ class TekstLezer {
     std::size_t gegeven_ = 0;        ///< bytes van tekst_ die de aanroeper al heeft
     RegelOmzetter omzetter_;
     std::string omgezet_;
-    std::unique_ptr<BreedHersteller> hersteller_;
-    std::unique_ptr<wxTextInputStream> breed_;  ///< leest uit hersteller_ als de tekst UTF-16 of UTF-32 is
+    std::optional<BreedOmzetter> breed_;  ///< als de tekst UTF-16 of UTF-32 is
     bool begonnen_ = false;
     bool klaar_ = false;
     bool heelGelezen_ = false;
