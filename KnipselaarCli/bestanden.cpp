@@ -18,7 +18,7 @@ using std::filesystem::perms;
 constexpr std::size_t leesBlok = 256 * 1024;
 /// Eén byte om het einde mee te vinden, en één voor wie er nog iets achter wil.
 constexpr std::size_t kleinsteRuimte = 2;
-constexpr std::size_t schrijfBlok = 64 * 1024;
+constexpr std::size_t schrijfBlok = 256 * 1024;
 
 [[noreturn]] void gooi(const std::string& pad, const char* wat, const std::error_code& fout) {
     throw Fout(pad + ": kan niet " + wat + " worden: " + noemReden(fout));
@@ -92,8 +92,8 @@ kern::Bytes leesStroom(const std::string& pad) {
 Inhoud leesInhoud(const std::string& pad) {
     Inhoud inhoud;
     if (pad == standaardinvoer) {
-        inhoud.kenmerken.rechten = perms::owner_read | perms::owner_write | perms::group_read | perms::group_write |
-                         perms::others_read | perms::others_write;
+        inhoud.kenmerken.rechten = perms::owner_read | perms::owner_write | perms::group_read |
+                                   perms::group_write | perms::others_read | perms::others_write;
         inhoud.bytes = leesStandaardinvoer();
         return inhoud;
     }
@@ -159,8 +159,8 @@ Klaargezet::Klaargezet(std::string pad, const std::string& echt, const kern::Ken
                        const Stukken& stukken)
     : pad_(std::move(pad)), echt_(echt), gelezen_(gelezen), nieuw_(echt) {
     if (!nieuw_.isOpen()) {
-        throw Fout(pad_ +
-                   ": blijft zoals het is: ernaast is geen bestand te maken: " + noemReden(nieuw_.geefFout()));
+        throw Fout(pad_ + ": blijft zoals het is: ernaast is geen bestand te maken: " +
+                   noemReden(nieuw_.geefFout()));
     }
     try {
         schrijfAlles(nieuw_.geefKanaal(), stukken);

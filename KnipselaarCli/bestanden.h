@@ -33,7 +33,8 @@ struct Inhoud {
 /// Leest een gewoon bestand, of de standaardinvoer.
 Inhoud leesInhoud(const std::string& pad);
 
-/// Leest een tekst die de gebruiker als optie noemt: een bestand, de standaardinvoer, of een pijp van de shell.
+/// Leest een tekst die de gebruiker als optie noemt: een bestand, de standaardinvoer, of een pijp van de
+/// shell.
 kern::Bytes leesStroom(const std::string& pad);
 
 /// Wat voor run een bestand schreef; een bestand van dezelfde soort mag zonder vragen vernieuwd worden.
@@ -49,21 +50,23 @@ void schrijfUitvoer(const std::string& pad, const Stukken& stukken, std::filesys
 /// bestandssysteem geen aantekening bewaart.
 bool isEerdereUitvoer(const std::string& pad, Uitvoersoort soort);
 
-/// De nieuwe inhoud van een bestand, klaar om zijn plaats in te nemen. Wat zijn plaats niet kreeg, verdwijnt met dit
-/// object.
+/// De nieuwe inhoud van een bestand, klaar om zijn plaats in te nemen. Wat zijn plaats niet kreeg, verdwijnt
+/// met dit object.
 class Klaargezet {
   public:
     /// Schrijft de inhoud in een bestand ernaast. Gooit Fout; het bestand blijft dan zoals het is.
     /// @param pad      zoals het in meldingen staat.
     /// @param echt     het pad zonder links; zo blijft een link een link.
     /// @param gelezen  van het bestand toen het gelezen werd.
-    Klaargezet(std::string pad, const std::string& echt, const kern::Kenmerken& gelezen, const Stukken& stukken);
+    Klaargezet(std::string pad, const std::string& echt, const kern::Kenmerken& gelezen,
+               const Stukken& stukken);
 
     /// Het bestandssysteem waar het op staat, en een directory daarop.
     std::uint64_t geefSchijf() const { return gelezen_.schijf; }
     std::string geefDirectory() const;
 
-    /// Neemt de plaats van het bestand in. Gooit Fout als dat niet lukt, of als het bestand intussen veranderd is.
+    /// Neemt de plaats van het bestand in. Gooit Fout als dat niet lukt, of als het bestand intussen
+    /// veranderd is.
     void vervang();
 
     /// Wat het bestand daarbij niet kan houden.

@@ -55,15 +55,15 @@ class RegelLezer {
         if (!rauw_) {
             return regel.substr(0, regel.size() - 1);
         }
-        omgezet_.clear();
+        omgezet_.zetLengte(0);
         omzetter_.zetOm(regel, omgezet_);
-        return std::string_view(omgezet_).substr(0, omgezet_.size() - 1);
+        return omgezet_.geef().substr(0, omgezet_.geef().size() - 1);
     }
 
   private:
     bool rauw_;
     kern::RegelOmzetter omzetter_;
-    std::string omgezet_;
+    kern::Bytes omgezet_;
 };
 
 }  // namespace
@@ -194,9 +194,9 @@ std::string Bewijs::beoordeel(std::string_view regel) const {
         return {};
     }
     const Regelmerk merk = maakMerk(kern);
-    const auto weg =
-        std::lower_bound(weg_.begin(), weg_.end(), merk,
-                         [](const Weggevallen& regelWeg, Regelmerk gezocht) { return regelWeg.merk < gezocht; });
+    const auto weg = std::lower_bound(
+        weg_.begin(), weg_.end(), merk,
+        [](const Weggevallen& regelWeg, Regelmerk gezocht) { return regelWeg.merk < gezocht; });
     if (weg == weg_.end() || weg->merk != merk ||
         std::binary_search(toegelaten_.begin(), toegelaten_.end(), merk)) {
         return {};

@@ -14,8 +14,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Of een versiebeheer hier zijn geschiedenis bewaart. In een werkkopie naast de eerste, of in een module in een
-/// ander project, is .git een bestand dat zegt waar zij staat.
+/// Of een versiebeheer hier zijn geschiedenis bewaart. In een werkkopie naast de eerste, of in een module in
+/// een ander project, is .git een bestand dat zegt waar zij staat.
 bool isVersiebeheer(const kern::Deel& deel) {
     constexpr std::array<std::string_view, 7> namen{".git",    ".svn",   ".hg", ".bzr",
                                                     ".fossil", "_darcs", "CVS"};

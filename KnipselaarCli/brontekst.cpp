@@ -6,7 +6,7 @@
 #include <optional>
 #include <utility>
 
-#include "Knipselaar/kern/breedHersteller.h"
+#include "Knipselaar/kern/breedOmzetter.h"
 #include "Knipselaar/kern/regelOmzetter.h"
 #include "Knipselaar/kern/utf8.h"
 

@@ -86,8 +86,8 @@ class Run {
         verslag_.neemOpmerking(tekst, ernst);
     }
 
-    /// Een run zonder blok is bijna zeker een run met de verkeerde markers. Ging er iets mis, dan kan daar een
-    /// blok in gezeten hebben.
+    /// Een run zonder blok is bijna zeker een run met de verkeerde markers. Ging er iets mis, dan kan daar
+    /// een blok in gezeten hebben.
     void keurBlokken() {
         const Tellingen& tellingen = verslag_.geefTellingen();
         if (plan_.teKnippen > 0 && tellingen.gevonden == 0 && tellingen.mislukt == 0 &&
@@ -97,13 +97,12 @@ class Run {
         }
     }
 
-    /// Zet eerst alles klaar en vast, en vervangt dan pas het eerste bestand. Valt de stroom uit, dan is elk bestand
-    /// heel: zoals het was, of geknipt. Wie onderbroken wordt heeft niets veranderd.
+    /// Zet eerst alles klaar en vast, en vervangt dan pas het eerste bestand. Valt de stroom uit, dan is elk
+    /// bestand heel: zoals het was, of geknipt. Wie onderbroken wordt heeft niets veranderd.
     void vervang(std::size_t eerste, std::size_t draden) {
         std::vector<Uitslag> uitslagen;
-        doeTaken(eerste, plan_.taken.size(), draden, [&uitslagen](const Taak&, Uitslag&& uitslag) {
-            uitslagen.push_back(std::move(uitslag));
-        });
+        doeTaken(eerste, plan_.taken.size(), draden,
+                 [&uitslagen](const Taak&, Uitslag&& uitslag) { uitslagen.push_back(std::move(uitslag)); });
         if (kern::isOnderbroken()) {
             return;
         }

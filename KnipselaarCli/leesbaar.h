@@ -7,8 +7,8 @@
 
 namespace cli {
 
-/// Dezelfde tekst met elk besturingsteken als "\x1b": een bestandsnaam kan er anders de terminal mee bedienen,
-/// of een melding in tweeën breken. Wat geen UTF-8 is blijft zoals het is.
+/// Dezelfde tekst met elk besturingsteken als "\x1b": een bestandsnaam kan er anders de terminal mee
+/// bedienen, of een melding in tweeën breken. Wat geen UTF-8 is blijft zoals het is.
 std::string maakLeesbaar(std::string_view tekst);
 
 }  // namespace cli

@@ -16,7 +16,8 @@ class Melder {
     /// @param stil  alleen fouten.
     explicit Melder(bool stil);
 
-    /// "bestand:regel: fout: tekst", de vorm die editors en vertalers kennen; zonder regel als die er niet is.
+    /// "bestand:regel: fout: tekst", de vorm die editors en vertalers kennen; zonder regel als die er niet
+    /// is.
     void meld(std::string_view pad, const Melding& melding);
 
     /// Iets over de run als geheel, of een storing die zelf zegt waar.

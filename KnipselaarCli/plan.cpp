@@ -96,7 +96,8 @@ class Planner {
                        ": is geen directory; geef met --naar een directory, of --uit voor één bestand");
         }
         if (opties_.schrijft() && !isDirectory(naar)) {
-            plan_.taken.push_back({.handeling = Handeling::maakDirectory, .bron = {}, .doel = naar, .echt = {}});
+            plan_.taken.push_back(
+                {.handeling = Handeling::maakDirectory, .bron = {}, .doel = naar, .echt = {}});
         }
         plan_.nalezen.push_back(naar);
     }

@@ -15,10 +15,9 @@
 
 namespace cli {
 
-/// Voert taak 0 tot aantal uit op hoogstens zoveel draden, die van de aanroeper meegerekend (minder als het systeem
-/// er niet meer geeft), en geeft elke
-/// uitslag op volgorde aan meld, in de draad van de aanroeper. Stopt met nieuwe taken zodra magVerder nee
-/// zegt of meld iets gooit; wat loopt wordt nog afgemaakt.
+/// Voert taak 0 tot aantal uit op hoogstens zoveel draden, die van de aanroeper meegerekend (minder als het
+/// systeem er niet meer geeft), en geeft elke uitslag op volgorde aan meld, in de draad van de aanroeper.
+/// Stopt met nieuwe taken zodra magVerder nee zegt of meld iets gooit; wat loopt wordt nog afgemaakt.
 template <typename Uitslag>
 class Ploeg {
   public:

@@ -243,7 +243,7 @@ std::string Verslag::maakTellingen(Afloop afloop) const {
     }
     if (opties_.bewijs) {
         // Bewezen is het alleen als er iets te bewijzen was en alles goed ging.
-        regel += vondsten_ > 0     ? ", " + noem(vondsten_, "regel", "regels") + " te veel in de bestemming"
+        regel += vondsten_ > 0    ? ", " + noem(vondsten_, "regel", "regels") + " te veel in de bestemming"
                  : afloop == goed ? ", bewezen schoon"
                                   : ", niet bewezen";
     }

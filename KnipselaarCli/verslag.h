@@ -19,8 +19,8 @@ struct Tellingen {
     std::size_t gelaten = 0;
     std::size_t tegengehouden = 0;
     std::size_t mislukt = 0;
-    std::size_t blokken = 0;    ///< geknipt
-    std::size_t gevonden = 0;   ///< blokken, ook in een bestand dat tegengehouden is
+    std::size_t blokken = 0;   ///< geknipt
+    std::size_t gevonden = 0;  ///< blokken, ook in een bestand dat tegengehouden is
     std::size_t fouten = 0;
     std::size_t waarschuwingen = 0;
 };

@@ -10,7 +10,8 @@
 namespace cli {
 
 /// Zet wat klaar is eerst vast op de schijf en vervangt dan elk bestand. Wat niet lukt komt in zijn uitslag.
-/// @param allesOfNiets  of er bij een fout of storing in een van de uitslagen niets mag veranderen; wat klaar was is
+/// @param allesOfNiets  of er bij een fout of storing in een van de uitslagen niets mag veranderen; wat klaar
+/// was is
 ///                      dan gelaten.
 /// @return              wat er over het geheel te zeggen is; leeg als alles kon.
 /// Gooit Fout, en verandert niets, als de schijf niets vastlegt.

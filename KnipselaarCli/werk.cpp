@@ -21,8 +21,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Het aantal regels van een bestand. De kern leest achter het laatste regeleinde meestal nog een lege regel; die
-/// telt niet.
+/// Het aantal regels van een bestand. De kern leest achter het laatste regeleinde meestal nog een lege regel;
+/// die telt niet.
 std::size_t telBestand(const Brontekst& bron) {
     const std::string_view tekst = bron.geefTekst();
     const std::size_t laatste = tekst.substr(0, tekst.size() - 1).rfind('\n') + 1;
@@ -42,9 +42,8 @@ bool neemMeldingen(std::vector<Melding> meldingen, const Opties& opties, Uitslag
             melding.ernst = Ernst::fout;
         }
     }
-    const bool mag = std::none_of(meldingen.begin(), meldingen.end(), [](const Melding& melding) {
-        return melding.ernst == Ernst::fout;
-    });
+    const bool mag = std::none_of(meldingen.begin(), meldingen.end(),
+                                  [](const Melding& melding) { return melding.ernst == Ernst::fout; });
     uitslag.meldingen = std::move(meldingen);
     if (!mag) {
         uitslag.status = Status::tegengehouden;
@@ -58,7 +57,8 @@ void keurPlaats(const std::string& doel) {
         return;
     }
     std::error_code fout;
-    fs::path directory = fs::absolute(kern::isLink(doel) ? fs::path(maakEcht(doel)) : fs::path(doel)).parent_path();
+    fs::path directory =
+        fs::absolute(kern::isLink(doel) ? fs::path(maakEcht(doel)) : fs::path(doel)).parent_path();
     while (!fs::exists(directory, fout) && directory.has_relative_path()) {
         directory = directory.parent_path();
     }
@@ -103,8 +103,8 @@ class Knipbeurt {
 
     void knip(const Brontekst& bron, const Ontleding& ontleding) {
         if (opties_.bewijs) {
-            uitslag_.stof = verzamelStof(bron, ontleding.blokken, teksten_.markers.geefParen(),
-                                         opties_.bewijsLengte);
+            uitslag_.stof =
+                verzamelStof(bron, ontleding.blokken, teksten_.markers.geefParen(), opties_.bewijsLengte);
         }
         try {
             Knipsel knipsel(
@@ -200,8 +200,8 @@ class Knipbeurt {
 void maakDirectory(const Taak& taak) {
     kern::Kenmerken kenmerken;
     const bool uitBoom = !taak.bron.empty() && !kern::leesKenmerken(taak.bron, kenmerken);
-    if (const auto fout = uitBoom ? kern::maakDirectory(taak.doel, kenmerken.rechten)
-                                  : kern::maakDirectories(taak.doel)) {
+    if (const auto fout =
+            uitBoom ? kern::maakDirectory(taak.doel, kenmerken.rechten) : kern::maakDirectories(taak.doel)) {
         throw Fout(taak.doel + ": kan niet gemaakt worden: " + noemReden(fout));
     }
 }
@@ -222,8 +222,9 @@ std::vector<Melding> keurOvername(std::string_view tekst, const Opties& opties, 
             if (!heeftMarker) {
                 meldingen.push_back({.regel = nummer,
                                      .ernst = Ernst::waarschuwing,
-                                     .tekst = "hier staat een marker, maar het bestand gaat heel mee; kies het "
-                                              "met --masker of --keuze"});
+                                     .tekst =
+                                         "hier staat een marker, maar het bestand gaat heel mee; kies het "
+                                         "met --masker of --keuze"});
             }
             heeftMarker = true;
         } else if (const auto bijna = teksten.markers.lijktOpMarker(inhoud)) {
@@ -244,7 +245,8 @@ Uitslag neemOver(const Taak& taak, const Opties& opties, const Teksten& teksten,
     }
     if (opties.schrijft()) {
         schrijfUitvoer(
-            taak.doel, [&bron](const Ontvanger& uit) { uit(bron.geefRuw()); }, inhoud.kenmerken.rechten, soort);
+            taak.doel, [&bron](const Ontvanger& uit) { uit(bron.geefRuw()); }, inhoud.kenmerken.rechten,
+            soort);
     } else if (opties.opdracht == Opdracht::droog) {
         keurPlaats(taak.doel);
     }

@@ -40,8 +40,8 @@ class MarkerMasker {
     /// @param regel  één regel in UTF-8 zonder regeleinde.
     bool past(std::string_view regel) const;
 
-    /// Wat er in een passende regel voor en achter de marker staat: voor zijn eerste letterlijke stuk en achter
-    /// zijn laatste. Van een marker met alleen jokers is er niets omheen.
+    /// Wat er in een passende regel voor en achter de marker staat: voor zijn eerste letterlijke stuk en
+    /// achter zijn laatste. Van een marker met alleen jokers is er niets omheen.
     std::pair<std::string_view, std::string_view> geefOmheen(std::string_view regel) const;
 
     /// Het langste letterlijke stuk van de marker, in UTF-8: staat in elke regel die past. Leeg als de marker

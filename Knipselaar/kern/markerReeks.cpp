@@ -52,9 +52,8 @@ bool MarkerReeks::draagtMarker(std::string_view regel) const {
     const auto draagt = [regel](const MarkerMasker& masker) {
         return !masker.pastOpElkeRegel() && masker.past(regel);
     };
-    return std::any_of(paren_.begin(), paren_.end(), [&draagt](const Markerpaar& paar) {
-        return draagt(paar.begin) || draagt(paar.eind);
-    });
+    return std::any_of(paren_.begin(), paren_.end(),
+                       [&draagt](const Markerpaar& paar) { return draagt(paar.begin) || draagt(paar.eind); });
 }
 
 std::optional<Gelijkenis> MarkerReeks::lijktOpMarker(std::string_view regel) const {
@@ -84,8 +83,7 @@ Markerloper::Markerloper(const MarkerReeks& reeks, std::string_view regels) : re
 }
 
 std::optional<Regel> Markerloper::zoek(const MarkerMasker* masker, std::size_t vanaf) const {
-    return masker == nullptr ? reeks_.bijna_->zoekRegel(regels_, vanaf)
-                             : masker->zoekRegel(regels_, vanaf);
+    return masker == nullptr ? reeks_.bijna_->zoekRegel(regels_, vanaf) : masker->zoekRegel(regels_, vanaf);
 }
 
 std::optional<Regel> Markerloper::volgende() {

@@ -1,11 +1,7 @@
 #include "Knipselaar/kern/tekstLezer.h"
 
-#include <wx/txtstrm.h>
-
 #include <algorithm>
 #include <cstring>
-
-#include "Knipselaar/kern/breedHersteller.h"
 
 namespace kern {
 
@@ -27,8 +23,6 @@ bool isAfgebrokenMerkteken(std::string_view tekst) {
 // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): het lezen vult begin_
 TekstLezer::TekstLezer(wxInputStream& invoer) : invoer_(invoer) {}
 
-TekstLezer::~TekstLezer() = default;
-
 std::string_view TekstLezer::leesRegels() {
     if (gegeven_ > 0) {
         const std::size_t rest = tekst_.geef().size() - gegeven_;
@@ -49,16 +43,13 @@ std::string_view TekstLezer::leesRegels() {
 }
 
 void TekstLezer::vulAan() {
-    if (breed_) {
-        leesBreed();
-        return;
-    }
     std::string_view gelezen;
+    // Wat er na een leesfout nog uit de bron komt, hoeft niet aan te sluiten op wat er al was.
     if (invoer_.GetLastError() == wxSTREAM_NO_ERROR) {
         Bytes& plaats = naast_ ? ruw_ : tekst_;
         plaats.maakPlaats(blok_);
         char* begin = plaats.geefBegin() + plaats.geef().size();
-        gelezen = {begin, leesBlok(invoer_, begin, blok_)};
+        gelezen = {begin, invoer_.Read(begin, blok_).LastRead()};
         blok_ = std::min(2 * blok_, grootsteBlok);
     }
     if (!begonnen_) {
@@ -72,11 +63,11 @@ void TekstLezer::vulAan() {
     }
 }
 
-/// Neemt het eerste blok: haalt een UTF-8-merkteken af, of geeft een brede tekst uit handen.
+/// Neemt het eerste blok: haalt een merkteken eraf, en onthoudt of het een brede tekst aanwees.
 void TekstLezer::beginTekst(std::string_view begin) {
     if (const auto formaat = herkenBreedFormaat(begin)) {
-        hersteller_ = std::make_unique<BreedHersteller>(begin, invoer_, *formaat);
-        breed_ = std::make_unique<wxTextInputStream>(*hersteller_, " \t", wxConvAuto());
+        breed_.emplace(*formaat);
+        voegBreedToe(begin.substr(formaat->eenheid));
     } else if (begin.starts_with(utf8Merkteken)) {
         const std::size_t rest = begin.size() - utf8Merkteken.size();
         std::memmove(tekst_.geefBegin(), tekst_.geefBegin() + utf8Merkteken.size(), rest);
@@ -88,6 +79,10 @@ void TekstLezer::beginTekst(std::string_view begin) {
 
 /// Maakt de bytes van een blok tot tekst. Meestal zijn ze dat al, en staan ze er al achter.
 void TekstLezer::voegRuwToe(std::string_view ruw) {
+    if (breed_) {
+        voegBreedToe(ruw);
+        return;
+    }
     const bool goed = omzetter_.isAlGoed(ruw);
     if (goed && !naast_) {
         tekst_.zetLengte(tekst_.geef().size() + ruw.size());
@@ -107,24 +102,22 @@ void TekstLezer::voegRuwToe(std::string_view ruw) {
     ruw_.zetLengte(0);
 }
 
+/// De regels van een brede tekst eindigen zoals die van elke andere.
+void TekstLezer::voegBreedToe(std::string_view ruw) {
+    smal_.zetLengte(0);
+    breed_->zetOm(ruw, smal_);
+    omzetter_.zetOm(smal_.geef(), tekst_);
+}
+
 void TekstLezer::sluitAf() {
     klaar_ = true;
     heelGelezen_ = invoer_.GetLastError() == wxSTREAM_EOF;
-    omzetter_.sluitAf(tekst_);
-}
-
-/// Haalt een blok regels bij de tekststroom van de toolkit. Vóór elke regel vragen of het einde bereikt is
-/// bepaalt of er na het laatste regeleinde nog een lege regel komt.
-void TekstLezer::leesBreed() {
-    const std::size_t genoeg = tekst_.geef().size() + grootsteBlok;
-    while (tekst_.geef().size() < genoeg) {
-        if (hersteller_->isUitgeput()) {
-            klaar_ = true;
-            heelGelezen_ = invoer_.GetLastError() == wxSTREAM_EOF;
-            return;
-        }
-        tekst_.voegToe(breed_->ReadLine().utf8_string() + '\n');
+    if (breed_) {
+        smal_.zetLengte(0);
+        breed_->sluitAf(smal_);
+        omzetter_.zetOm(smal_.geef(), tekst_);
     }
+    omzetter_.sluitAf(tekst_);
 }
 
 }  // namespace kern

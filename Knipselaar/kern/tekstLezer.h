@@ -2,25 +2,21 @@
 
 // Leest een tekst in blokken en geeft hele regels in UTF-8, elk gesloten door "\n". Wat er uitkomt is regel
 // voor regel wat de tekststroom van de toolkit met wxConvAuto geeft, op de plaatsen na waar die bytes laat
-// verdwijnen of nooit ophoudt (zie RegelOmzetter en BreedHersteller). Houdt hoogstens één regel en een blok
+// verdwijnen of nooit ophoudt (zie RegelOmzetter en BreedOmzetter). Houdt hoogstens één regel en een blok
 // vast. De invoer blijft van de aanroeper en moet langer leven.
 
 #include <wx/stream.h>
 
 #include <array>
 #include <cstddef>
-#include <memory>
-#include <string>
+#include <optional>
 #include <string_view>
 
+#include "Knipselaar/kern/breedOmzetter.h"
 #include "Knipselaar/kern/bytes.h"
 #include "Knipselaar/kern/regelOmzetter.h"
 
-class wxTextInputStream;
-
 namespace kern {
-
-class BreedHersteller;
 
 class TekstLezer {
   public:
@@ -30,7 +26,6 @@ class TekstLezer {
     explicit TekstLezer(wxInputStream& invoer);
     TekstLezer(const TekstLezer&) = delete;
     TekstLezer& operator=(const TekstLezer&) = delete;
-    ~TekstLezer();
 
     /// De volgende hele regels; leeg aan het einde van de tekst. Geldig tot de volgende aanroep. Eindigt
     /// altijd, ook na een leesfout: dan eindigt de tekst daar.
@@ -44,7 +39,7 @@ class TekstLezer {
     void beginTekst(std::string_view begin);
     void voegRuwToe(std::string_view ruw);
     void sluitAf();
-    void leesBreed();
+    void voegBreedToe(std::string_view ruw);
 
     wxInputStream& invoer_;
     // De meeste bronbestanden passen in het eerste blok. In het object zelf kost het niets; van de heap zou
@@ -58,8 +53,8 @@ class TekstLezer {
     /// dan meestal ook aan dit.
     bool naast_ = false;
     Bytes ruw_;
-    std::unique_ptr<BreedHersteller> hersteller_;
-    std::unique_ptr<wxTextInputStream> breed_;  ///< leest uit hersteller_ als de tekst UTF-16 of UTF-32 is
+    std::optional<BreedOmzetter> breed_;  ///< als de tekst UTF-16 of UTF-32 is
+    Bytes smal_;                          ///< wat die ervan maakte
     bool begonnen_ = false;
     bool klaar_ = false;
     bool heelGelezen_ = false;

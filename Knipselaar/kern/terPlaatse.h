@@ -35,8 +35,8 @@ class TerPlaatse {
     const Verlies& geefVerlies() const { return verlies_; }
 
     /// Zet de inhoud van het tijdelijke bestand op de plaats van een bestaand gewoon bestand; dat kan één
-    /// keer. Rechten, eigenaar, groep, toegangslijst en aantekeningen blijven, op wat geefVerlies zegt na. Geeft false, en laat het bestand zoals het was, als er iets
-    /// niet lukt.
+    /// keer. Rechten, eigenaar, groep, toegangslijst en aantekeningen blijven, op wat geefVerlies zegt na.
+    /// Geeft false, en laat het bestand zoals het was, als er iets niet lukt.
     /// @param echt     het pad zonder links, zoals geefEchtPad het geeft; dan blijft een link een link.
     /// @param gelezen  van het bestand dat geknipt is. Staat er intussen een ander, omdat iemand een nieuwe
     ///                 versie bewaarde of een directory verlegde, dan blijft dat staan. Zonder wordt daar

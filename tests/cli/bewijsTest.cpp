@@ -107,16 +107,18 @@ TEST_F(CliBewijs, MeldtWatNietNaTeLezenIs) {
     fs::permissions(map_ / "uit/dicht", fs::perms::none);
     const Uitkomst uitkomst = draai({"-r", "-p", "bron", "-n", "uit"}, {.gewoneGebruiker = true});
     const std::string toegang = "geen toegang; geef rechten of kies een andere plaats\n";
-    EXPECT_EQ((Uitkomst{.status = 2,
-                        .uit = "1 bestand geknipt, 1 blok, 2 mislukt, 1 regel te veel in de bestemming\n",
-                        .fout = "uit/lek:1: fout: hier staat de weggelaten regel van bron/a.c:3\n"
-                                "knipselaar-cli: fout: uit/afgesloten: kan niet gelezen worden: " +
-                                toegang + "knipselaar-cli: fout: uit/dicht: kan niet gelezen worden: " + toegang}),
-              uitkomst);
+    EXPECT_EQ(
+        (Uitkomst{.status = 2,
+                  .uit = "1 bestand geknipt, 1 blok, 2 mislukt, 1 regel te veel in de bestemming\n",
+                  .fout = "uit/lek:1: fout: hier staat de weggelaten regel van bron/a.c:3\n"
+                          "knipselaar-cli: fout: uit/afgesloten: kan niet gelezen worden: " +
+                          toegang + "knipselaar-cli: fout: uit/dicht: kan niet gelezen worden: " + toegang}),
+        uitkomst);
     const std::string json = draai({"-j", "-r", "-p", "bron", "-n", "uit"}, {.gewoneGebruiker = true}).uit;
-    EXPECT_NE(std::string::npos,
-              json.find("\"bewijs\": [\n    {\"bestand\": \"uit/lek\", \"regel\": 1, \"tekst\": \"hier staat de "
-                        "weggelaten regel van bron/a.c:3\"},\n    {\"storing\": \"uit/afgesloten: kan niet"))
+    EXPECT_NE(
+        std::string::npos,
+        json.find("\"bewijs\": [\n    {\"bestand\": \"uit/lek\", \"regel\": 1, \"tekst\": \"hier staat de "
+                  "weggelaten regel van bron/a.c:3\"},\n    {\"storing\": \"uit/afgesloten: kan niet"))
         << json;
     fs::permissions(map_ / "uit/afgesloten", fs::perms::all);
 }
@@ -128,8 +130,8 @@ TEST_F(CliBewijs, NoemtNietsBewezenAlsErGeenBlokWas) {
     schrijf("bron/LEESMIJ", "/**** student begin ****/\n");
     schrijf("gewoon/a.c", "int a;\n");
     const auto bijna = [](const std::string& ernst) {
-        return "bron/LEESMIJ:1: " + ernst + ": bijna een beginmarker; zo telt hij niet\n" + "bron/a.c:1: " + ernst +
-               ": bijna een beginmarker; zo telt hij niet\nbron/a.c:3: " + ernst +
+        return "bron/LEESMIJ:1: " + ernst + ": bijna een beginmarker; zo telt hij niet\n" +
+               "bron/a.c:1: " + ernst + ": bijna een beginmarker; zo telt hij niet\nbron/a.c:3: " + ernst +
                ": bijna een eindmarker; zo telt hij niet\n";
     };
     EXPECT_EQ((Uitkomst{.status = 0,
@@ -141,16 +143,18 @@ TEST_F(CliBewijs, NoemtNietsBewezenAlsErGeenBlokWas) {
                         .fout = bijna("fout")}),
               draai({"-r", "-p", "bron", "-n", "uit2"}));
     EXPECT_EQ((Boom{}), leesBoom("uit2"));
-    EXPECT_EQ((Uitkomst{.status = 1,
-                        .uit = "1 bestand geknipt, 0 blokken, niet bewezen\n",
-                        .fout = "knipselaar-cli: fout: er is nergens een blok gevonden; kijk de markers na\n"}),
-              draai({"-r", "-p", "gewoon", "-n", "uit3"}));
+    EXPECT_EQ(
+        (Uitkomst{.status = 1,
+                  .uit = "1 bestand geknipt, 0 blokken, niet bewezen\n",
+                  .fout = "knipselaar-cli: fout: er is nergens een blok gevonden; kijk de markers na\n"}),
+        draai({"-r", "-p", "gewoon", "-n", "uit3"}));
     EXPECT_EQ(1, draai({"-s", "-r", "gewoon", "-n", "uit4"}).status);
-    EXPECT_EQ((Uitkomst{.status = 1,
-                        .uit = "0 bestanden geknipt, 0 blokken, 1 overgenomen, niet bewezen\n",
-                        .fout = "knipselaar-cli: fout: er is geen bestand gekozen om te knippen; kijk --keuze en "
-                                "--masker na\n"}),
-              draai({"-r", "-p", "-k", "vhdl", "gewoon", "-n", "uit5"}));
+    EXPECT_EQ(
+        (Uitkomst{.status = 1,
+                  .uit = "0 bestanden geknipt, 0 blokken, 1 overgenomen, niet bewezen\n",
+                  .fout = "knipselaar-cli: fout: er is geen bestand gekozen om te knippen; kijk --keuze en "
+                          "--masker na\n"}),
+        draai({"-r", "-p", "-k", "vhdl", "gewoon", "-n", "uit5"}));
 }
 
 TEST_F(CliBewijs, NoemtNietsBewezenInUtf16ZonderMerkteken) {
@@ -185,11 +189,12 @@ TEST_F(CliBewijs, TeltWatOpEenMarkerregelStaatAlsWeggelaten) {
     schrijf("bron/a.c",
             "int begin = geheim(1); //**** Student Begin ****// int verder = geheim(2);\nx\n"
             "int eind = geheim(3); //**** Student Eind ****// int daarna = geheim(4);\n");
-    schrijf("bron/notities",
-            "int begin = geheim(1);\nint verder = geheim(2);\nint eind = geheim(3);\nint daarna = geheim(4);\n");
+    schrijf(
+        "bron/notities",
+        "int begin = geheim(1);\nint verder = geheim(2);\nint eind = geheim(3);\nint daarna = geheim(4);\n");
     const auto melding = [](int regel, int van) {
-        return "uit/notities:" + std::to_string(regel) + ": fout: hier staat de weggelaten regel van bron/a.c:" +
-               std::to_string(van) + "\n";
+        return "uit/notities:" + std::to_string(regel) +
+               ": fout: hier staat de weggelaten regel van bron/a.c:" + std::to_string(van) + "\n";
     };
     EXPECT_EQ(melding(1, 1) + melding(2, 1) + melding(3, 3) + melding(4, 3),
               draai({"-r", "-p", "bron", "-n", "uit"}).fout);
@@ -197,18 +202,21 @@ TEST_F(CliBewijs, TeltWatOpEenMarkerregelStaatAlsWeggelaten) {
 
 TEST_F(CliBewijs, VergelijktElkeCoderingEnElkRegeleinde) {
     schrijf("bron/a.c", "//**** Student Begin ****//\r\nint één = 11;\r\n//**** Student Eind ****//\r\n");
-    schrijf("bron/b.c", "int \xE9\xE9n = 12;\r\n//**** Student Begin ****//\r\nint \xE9\xE9n = 13;\r\n"
-                        "//**** Student Eind ****//\r\n");
+    schrijf("bron/b.c",
+            "int \xE9\xE9n = 12;\r\n//**** Student Begin ****//\r\nint \xE9\xE9n = 13;\r\n"
+            "//**** Student Eind ****//\r\n");
     schrijf("bron/c", "int één = 11;\nint één = 12;\nint één = 13;\n");
-    EXPECT_EQ("uit/c:1: fout: hier staat de weggelaten regel van bron/a.c:2\n"
-              "uit/c:3: fout: hier staat de weggelaten regel van bron/b.c:3\n",
-              draai({"-r", "-p", "bron", "-n", "uit"}).fout);
+    EXPECT_EQ(
+        "uit/c:1: fout: hier staat de weggelaten regel van bron/a.c:2\n"
+        "uit/c:3: fout: hier staat de weggelaten regel van bron/b.c:3\n",
+        draai({"-r", "-p", "bron", "-n", "uit"}).fout);
 }
 
 TEST_F(CliBewijs, RekentHetBestandVanEenWerkkopieBijHetVersiebeheer) {
     schrijf("bron/a.c", opBron);
     schrijf("bron/.git", "gitdir: ../elders\n");
-    EXPECT_EQ(goed("1 bestand geknipt, 1 blok, bewezen schoon\n"), draai({"-x", "-r", "-p", "bron", "-n", "uit"}));
+    EXPECT_EQ(goed("1 bestand geknipt, 1 blok, bewezen schoon\n"),
+              draai({"-x", "-r", "-p", "bron", "-n", "uit"}));
     EXPECT_FALSE(bestaat("uit/.git"));
     EXPECT_EQ(goed("1 bestand geknipt, 1 blok, 1 overgenomen\n"),
               draai({"--versiebeheer", "-r", "bron", "-n", "uit2"}));

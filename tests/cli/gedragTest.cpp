@@ -157,7 +157,8 @@ TEST_F(CliGedrag, DoetVerslagInJson) {
     EXPECT_EQ(
         "{\n  \"bestanden\": [\n    {\"bron\": \"-\", \"status\": \"in orde\", \"blokken\": 0, "
         "\"regels_erin\": 0, "
-        "\"regels_eruit\": 0, \"meldingen\": []}\n  ],\n  \"bewijs\": [],\n  \"opmerkingen\": [\n    \"er is nergens een blok gevonden; kijk de markers na\"\n  ],\n  "
+        "\"regels_eruit\": 0, \"meldingen\": []}\n  ],\n  \"bewijs\": [],\n  \"opmerkingen\": [\n    \"er is "
+        "nergens een blok gevonden; kijk de markers na\"\n  ],\n  "
         "\"totaal\": {\"geknipt\": 1, "
         "\"ongewijzigd\": 0, \"overgenomen\": 0, \"blokken\": 0, \"fouten\": 0, \"waarschuwingen\": 0, "
         "\"mislukt\": "
@@ -167,33 +168,38 @@ TEST_F(CliGedrag, DoetVerslagInJson) {
 
 TEST_F(CliGedrag, GeeftOokEenVerslagInJsonAlsDeRunNietKan) {
     const auto verslag = [](const std::string& reden) {
-        return Uitkomst{.status = 2,
-                        .uit = "{\n  \"bestanden\": [],\n  \"bewijs\": [],\n  \"opmerkingen\": [\n    \"" + reden +
-                               "\"\n  ],\n  \"totaal\": {\"geknipt\": 0, \"ongewijzigd\": 0, \"overgenomen\": 0, "
-                               "\"blokken\": 0, \"fouten\": 0, \"waarschuwingen\": 0, \"mislukt\": 0},\n  "
-                               "\"afloop\": 2\n}\n",
-                        .fout = "knipselaar-cli: fout: " + reden + "\n"};
+        return Uitkomst{
+            .status = 2,
+            .uit = "{\n  \"bestanden\": [],\n  \"bewijs\": [],\n  \"opmerkingen\": [\n    \"" + reden +
+                   "\"\n  ],\n  \"totaal\": {\"geknipt\": 0, \"ongewijzigd\": 0, \"overgenomen\": 0, "
+                   "\"blokken\": 0, \"fouten\": 0, \"waarschuwingen\": 0, \"mislukt\": 0},\n  "
+                   "\"afloop\": 2\n}\n",
+            .fout = "knipselaar-cli: fout: " + reden + "\n"};
     };
     const std::string onbekend = "onbekende optie '--nietbekend'; zie knipselaar-cli --help";
     EXPECT_EQ(verslag(onbekend), draai({"--nietbekend", "--json", "a.c"}));
     EXPECT_EQ(verslag(onbekend), draai({"-rj", "--nietbekend", "a.c"}));
     EXPECT_EQ(storing(onbekend), draai({"-v", "j", "-vj", "--nietbekend", "--", "-j"})) << "dat is er geen";
-    EXPECT_EQ(verslag("weg: kan niet gelezen worden: bestaat niet; kijk de naam na"), draai({"-j", "weg", "-n", "uit"}));
+    EXPECT_EQ(verslag("weg: kan niet gelezen worden: bestaat niet; kijk de naam na"),
+              draai({"-j", "weg", "-n", "uit"}));
     schrijf("a.c", bron);
-    EXPECT_EQ(verslag("--json gaat niet samen met een knipsel of verschil op de standaarduitvoer; geef --uit, "
-                      "--naar, --ter-plaatse, --controle of --droog"),
-              draai({"-j", "a.c"}));
+    EXPECT_EQ(
+        verslag("--json gaat niet samen met een knipsel of verschil op de standaarduitvoer; geef --uit, "
+                "--naar, --ter-plaatse, --controle of --droog"),
+        draai({"-j", "a.c"}));
 }
 
 TEST_F(CliGedrag, ToontGeenBesturingstekensUitNamen) {
     schrijf("boom/a\x1b[2J\nb\xC2\x9B.c", "//**** Student Eind ****//\n");
     schrijf("boom/goed.c", bron);
-    EXPECT_EQ((Uitkomst{.status = 1,
-                        .uit = "boom/a\\x1b[2J\\x0ab\\x9b.c -> uit/a\\x1b[2J\\x0ab\\x9b.c: wordt niet geknipt, 1 fout\n"
-                               "boom/goed.c -> uit/goed.c: 1 blok, 5 regels erin, 5 eruit, 0 waarschuwingen\n"
-                               "1 bestand in orde, 1 blok, 1 met fouten\n",
-                        .fout = "boom/a\\x1b[2J\\x0ab\\x9b.c:1: fout: eindmarker zonder beginmarker\n"}),
-              draai({"--droog", "boom", "-n", "uit"}));
+    EXPECT_EQ(
+        (Uitkomst{
+            .status = 1,
+            .uit = "boom/a\\x1b[2J\\x0ab\\x9b.c -> uit/a\\x1b[2J\\x0ab\\x9b.c: wordt niet geknipt, 1 fout\n"
+                   "boom/goed.c -> uit/goed.c: 1 blok, 5 regels erin, 5 eruit, 0 waarschuwingen\n"
+                   "1 bestand in orde, 1 blok, 1 met fouten\n",
+            .fout = "boom/a\\x1b[2J\\x0ab\\x9b.c:1: fout: eindmarker zonder beginmarker\n"}),
+        draai({"--droog", "boom", "-n", "uit"}));
     EXPECT_EQ(storing("w\\x1bg: kan niet gelezen worden: bestaat niet; kijk de naam na"), draai({"w\x1bg"}));
 }
 
@@ -207,9 +213,10 @@ TEST_F(CliGedrag, MeldtBijDroogWatErBijSchrijvenMisgaat) {
                                        fs::perms::others_exec);
     const std::string toegang = "geen toegang; geef rechten of kies een andere plaats\n";
     const Uitkomst dicht{.status = 2,
-                         .uit = "bron/a.c -> uit/a.c: 1 blok, 5 regels erin, 5 eruit, 0 waarschuwingen\n"
-                                "bron/dicht -> uit/dicht: lukt niet\n"
-                                "1 bestand in orde, 1 blok, 1 mislukt\n",
+                         .uit =
+                             "bron/a.c -> uit/a.c: 1 blok, 5 regels erin, 5 eruit, 0 waarschuwingen\n"
+                             "bron/dicht -> uit/dicht: lukt niet\n"
+                             "1 bestand in orde, 1 blok, 1 mislukt\n",
                          .fout = "knipselaar-cli: fout: bron/dicht: kan niet gelezen worden: " + toegang};
     const proef::Start gewoon{.gewoneGebruiker = true};
     EXPECT_EQ(dicht, draai({"--droog", "-r", "bron", "-n", "uit"}, gewoon));
@@ -235,7 +242,8 @@ TEST_F(CliGedrag, SchrijftGeenMeldingInEenBestandAlsEenKanaalDichtIs) {
     }
     EXPECT_EQ(verwacht, leesBoom("boom"));
     schrijf("a.c", bron);
-    EXPECT_EQ(2, draai({"-c", "exec \"$0\" a.c >&-", KNIPSELAAR_CLI}, shell).status) << "uitvoer die nergens komt";
+    EXPECT_EQ(2, draai({"-c", "exec \"$0\" a.c >&-", KNIPSELAAR_CLI}, shell).status)
+        << "uitvoer die nergens komt";
     EXPECT_EQ(2, draai({"-c", "exec \"$0\" - <&-", KNIPSELAAR_CLI}, shell).status) << "invoer die er niet is";
 }
 

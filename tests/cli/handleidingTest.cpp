@@ -217,7 +217,8 @@ TEST_F(CliHandleiding, DeTaakPubliceertDeStudentversie) {
     publiceer();
     EXPECT_EQ("LEESMIJ\nlab1/a.c\n" + knipsel + "2\nafloop 0\n", gepubliceerd());
     voerScriptUit(
-        "rm -rf student; git clone --quiet \"$STUDENTREPO\" student; cd student; mkdir .ci; touch .gitignore .ci/taak "
+        "rm -rf student; git clone --quiet \"$STUDENTREPO\" student; cd student; mkdir .ci; touch .gitignore "
+        ".ci/taak "
         "lab1/.clang-format; git add -A; git commit -q -m punten; git push -q origin HEAD");
     schrijf("opdrachten/LEESMIJ", "heel veel plezier\n");
     publiceer();

@@ -228,7 +228,8 @@ TEST_F(CliUitvoer, VolgtGeenLinkDieDeBoomUitGaatEnErWeerInKomt) {
     fs::create_directories(map_ / "l/sub");
     std::string fout;
     for (const std::string naam : {"b.c", "c.c", "d.c"}) {
-        fout += "knipselaar-cli: waarschuwing: l/" + naam + ": is een link die buiten l uitkomt; overgeslagen\n";
+        fout +=
+            "knipselaar-cli: waarschuwing: l/" + naam + ": is een link die buiten l uitkomt; overgeslagen\n";
     }
     EXPECT_EQ((Uitkomst{.status = 0, .uit = "1 bestand geknipt, 1 blok, bewezen schoon\n", .fout = fout}),
               draai({"-vX", "-r", "-p", "l", "-n", "uit"}));
@@ -252,12 +253,13 @@ TEST_F(CliUitvoer, LegtAlleenLinksNaarWatOokMeegaat) {
         return "knipselaar-cli: waarschuwing: bron/" + naam + ": is " + wat + "; overgeslagen\n";
     };
     const std::string verborgen = "een link naar bron/.verborgen, en dat gaat niet mee";
-    EXPECT_EQ((Uitkomst{.status = 0,
-                        .uit = "1 bestand geknipt, 1 blok, 2 overgenomen\n",
-                        .fout = melding("een", verborgen) + melding("kring", "een link die nergens heen wijst") +
-                                melding("naar-pijp", "een link naar bron/pijp, en dat gaat niet mee") +
-                                melding("pijp", "geen gewoon bestand") + melding("twee", verborgen)}),
-              draai({"-vX", "-r", "bron", "-n", "uit"}));
+    EXPECT_EQ(
+        (Uitkomst{.status = 0,
+                  .uit = "1 bestand geknipt, 1 blok, 2 overgenomen\n",
+                  .fout = melding("een", verborgen) + melding("kring", "een link die nergens heen wijst") +
+                          melding("naar-pijp", "een link naar bron/pijp, en dat gaat niet mee") +
+                          melding("pijp", "geen gewoon bestand") + melding("twee", verborgen)}),
+        draai({"-vX", "-r", "bron", "-n", "uit"}));
     EXPECT_EQ((Boom{{"a.c", knipselX}, {"ver.c", "-> zelf/a.c"}, {"zelf", "-> ."}}), leesBoom("uit"));
 }
 
@@ -400,7 +402,8 @@ TEST_F(CliUitvoer, GeeftEenNieuweDirectoryDeRechtenVanDieVanDeBron) {
     const mode_t masker = umask(0);
     umask(masker);
     EXPECT_EQ(0700U, geefRechten("uit/dicht"));
-    EXPECT_EQ((0555U | 0700U) & ~masker, geefRechten("uit/dicht/diep")) << "de eigenaar moet erin kunnen schrijven";
+    EXPECT_EQ((0555U | 0700U) & ~masker, geefRechten("uit/dicht/diep"))
+        << "de eigenaar moet erin kunnen schrijven";
     EXPECT_EQ(0777U & ~masker, geefRechten("uit/open"));
     chmod((map_ / "uit/open").c_str(), 0700);
     ASSERT_EQ(0, draai({"-r", "bron", "-n", "uit"}).status);
@@ -413,11 +416,12 @@ TEST_F(CliUitvoer, HerkentEenBestemmingInDeBronDieErgensAndersAangekoppeldIs) {
     fs::create_directories(map_ / "elders/diep");
     const proef::Start eigenAankoppeling{.programma = "/usr/bin/unshare"};
     const auto draaiAangekoppeld = [&](const std::string& bestemming) {
-        return draai({"-m", "sh", "-c", "mount --bind elders bron/sub && exec \"$0\" -r bron -n \"$1\"", KNIPSELAAR_CLI,
-                      bestemming},
+        return draai({"-m", "sh", "-c", "mount --bind elders bron/sub && exec \"$0\" -r bron -n \"$1\"",
+                      KNIPSELAAR_CLI, bestemming},
                      eigenAankoppeling);
     };
-    if (geteuid() != 0 || draai({"-m", "mount", "--bind", "elders", "bron/sub"}, eigenAankoppeling).status != 0) {
+    if (geteuid() != 0 ||
+        draai({"-m", "mount", "--bind", "elders", "bron/sub"}, eigenAankoppeling).status != 0) {
         GTEST_SKIP() << "alleen root kan een directory elders aankoppelen";
     }
     for (const std::string bestemming : {"elders", "elders/diep", "elders/nieuw"}) {

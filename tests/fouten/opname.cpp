@@ -1,16 +1,16 @@
-// Gaat met LD_PRELOAD tussen een programma en het systeem in staan en schrijft op wat er met bestanden gebeurt, in
-// de volgorde waarin het gebeurde. Alleen wat onder de directory OPNAME_VAN ligt telt. Het bestand OPNAME krijgt
-// van elke aanroep die lukte een regel; achter "schrijf" volgen de bytes zelf.
+// Gaat met LD_PRELOAD tussen een programma en het systeem in staan en schrijft op wat er met bestanden
+// gebeurt, in de volgorde waarin het gebeurde. Alleen wat onder de directory OPNAME_VAN ligt telt. Het
+// bestand OPNAME krijgt van elke aanroep die lukte een regel; achter "schrijf" volgen de bytes zelf.
 
 #include <fcntl.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <dlfcn.h>
 #include <array>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
-#include <dlfcn.h>
 #include <string>
 #include <string_view>
 

@@ -1,7 +1,7 @@
-// De stroom valt uit terwijl het consoleprogramma een boom ter plaatse knipt. Van een opname van alle aanroepen
-// wordt na elke aanroep elke toestand bekeken waarin de schijf dan terug kan komen: wat niet vastgezet was is er
-// niet, en wat sindsdien hernoemd werd heeft de ene of de andere naam, los van elkaar. Elk origineel is dan heel:
-// zoals het was, of geknipt.
+// De stroom valt uit terwijl het consoleprogramma een boom ter plaatse knipt. Van een opname van alle
+// aanroepen wordt na elke aanroep elke toestand bekeken waarin de schijf dan terug kan komen: wat niet
+// vastgezet was is er niet, en wat sindsdien hernoemd werd heeft de ene of de andere naam, los van elkaar.
+// Elk origineel is dan heel: zoals het was, of geknipt.
 
 #include <gtest/gtest.h>
 
@@ -124,12 +124,16 @@ class Stroom : public testing::Test {
 
     /// Knipt de boom en geeft de afloop.
     int knip(const std::vector<std::string>& opties) const {
-        fouten::Proces::Woorden woorden{KNIPSELAAR_CLI, "-z", "-b", "BEGIN", "-e", "EIND", "-v", "WERK", "-r", "-t", boom_};
+        fouten::Proces::Woorden woorden{KNIPSELAAR_CLI, "-z",   "-b", "BEGIN", "-e", "EIND",
+                                        "-v",           "WERK", "-r", "-t",    boom_};
         woorden.insert(woorden.end(), opties.begin(), opties.end());
-        fouten::Proces proces(
-            woorden, {{"LD_PRELOAD", OPNAME}, {"OPNAME", map_ / "opname"}, {"OPNAME_VAN", boom_}, {"LLVM_PROFILE_FILE", "/dev/null"},
-                      {"ASAN_OPTIONS", "verify_asan_link_order=0:detect_leaks=0"}},
-            map_ / "verslag");
+        fouten::Proces proces(woorden,
+                              {{"LD_PRELOAD", OPNAME},
+                               {"OPNAME", map_ / "opname"},
+                               {"OPNAME_VAN", boom_},
+                               {"LLVM_PROFILE_FILE", "/dev/null"},
+                               {"ASAN_OPTIONS", "verify_asan_link_order=0:detect_leaks=0"}},
+                              map_ / "verslag");
         return proces.wacht();
     }
 

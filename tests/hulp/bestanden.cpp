@@ -1,5 +1,7 @@
 #include "tests/hulp/bestanden.h"
 
+#include <wx/textbuf.h>
+
 #include <array>
 #include <cstdio>
 #include <fstream>
@@ -40,6 +42,14 @@ void schrijfBestand(const fs::path& pad, std::string_view inhoud) {
     if (!uitvoer.flush()) {
         throw std::runtime_error("niet te schrijven: " + pad.string());
     }
+}
+
+std::string zetInBestand(std::string_view tekst) {
+    std::string uit;
+    for (const char teken : tekst) {
+        uit += teken == '\n' ? wxString(wxTextBuffer::GetEOL()).utf8_string() : std::string(1, teken);
+    }
+    return uit;
 }
 
 std::vector<std::string> somOp(const fs::path& map) {

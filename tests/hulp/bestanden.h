@@ -30,6 +30,9 @@ std::string leesBestand(const std::filesystem::path& pad);
 /// Schrijft precies deze bytes; wat er stond verdwijnt.
 void schrijfBestand(const std::filesystem::path& pad, std::string_view inhoud);
 
+/// Een tekst met "\n" zoals een bestandsvariant haar schrijft: met de regeleinden van dit systeem.
+std::string zetInBestand(std::string_view tekst);
+
 /// De namen van wat er in een map staat, in de volgorde waarin het bestandssysteem ze opsomt.
 std::vector<std::string> somOp(const std::filesystem::path& map);
 

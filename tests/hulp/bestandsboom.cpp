@@ -23,8 +23,7 @@ void maakBoom(const fs::path& wortel, const Boom& boom) {
 Boom leesBoom(const fs::path& wortel) {
     Boom boom;
     for (const auto& deel : fs::recursive_directory_iterator(wortel)) {
-        const std::string pad = fs::relative(deel.path().parent_path(), wortel) / deel.path().filename();
-        const std::string naam = pad.starts_with("./") ? pad.substr(2) : pad;
+        const std::string naam = deel.path().lexically_relative(wortel).generic_string();
         if (deel.is_symlink()) {
             boom[naam] = "-> " + fs::read_symlink(deel.path()).string();
         } else if (deel.is_directory()) {

@@ -4,9 +4,9 @@
 // tijdelijke directory.
 
 #include <gtest/gtest.h>
+#include <wx/utils.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <functional>
 #include <map>
 #include <string>
@@ -22,7 +22,7 @@ namespace proef {
 
 inline const kern::KnipTeksten teksten{"BEGIN", "EIND", "WERK"};
 inline const std::string origineel = "a\nBEGIN\nb\nEIND\nc\n";
-inline const std::string geknipt = "a\nWERK\nc\n\n";
+inline const std::string geknipt = hulp::zetInBestand("a\nWERK\nc\n\n");
 
 /// Een overslag in woorden.
 inline std::string vertel(kern::Overslag reden) {
@@ -112,18 +112,18 @@ class Opdracht : public kern::BatchOpdracht {
 };
 
 inline wxString naarWx(const std::filesystem::path& pad) {
-    return wxString::FromUTF8(pad.string());
+    return wxString::FromUTF8(pad.generic_string());
 }
 
 class Batch : public testing::Test {
   protected:
     Batch() {
         std::filesystem::create_directory(tijdelijk_);
-        setenv("TMPDIR", tijdelijk_.c_str(), 1);
+        wxSetEnv("TMPDIR", naarWx(tijdelijk_));
         std::filesystem::create_directory(boom_);
     }
     ~Batch() override {
-        unsetenv("TMPDIR");
+        wxUnsetEnv("TMPDIR");
         // Ook een bestand dat niet te knippen is beweert; dat hoort zo en verschilt per test.
         hulp::neemBeweringen();
     }

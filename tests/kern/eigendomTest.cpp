@@ -115,9 +115,8 @@ TEST_P(Eigendom, KrijgtGeenToegangslijstVanDeDirectory) {
     EXPECT_EQ(0640U, geefRechten());
 }
 
-INSTANTIATE_TEST_SUITE_P(Beide, Eigendom, testing::Bool(), [](const auto& info) {
-    return std::string(info.param ? "Verhuisd" : "Ernaast");
-});
+INSTANTIATE_TEST_SUITE_P(Beide, Eigendom, testing::Bool(),
+                         [](const auto& info) { return std::string(info.param ? "Verhuisd" : "Ernaast"); });
 
 class EigendomVanEenAnder : public Eigendom {};
 
@@ -129,8 +128,9 @@ TEST_P(EigendomVanEenAnder, GaatZonderDeGroepAlleenMetWatIedereenMag) {
     }
     const Verlies verlies = vervang();
     ASSERT_EQ(0, seteuid(0));
-    EXPECT_EQ(metLijst ? "kon eigenaar, groep en toegangslijst niet houden" : "kon eigenaar en groep niet houden",
-              kern::noemVerlies(verlies));
+    EXPECT_EQ(
+        metLijst ? "kon eigenaar, groep en toegangslijst niet houden" : "kon eigenaar en groep niet houden",
+        kern::noemVerlies(verlies));
     EXPECT_EQ("geen", leesAantekening(oud_, lijst));
     EXPECT_EQ(metLijst ? 0600U : 0644U, geefRechten());
 }

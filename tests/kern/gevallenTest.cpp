@@ -3,7 +3,6 @@
 // ze verschillen staat in "waarom". "begin", "eind" en "vervang" ontbreken als de standaardtekst geldt.
 
 #include <gtest/gtest.h>
-#include <wx/textbuf.h>
 
 #include <algorithm>
 
@@ -28,15 +27,6 @@ class Gevallen : public testing::TestWithParam<std::string> {
                                leesOf(map_ / "vervang", kern::standaardVervangtekst())};
 };
 
-/// Een tekst zoals zij in een bestand van dit systeem staat.
-std::string zetInBestand(const std::string& tekst) {
-    std::string uit;
-    for (const char teken : tekst) {
-        uit += teken == '\n' ? wxString(wxTextBuffer::GetEOL()).utf8_string() : std::string(1, teken);
-    }
-    return uit;
-}
-
 /// Wat de editor met alle regeleinden op LF laat zien.
 std::string zetRegeleindenOm(const std::string& tekst) {
     std::string uit;
@@ -58,7 +48,7 @@ TEST_P(Gevallen, Bestand) {
     const auto uitslag = kern::knipBestand(wxFileName((map_ / "in").string()),
                                            wxFileName((tijdelijk / "uit").string()), teksten_);
     EXPECT_TRUE(uitslag.isGelukt());
-    const std::string verwacht = zetInBestand(hulp::leesBestand(map_ / "bestand"));
+    const std::string verwacht = hulp::zetInBestand(hulp::leesBestand(map_ / "bestand"));
     EXPECT_EQ(verwacht, hulp::leesBestand(tijdelijk / "uit"));
     EXPECT_EQ(verwacht, orakel::knipBestand(map_ / "in", teksten_));
 }

@@ -152,8 +152,9 @@ TEST(Ontleding, KentMarkersDieMiddenInEenTekenVanElkaarVerschillen) {
 }
 
 TEST(Ontleding, HeeftDeMarkerVanHetEnePaarNietVoorBijnaDieVanHetAndere) {
-    const kern::MarkerReeks reeks({{.begin = kern::MarkerMasker("//Begin"), .eind = kern::MarkerMasker("//Eind")},
-                                   {.begin = kern::MarkerMasker("--begin"), .eind = kern::MarkerMasker("--eind")}});
+    const kern::MarkerReeks reeks(
+        {{.begin = kern::MarkerMasker("//Begin"), .eind = kern::MarkerMasker("//Eind")},
+         {.begin = kern::MarkerMasker("--begin"), .eind = kern::MarkerMasker("--eind")}});
     Ontleder ontleder(reeks);
     ontleder.neem("//Begin\nx\n//Eind\n--begin\ny\n--eind\n##BEGIN\n");
     EXPECT_EQ(toon({{7, Soort::bijnaBegin}}), toon(ontleder.maakAf().lijst));

@@ -199,6 +199,10 @@ TEST(Orakel, KniptBeschadigdeBredeBestandenGelijk) {
     }
 }
 
+TEST(Orakel, LeestEenSurrogaatInUtf32Gelijk) {
+    Vergelijker().vergelijk("\xFF\xFE\0\0a\0\0\0\0\xD8\0\0\x00\xDC\0\0"s, {"Z", "Z", "V"});
+}
+
 TEST(Orakel, KniptGroteBestandenGelijk) {
     Maker maker(4);
     Vergelijker vergelijker;

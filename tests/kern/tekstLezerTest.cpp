@@ -171,6 +171,18 @@ constexpr Leesgeval leesgevallen[] = {
      "b\0"sv,
      "\U0001F600"
      "b\n"sv},
+    {"Utf16PaarNaCR",
+     "\xFF\xFE"
+     "a\0\r\0\x3D\xD8\x00\xDE"
+     "b\0\n\0"
+     "c\0"sv,
+     "a\n\U0001F600"
+     "b\nc\n"sv},
+    {"Utf16Einden", "\xFE\xFF\0a\0\r\0\0\0b\0\0\0c\0\r\0\r\0\n"sv, "a\nb\nc\n\n\n"sv},
+    {"Utf32PaarNaCR", "\0\0\xFE\xFF\0\0\0\r\0\1\xF6\0\0\0\0b"sv,
+     "\n\U0001F600"
+     "b\n"sv},
+    {"Utf32Surrogaat", "\0\0\xFE\xFF\0\0\0a\0\0\xD8\0"sv, "a\xED\xA0\x80\n"sv},
     {"Utf32LE", "\xFF\xFE\0\0a\0\0\0\n\0\0\0"sv, "a\n\n"sv},
     {"Utf32BE", "\0\0\xFE\xFF\0\0\0a"sv, "a\n"sv},
     {"AndersLosHoogSurrogaat",

@@ -3,8 +3,11 @@
 
 #include <sys/stat.h>
 #include <wx/log.h>
+#include <wx/panel.h>
 
 #include <cstdlib>
+#include <utility>
+#include <vector>
 
 #include "Knipselaar/venster/merken.h"
 #include "tests/venster/batchVenster.h"
@@ -17,6 +20,27 @@ namespace {
 using VlakkeBatch = BatchTest;
 using RecursieveBatch = BatchTest;
 using Kiezen = BatchTest;
+
+/// Een lijst waar een batch bij elk bestand naar kijkt. Bij het tweede bestand duurt dat zo lang dat de batch
+/// daarna laat zien hoe ver hij is.
+class TrageLijst : public wxChoice {
+  public:
+    TrageLijst(wxWindow& ouder, std::function<void()> bijElkBestand)
+        : wxChoice(&ouder, wxID_ANY), bijElkBestand_(std::move(bijElkBestand)) {}
+
+    int GetSelection() const override {
+        bijElkBestand_();
+        constexpr long langMs = 1100;
+        if (++gevraagd_ == 2) {
+            hulp::wachtTot([einde = hulp::klokMs() + langMs] { return hulp::klokMs() > einde; });
+        }
+        return 0;
+    }
+
+  private:
+    std::function<void()> bijElkBestand_;
+    mutable int gevraagd_ = 0;
+};
 
 }  // namespace
 
@@ -51,6 +75,24 @@ TEST_F(VlakkeBatch, SchrijftHetHeleLogboek) {
     laatLopen();
     EXPECT_TRUE(lid(&Inzage::opslaanKnop)->IsEnabled()) << "het logboek is op te slaan";
     EXPECT_TRUE(lid(&Inzage::pasAanKnop)->IsEnabled()) << "de vlaggen blijven";
+}
+
+TEST_F(VlakkeBatch, WerktDeLogboekenBijTerwijlDeRunNogLoopt) {
+    hulp::maakBoom(bron_, {{"a.c", metBlok}, {"b.c", metBlok}, {"c.c", metBlok}});
+    const std::vector<std::string> namen = hulp::somOp(bron_);
+    std::string bijHetDerde;
+    TrageLijst lijst(*lid(&Inzage::paneel),
+                     [&] { bijHetDerde = tekstVan(origineel()) + tekstVan(aangepast()); });
+    kiesModus(1);
+    kiesBron(bron_);
+    kiesDoel(doel_);
+    wxChoice* echt = std::exchange(lid(&Inzage::bestandTypeKeuze), &lijst);
+    geefOpdracht(wxID_REPLACE);
+    lid(&Inzage::bestandTypeKeuze) = echt;
+    EXPECT_EQ("Originele dir : " + bronPad() + "\nOrig bestand 1:" + namen[0] +
+                  "\nOrig bestand 2:" + namen[1] + "\nStudent dir : " + doelPad() +
+                  "\nStudent bestand 1:" + namen[0] + "\nStudent bestand 2:" + namen[1] + "\n",
+              bijHetDerde);
 }
 
 TEST_F(VlakkeBatch, SlaatBijVhdlAllesOver) {

@@ -1,5 +1,7 @@
 #include <wx/uiaction.h>
 
+#include <vector>
+
 #include "tests/venster/dialogen.h"
 #include "tests/venster/vensterTest.h"
 
@@ -51,15 +53,25 @@ class Modus : public VensterTest {
         keuzerondje->ProcessWindowEvent(event);
     }
 
-    /// Klikt met de muis op een keuze van een keuzerondje en wacht tot GTK dat gemeld heeft.
-    static void klikKeuze(wxRadioBox* keuzerondje, int keuze) {
-        wxPoint plek(20, 0);
-        while (keuzerondje->GetItemFromPoint(keuzerondje->ClientToScreen(plek)) != keuze &&
-               plek.y < keuzerondje->GetSize().y) {
-            ++plek.y;
+    /// Waar op het scherm de toolkit een keuze van een keuzerondje weet, midden in zijn breedte: van boven
+    /// tot onder.
+    static std::vector<wxPoint> vindKeuze(const wxRadioBox* keuzerondje, int keuze) {
+        const wxRect vak = keuzerondje->GetScreenRect();
+        std::vector<wxPoint> plekken;
+        for (wxPoint plek(vak.x + vak.width / 2, vak.y); plek.y <= vak.GetBottom(); ++plek.y) {
+            if (keuzerondje->GetItemFromPoint(plek) == keuze) {
+                plekken.push_back(plek);
+            }
         }
+        return plekken;
+    }
+
+    /// Klikt met de muis midden op een keuze van een keuzerondje en wacht tot GTK dat gemeld heeft.
+    static void klikKeuze(wxRadioBox* keuzerondje, int keuze) {
+        const std::vector<wxPoint> plekken = vindKeuze(keuzerondje, keuze);
+        ASSERT_FALSE(plekken.empty()) << keuze;
         wxUIActionSimulator muis;
-        muis.MouseMove(keuzerondje->ClientToScreen(plek + wxPoint(0, 5)));
+        muis.MouseMove(plekken[plekken.size() / 2]);
         laatLopen();
         const Meldingen meldingen;
         muis.MouseClick();

@@ -71,8 +71,8 @@ struct Opening {
 /// Opent een gewoon bestand om te lezen. Een link wordt gevolgd.
 Opening openBron(const std::string& pad);
 
-/// Opent wat de gebruiker zelf noemt om te lezen, ook een pijp, en wacht zo nodig op wie haar vult. Alleen als het
-/// geen gewoon bestand hoeft te zijn.
+/// Opent wat de gebruiker zelf noemt om te lezen, ook een pijp, en wacht zo nodig op wie haar vult. Alleen
+/// als het geen gewoon bestand hoeft te zijn.
 Opening openStroom(const std::string& pad);
 
 /// Opent een gewoon bestand om te schrijven en maakt het leeg, of maakt het. Een link wordt gevolgd, behalve

@@ -33,14 +33,15 @@ class Buurbestand {
     int geefKanaal() const { return bestand_.geefKanaal(); }
 
     /// Sluit het bestand en zet het op de plaats van de bestemming, met de eigenaar, groep, rechten,
-    /// toegangslijst en aantekeningen van wat daar staat (op Windows: kenmerken en toegangslijst). Een vreemde
-    /// eigenaar kan alleen een beheerder houden; dan vervallen de bijzondere rechten. Wat niet te houden was
-    /// zegt geefVerlies; niemand mag daardoor meer dan eerst. Lukt het niet, dan is de bestemming wat zij was.
+    /// toegangslijst en aantekeningen van wat daar staat (op Windows: kenmerken en toegangslijst). Een
+    /// vreemde eigenaar kan alleen een beheerder houden; dan vervallen de bijzondere rechten. Wat niet te
+    /// houden was zegt geefVerlies; niemand mag daardoor meer dan eerst. Lukt het niet, dan is de bestemming
+    /// wat zij was.
     /// @param oud  van de bestemming.
     std::error_code vervang(const Kenmerken& oud);
 
-    /// De eerste helft van vervang: sluit het bestand met alles wat het over hoort te nemen. De bestemming verandert
-    /// nog niet. Wie veel bestanden vervangt, zet ze eerst alle klaar en dan vast (zie schijf.h).
+    /// De eerste helft van vervang: sluit het bestand met alles wat het over hoort te nemen. De bestemming
+    /// verandert nog niet. Wie veel bestanden vervangt, zet ze eerst alle klaar en dan vast (zie schijf.h).
     std::error_code maakKlaar(const Kenmerken& oud);
 
     /// De tweede helft, na maakKlaar: alleen nog de hernoeming.

@@ -11,7 +11,8 @@ namespace kern {
 
 /// Verhuist een gewoon bestand naar de plaats van een bestaand gewoon bestand op hetzelfde bestandssysteem.
 /// Het krijgt eerst diens eigenaar, groep, rechten, toegangslijst en aantekeningen (op Windows: kenmerken en
-/// toegangslijst). Mislukt er iets, dan staan beide waar ze stonden, maar het nieuwe kan al andere rechten hebben.
+/// toegangslijst). Mislukt er iets, dan staan beide waar ze stonden, maar het nieuwe kan al andere rechten
+/// hebben.
 /// @param oud  van wat er nu op de plaats staat.
 std::error_code verhuis(const std::string& nieuw, const std::string& plaats, const Kenmerken& oud);
 

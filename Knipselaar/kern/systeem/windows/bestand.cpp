@@ -113,6 +113,9 @@ Opening openDoel(const std::string& pad) {
     if (opening.fout == std::errc::no_such_file_or_directory) {
         return maakNieuw(pad, voluit);
     }
+    if (opening.kenmerken.soort == Bestandssoort::directory) {
+        opening.fout = std::make_error_code(std::errc::is_a_directory);
+    }
     if (opening.bestand.isOpen() && opening.kenmerken.lengte > 0 &&
         SetEndOfFile(windows::geefHandvat(opening.bestand.geefKanaal())) == 0) {
         opening.fout = windows::geefFout();

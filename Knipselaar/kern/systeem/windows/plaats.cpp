@@ -91,6 +91,9 @@ std::error_code neemAllesOver(const std::wstring& nieuw, const std::wstring& van
 std::error_code zetOpPlaats(const std::wstring& nieuw, const std::wstring& plaats) {
     const DWORD kenmerken = GetFileAttributesW(plaats.c_str());
     if (kenmerken != INVALID_FILE_ATTRIBUTES) {
+        if ((kenmerken & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+            return std::make_error_code(std::errc::is_a_directory);
+        }
         if ((kenmerken & FILE_ATTRIBUTE_READONLY) != 0) {
             return maakFout(ERROR_FILE_READ_ONLY);
         }
