@@ -47,7 +47,7 @@ _knipselaar_cli() {
         ;;
     esac
     if [[ $huidig == -* ]]; then
-        mapfile -t COMPREPLY < <(compgen -W '--uit --naar --ter-plaatse --recursief --overschrijf --keuze --masker
+        mapfile -t COMPREPLY < <(compgen -W '--uit --naar --ter-plaatse --alles-of-niets --recursief --overschrijf --keuze --masker
             --verborgen --versiebeheer --begin --eind --markers-uit --letterlijk --vervang --vervang-uit --vervang-c
             --vervang-c-uit --vervang-vhdl --vervang-vhdl-uit --vervang-overig --vervang-overig-uit --taal
             --zonder-instellingen --getrouw --als-venster --inspringen --controle --streng --bewijs --bewijs-lengte

@@ -49,6 +49,8 @@ TEST_F(CliSlechteInvoer, MeldtVerkeerdeOpties) {
          "--bewijs heeft een bestemming nodig om na te lezen; geef --uit, --naar of --ter-plaatse"},
         {{"-p", "-c", "a.c"},
          "--bewijs heeft een bestemming nodig om na te lezen; geef --uit, --naar of --ter-plaatse"},
+        {{"--alles-of-niets", "-n", "x", "a.c"},
+         "--alles-of-niets hoort bij --ter-plaatse; alleen daar verandert een origineel"},
         {{"-k", "alles", "-m", "*.c", "a.c"},
          "--keuze en --masker gaan niet samen; met --masker kiest u alles zelf"},
         {{"-p", "--versiebeheer", "-n", "x", "a.c"},

@@ -123,17 +123,16 @@ class Stroom : public testing::Test {
     }
 
     /// Knipt de boom en geeft de afloop.
-    int knip(const std::vector<std::string>& opties) const {
+    int knip(const std::vector<std::string>& opties, fouten::Proces::Omgeving omgeving = {}) const {
         fouten::Proces::Woorden woorden{KNIPSELAAR_CLI, "-z",   "-b", "BEGIN", "-e", "EIND",
                                         "-v",           "WERK", "-r", "-t",    boom_};
         woorden.insert(woorden.end(), opties.begin(), opties.end());
-        fouten::Proces proces(woorden,
-                              {{"LD_PRELOAD", OPNAME},
-                               {"OPNAME", map_ / "opname"},
-                               {"OPNAME_VAN", boom_},
-                               {"LLVM_PROFILE_FILE", "/dev/null"},
-                               {"ASAN_OPTIONS", "verify_asan_link_order=0:detect_leaks=0"}},
-                              map_ / "verslag");
+        omgeving.insert({{"LD_PRELOAD", OPNAME},
+                         {"OPNAME", map_ / "opname"},
+                         {"OPNAME_VAN", boom_},
+                         {"LLVM_PROFILE_FILE", "/dev/null"},
+                         {"ASAN_OPTIONS", "verify_asan_link_order=0:detect_leaks=0"}});
+        fouten::Proces proces(woorden, omgeving, map_ / "verslag");
         return proces.wacht();
     }
 
@@ -174,6 +173,17 @@ TEST_F(Stroom, LaatNaElkeAanroepElkOrigineelHeel) {
         EXPECT_EQ(aantal, hernoemd);
         EXPECT_EQ(1, vastgezet) << "één keer voor alles";
     }
+}
+
+TEST_F(Stroom, LaatStaanWatIntussenBewaardIs) {
+    const std::string bewaard = (boom_ / "d1/1.c").string();
+    EXPECT_EQ(2, knip({}, {{"BEWAART", bewaard}}));
+    const std::string verslag = hulp::leesBestand(map_ / "verslag");
+    EXPECT_NE(std::string::npos, verslag.find("knipselaar-cli: fout: " + bewaard +
+                                              ": blijft zoals het is: is intussen veranderd; knip het opnieuw\n"))
+        << verslag;
+    na_["d1/1.c"] = voor_["d1/1.c"] + "erbij\n";
+    EXPECT_EQ(na_, hulp::leesBoom(boom_));
 }
 
 TEST_F(Stroom, VerandertNietsAlsErIetsMisgaatEnDatGevraagdIs) {
