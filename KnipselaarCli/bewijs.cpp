@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <tuple>
 
 #include "Knipselaar/kern/regelOmzetter.h"
 #include "Knipselaar/kern/systeem/onderbreking.h"
@@ -130,7 +131,9 @@ void Bewijs::laatToe(std::string_view tekst) {
 }
 
 void Bewijs::sluitAf() {
-    std::sort(weg_.begin(), weg_.end());
+    std::sort(weg_.begin(), weg_.end(), [](const Weggevallen& een, const Weggevallen& ander) {
+        return std::tie(een.merk, een.bron, een.regel) < std::tie(ander.merk, ander.bron, ander.regel);
+    });
     std::sort(toegelaten_.begin(), toegelaten_.end());
     const auto einde = std::unique(weg_.begin(), weg_.end(),
                                    [](const auto& een, const auto& ander) { return een.merk == ander.merk; });

@@ -73,8 +73,6 @@ class Bewijs {
         Regelmerk merk;
         std::uint32_t bron;
         std::uint32_t regel;
-
-        auto operator<=>(const Weggevallen&) const = default;
     };
 
     void leesBestandNa(const std::string& pad, Nalezing& uit) const;

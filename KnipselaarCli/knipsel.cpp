@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "Knipselaar/kern/regelOmzetter.h"
+#include "Knipselaar/kern/regeleinden.h"
 
 namespace cli {
 
@@ -161,7 +162,7 @@ std::vector<Wijziging> Knipsel::geefWijzigingen() {
         const bool metMerkteken = wens_.manier == Manier::venster && blok.begin.begin == 0;
         uit.push_back({.begin = metMerkteken ? 0 : bron_.naarRuw(blok.begin.begin),
                        .eind = bron_.naarRuw(blok.eind.eind),
-                       .nieuw = geefVervanging(blok)});
+                       .nieuw = zoalsGeschreven(geefVervanging(blok))});
         plek = blok.eind.eind;
     }
     vergelijkRegels({plek, bron_.geefTekst().size()}, uit);
@@ -169,7 +170,7 @@ std::vector<Wijziging> Knipsel::geefWijzigingen() {
 }
 
 /// De wijzigingen van een deel dat blijft: bij de manier "venster" de regels die er anders uit komen.
-void Knipsel::vergelijkRegels(kern::Regel deel, std::vector<Wijziging>& uit) const {
+void Knipsel::vergelijkRegels(kern::Regel deel, std::vector<Wijziging>& uit) {
     if (wens_.manier == Manier::getrouw) {
         return;
     }
@@ -179,12 +180,22 @@ void Knipsel::vergelijkRegels(kern::Regel deel, std::vector<Wijziging>& uit) con
         // Het merkteken hoort bij de eerste regel.
         const std::size_t begin = plek == 0 ? 0 : bron_.naarRuw(plek);
         const std::size_t eind = bron_.naarRuw(volgende);
-        const std::string_view nieuw = tekst.substr(plek, volgende - plek);
+        const std::string_view nieuw = zoalsGeschreven(tekst.substr(plek, volgende - plek));
         if (bron_.geefRuw().substr(begin, eind - begin) != nieuw) {
             uit.push_back(Wijziging{begin, eind, nieuw});
         }
         plek = volgende;
     }
+}
+
+/// Een stuk zoals het in het bestand komt: bij de manier "venster" met de regeleinden van dit systeem.
+std::string_view Knipsel::zoalsGeschreven(std::string_view tekst) {
+    if (wens_.manier == Manier::getrouw || !kern::isRegeleindeCrLf()) {
+        return tekst;
+    }
+    std::string& geschreven = geschreven_.emplace_back();
+    kern::geefMetEigenRegeleinden(tekst, [&geschreven](std::string_view stuk) { geschreven += stuk; });
+    return geschreven;
 }
 
 }  // namespace cli

@@ -47,7 +47,8 @@ class Knipsel {
     std::string geefInhoud();
 
     /// De wijzigingen die van het bestand het knipsel maken, op volgorde. Geldig zolang het knipsel er is.
-    /// Bij de manier "venster" alleen na de lezing "volledig".
+    /// Bij de manier "venster" alleen na de lezing "volledig", en met de regeleinden waarmee het geschreven
+    /// wordt.
     std::vector<Wijziging> geefWijzigingen();
 
   private:
@@ -56,12 +57,15 @@ class Knipsel {
     std::string_view geefGetrouweVervanging(const kern::Blok& blok);
     std::string_view geefBlijvend(std::size_t begin, std::size_t eind) const;
     void zetOm(const std::function<void(std::string_view)>& uit);
-    void vergelijkRegels(kern::Regel deel, std::vector<Wijziging>& uit) const;
+    void vergelijkRegels(kern::Regel deel, std::vector<Wijziging>& uit);
+    std::string_view zoalsGeschreven(std::string_view tekst);
 
     const Brontekst& bron_;
     const Ontleding& ontleding_;
     KnipWens wens_;
     std::deque<std::string> eigen_;  ///< vervangingen; een deque: wat erin staat blijft op zijn plaats
+    std::deque<std::string>
+        geschreven_;                 ///< tekst van de manier "venster" met de regeleinden van dit systeem
     std::string vorigeInspringing_;  ///< van de laatste in eigen_, met het regeleinde dat volgde
     std::string vorigRegeleinde_;
 };

@@ -25,15 +25,15 @@ struct Opties {
     Opdracht opdracht = Opdracht::knip;
     std::vector<std::string> bronnen;
     std::optional<std::string> uit;
-    bool naarStandaarduitvoer = false;  ///< met zoveel woorden gevraagd
     std::optional<std::string> naar;
+    bool naarStandaarduitvoer = false;  ///< met zoveel woorden gevraagd
     bool terPlaatse = false;
     bool allesOfNiets = false;
     bool recursief = false;
     bool overschrijf = false;
 
-    std::optional<Bestandskeuze> keuze;  ///< standaard talen
     std::vector<std::string> maskers;
+    std::optional<Bestandskeuze> keuze;  ///< standaard talen
     bool verborgen = false;
     bool versiebeheer = false;
 
@@ -44,10 +44,9 @@ struct Opties {
 
     bool streng = false;
     bool bewijs = false;
-    std::size_t bewijsLengte = 10;
-
     bool stil = false;
     bool json = false;
+    std::size_t bewijsLengte = 10;
     std::size_t taken = 0;  ///< bestanden tegelijk; 0 is wat de machine aankan
 
     /// Of er iets geschreven mag worden.

@@ -189,7 +189,7 @@ class Planner {
             if (deel.soort == kern::Bestandssoort::directory && !kern::leesKenmerken(pad, kenmerken) &&
                 std::any_of(omhoog.begin(), omhoog.end(),
                             [&](const auto& plaats) { return plaats.isZelfdePlaats(kenmerken); })) {
-                throw Fout(naar + ": ligt in de bron, via " + pad + "; kies een bestemming erbuiten");
+                throw Fout((naar + ": ligt in de bron, via ").append(pad) + "; kies een bestemming erbuiten");
             }
         }
     }

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Beproeft met wine wat ./windows.sh maakte, naast hetzelfde op dit systeem.
-# Gebruik: keur-windows.sh WINDOWSBOUW LINUXBOUW PAKKETTEN
+# Gebruik: keur-windows.sh WINDOWSBOUW LINUXBOUW CLITESTS PAKKETTEN
 #   de tests van de kern die onder Windows lopen
-#   het consoleprogramma: bestanden, uitvoer en afloop zijn die van Linux
+#   het consoleprogramma: bestanden, uitvoer en afloop zijn die van Linux; zijn tests van buiten; onderbreken
 #   het installatieprogramma, stil: het programma komt er, en gaat er weer af zonder iets achter te laten
 #   het geïnstalleerde venster, met toetsen: één bestand, een directory en een boom, met de uitkomst van Linux
 set -euo pipefail
@@ -11,7 +11,8 @@ hoofdmap=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$hoofdmap/scripts/bediening.sh"
 windowsbouw=${1:?}
 linuxbouw=${2:?}
-pakketten=${3:?}
+clitests=${3:?}
+pakketten=${4:?}
 
 # Een eigen wine, die met het script verdwijnt. Zonder .NET en zonder browser, waar hij anders naar vraagt.
 export WINEPREFIX="$werk/wine" WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml='
@@ -41,8 +42,8 @@ vergelijk() {
     local naam=$1 deel
     shift
     rm -rf "$werk/linux" "$werk/windows"
-    cp -R "$werk/boom" "$werk/linux"
-    cp -R "$werk/boom" "$werk/windows"
+    cp -R --preserve=links "$werk/boom" "$werk/linux"
+    cp -R --preserve=links "$werk/boom" "$werk/windows"
     voer_uit_in linux "$linuxbouw/KnipselaarCli/knipselaar-cli" --zonder-instellingen "$@"
     voer_uit_in windows wine "$windowsbouw/KnipselaarCli/knipselaar-cli.exe" --zonder-instellingen "$@"
     if [[ $naam == *als_venster* ]]; then
@@ -55,10 +56,16 @@ vergelijk() {
 }
 
 keur_console() {
+    local naam lang droog=(--zonder-instellingen --droog --naar uit les)
     mkdir -p "$werk/boom"
     cp -R "$hoofdmap/voorbeelden" "$werk/boom/les"
     cp "$werk/boom/les/ringbuffer.c" "$werk/boom/les/Ωmega € 😀.c"
+    ln "$werk/boom/les/ringbuffer.c" "$werk/boom/les/zelfde.c"
     mkdir "$werk/boom/les/.verborgen" "$werk/boom/les/leeg"
+    # Voorbij de 260 tekens waar oude programma's ophouden.
+    lang=$(printf 'map-met-een-lange-naam-%s/' {1..14})
+    mkdir -p "$werk/boom/les/$lang"
+    cp "$werk/boom/les/matrix.h" "$werk/boom/les/$lang"
     cp "$werk/boom/les/matrix.h" "$werk/boom/les/.verborgen"
     vergelijk uitvoer les/ringbuffer.c
     vergelijk als_venster --als-venster les/ringbuffer.c
@@ -68,18 +75,92 @@ keur_console() {
     vergelijk verborgen --recursief --verborgen --naar uit les
     vergelijk ter_plaatse --recursief --ter-plaatse les
     vergelijk dubbel --recursief --ter-plaatse les les/ringbuffer.c
+    vergelijk hard --ter-plaatse les/ringbuffer.c les/zelfde.c
+    vergelijk lang --ter-plaatse "les/${lang}matrix.h"
     vergelijk masker --naar uit --masker '*.[ch]' les
     vergelijk verschil --verschil les
     vergelijk bewijs --recursief --naar uit --bewijs les
     vergelijk hulp --help
     vergelijk bestaat_niet les/bestaat-niet.c
     vergelijk verkeerd --bestaat-niet
+    # Door een pijp, zoals een ander programma de uitvoer leest; de namen zijn dan ook UTF-8.
+    (cd "$werk/boom" && "$linuxbouw/KnipselaarCli/knipselaar-cli" "${droog[@]}") | cat >"$werk/pijp.linux"
+    (cd "$werk/boom" && wine "$windowsbouw/KnipselaarCli/knipselaar-cli.exe" "${droog[@]}") | cat >"$werk/pijp.windows"
+    grep -q 'Ωmega € 😀' "$werk/pijp.windows" || stop "in een pijp is de uitvoer geen UTF-8"
+    cmp "$werk/pijp.linux" "$werk/pijp.windows" || stop "in een pijp is de uitvoer anders"
     # Een apparaat bestaat overal; wie het leest kan er voor altijd op wachten.
     for naam in NUL CON COM1 les/nul; do
         voer_uit_in windows wine "$windowsbouw/KnipselaarCli/knipselaar-cli.exe" "$naam"
         [ "$(cat "$werk/windows.status")" = 2 ] || stop "$naam: status $(cat "$werk/windows.status")"
         grep -q 'is geen gewoon bestand' "$werk/windows.fouten" || stop "$naam: $(cat "$werk/windows.fouten")"
     done
+}
+
+# Onder Windows maken hoofdletters geen ander bestand.
+keur_hoofdletters() {
+    rm -rf "$werk/windows"
+    cp -R "$werk/boom" "$werk/windows"
+    voer_uit_in windows wine "$windowsbouw/KnipselaarCli/knipselaar-cli.exe" --zonder-instellingen --ter-plaatse \
+        LES/Ringbuffer.C les/ringbuffer.c
+    grep -q '^1 bestand geknipt' "$werk/windows.uitvoer" || stop "hoofdletters: $(cat "$werk/windows.uitvoer")"
+}
+
+# De tests van het consoleprogramma van buiten, op dat voor Windows. Zij starten een script, dat eerst de instellingen
+# van de test neerlegt waar Windows ze zoekt.
+keur_cli_tests() {
+    local opslag niet
+    opslag=$(echo "$WINEPREFIX"/drive_c/users/*/AppData/Roaming)/Knipselaar.ini
+    cat >"$werk/knipselaar-cli" <<EOF
+#!/bin/sh
+export WINEPREFIX='$WINEPREFIX' WINEDEBUG=-all WINEDLLOVERRIDES='$WINEDLLOVERRIDES;winemenubuilder.exe='
+rm -f '$opslag'
+[ ! -e "\$HOME/.Knipselaar" ] || cp "\$HOME/.Knipselaar" '$opslag'
+exec wine '$windowsbouw/KnipselaarCli/knipselaar-cli.exe' "\$@"
+EOF
+    chmod +x "$werk/knipselaar-cli"
+    niet=$(sed '/^#/d; s/ .*//' "$hoofdmap/tests/windows/cli-niet.txt" | paste -s -d :)
+    stil "een test van het consoleprogramma faalt onder wine" \
+        env KNIPSELAAR_CLI="$werk/knipselaar-cli" "$clitests" --gtest_brief=1 --gtest_filter="-$niet"
+    rm -f "$opslag"
+}
+
+# Wine maakt van SIGINT Ctrl+C. De uitkomst is STATUS_CONTROL_C_EXIT, waar hier de laatste byte van overblijft.
+onderbroken=58
+
+# Vraagt een programma te stoppen tot het dat doet; een verzoek dat komt voor het begonnen is, gaat verloren.
+onderbreek() {
+    local status=0
+    wacht_op "$1 stopt niet" stopt "$2"
+    wait "$2" || status=$?
+    [ "$status" = "$onderbroken" ] || stop "$1 eindigt met $status"
+}
+
+stopt() {
+    kill -INT "$1" 2>/dev/null || return 0
+    sleep 0.2
+    ! kill -0 "$1" 2>/dev/null
+}
+
+keur_onderbreken() {
+    local map="$werk/onderbreken" nummer bestand heel=0
+    local knip=(wine "$windowsbouw/KnipselaarCli/knipselaar-cli.exe" --zonder-instellingen)
+    mkdir "$map"
+    for nummer in {1..1500}; do
+        cp "$hoofdmap/voorbeelden/ringbuffer.c" "$map/$nummer.c"
+    done
+    "${knip[@]}" --ter-plaatse "$map" >/dev/null 2>&1 &
+    wacht_op "er wordt niets geknipt" is_geknipt "$map/1.c"
+    onderbreek "een run ter plaatse" $!
+    "$linuxbouw/KnipselaarCli/knipselaar-cli" --zonder-instellingen "$map/1500.c" >"$werk/knipsel.c"
+    for bestand in "$map"/*.c; do
+        if cmp -s "$bestand" "$hoofdmap/voorbeelden/ringbuffer.c"; then
+            heel=$((heel + 1))
+        else
+            cmp "$bestand" "$werk/knipsel.c" || stop "onderbreken laat een half bestand achter"
+        fi
+    done
+    [ "$heel" -gt 0 ] || stop "de onderbreking kwam te laat"
+    [ -z "$(find "$map" -name '.Knipselaar*')" ] || stop "onderbreken laat een tijdelijk bestand achter"
 }
 
 # Alles op de schijf van wine en in het register van de gebruiker. Niet wat een Windows die al in gebruik is altijd
@@ -204,6 +285,10 @@ echo "Keuren onder wine: tests van de kern"
 stil "een test faalt onder wine" wine "$windowsbouw/tests/windows/kern_tests.exe"
 echo "Keuren onder wine: het consoleprogramma"
 keur_console
+keur_hoofdletters
+echo "Keuren onder wine: de tests van het consoleprogramma van buiten, een paar minuten"
+keur_cli_tests
+keur_onderbreken
 echo "Keuren onder wine: installeren, het venster, verwijderen"
 toestand >"$werk/voor"
 stil "het installatieprogramma lukt niet" wine "$pakketten"/knipselaar-*-setup.exe /S

@@ -26,6 +26,7 @@ class TekstLezer {
     explicit TekstLezer(wxInputStream& invoer);
     TekstLezer(const TekstLezer&) = delete;
     TekstLezer& operator=(const TekstLezer&) = delete;
+    ~TekstLezer() = default;
 
     /// De volgende hele regels; leeg aan het einde van de tekst. Geldig tot de volgende aanroep. Eindigt
     /// altijd, ook na een leesfout: dan eindigt de tekst daar.

@@ -59,8 +59,8 @@ TEST_F(CliBewijs, LetAlleenOpRegelsDieLangGenoegZijn) {
     schrijf("bron/a.c", "//**** Student Begin ****//\n  ééntweedri\n//**** Student Eind ****//\n");
     schrijf("bron/LEESMIJ", "ééntweedri\n");
     EXPECT_EQ(0, draai({"-r", "-p", "bron", "-n", "uit"}).status) << "precies tien tekens";
-    EXPECT_EQ(0, draai({"-r", "-p", "--bewijs-lengte", "10", "bron", "-n", "uit"}).status);
-    EXPECT_EQ(1, draai({"-r", "-p", "-L", "9", "bron", "-n", "uit"}).status);
+    EXPECT_EQ(0, draai({"-r", "-p", "--bewijs-lengte", "10", "bron", "-n", "tien"}).status);
+    EXPECT_EQ(1, draai({"-r", "-p", "-L", "9", "bron", "-n", "negen"}).status);
 }
 
 TEST_F(CliBewijs, LaatDeVervangtekstToe) {
@@ -72,8 +72,8 @@ TEST_F(CliBewijs, LaatDeVervangtekstToe) {
 TEST_F(CliBewijs, LeestEenBestandNa) {
     schrijf("a.c", opBron);
     EXPECT_EQ(goed(), draai({"-p", "a.c", "-u", "b.c"}));
-    EXPECT_EQ((Uitkomst{.status = 1, .uit = {}, .fout = "b.c:2: fout: er staat nog een markerregel\n"}),
-              draai({"-p", "-v", "//**** Student Begin ****//", "a.c", "-u", "b.c"}));
+    EXPECT_EQ((Uitkomst{.status = 1, .uit = {}, .fout = "c.c:2: fout: er staat nog een markerregel\n"}),
+              draai({"-p", "-v", "//**** Student Begin ****//", "a.c", "-u", "c.c"}));
 }
 
 TEST_F(CliBewijs, LeestTerPlaatseDeHeleBoomNa) {

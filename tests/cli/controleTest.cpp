@@ -35,6 +35,7 @@ TEST_P(CliControles, MeldtWatErAanDeMarkersSchort) {
         EXPECT_EQ(inOrde, bestaat("uit")) << "alleen een bestand zonder fout wordt geschreven";
         EXPECT_EQ(verwacht, toon(draai({manier, "-f", "-t", "in"})));
         EXPECT_TRUE(inOrde || lees("in") == inhoud);
+        fs::remove(map_ / "uit");
         schrijf("in", inhoud);
     }
 }

@@ -10,6 +10,7 @@ namespace fs = std::filesystem;
 
 using namespace std::string_literals;
 
+using proef::alsVenster;
 using proef::goed;
 using proef::Uitkomst;
 using proef::zonderBlok;
@@ -141,18 +142,19 @@ TEST_F(CliGetrouw, SpringtInZoalsDeBeginmarker) {
 
 TEST_F(CliGetrouw, AlsVensterZetOmZoalsDeKern) {
     const proef::Woorden woorden{"-a", "-b", "BEGIN", "-e", "EIND", "-v", "X", "-"};
-    EXPECT_EQ(goed("\xC2\xA9\nX\n\n"), draai(woorden, {.invoer = "\xE0\x82\xA9\nBEGIN\nx\nEIND\n"}))
+    EXPECT_EQ(goed(alsVenster("\xC2\xA9\nX\n\n")),
+              draai(woorden, {.invoer = "\xE0\x82\xA9\nBEGIN\nx\nEIND\n"}))
         << "te lange vorm";
-    EXPECT_EQ(goed("é\nX\nÃ©\n\n"), draai(woorden, {.invoer = "é\nBEGIN\n\xE9\nEIND\né\n"}))
+    EXPECT_EQ(goed(alsVenster("é\nX\nÃ©\n\n")), draai(woorden, {.invoer = "é\nBEGIN\n\xE9\nEIND\né\n"}))
         << "vanaf de eerste byte die geen UTF-8 is";
-    EXPECT_EQ(goed("a\nX\n"), draai(woorden, {.invoer = "a\r\nBEGIN\r\nx\r\nEIND"}));
+    EXPECT_EQ(goed(alsVenster("a\nX\n")), draai(woorden, {.invoer = "a\r\nBEGIN\r\nx\r\nEIND"}));
     std::string lang;
     std::string verwacht;
     for (int i = 0; i < 100'000; ++i) {
         lang += "regel \xE9\r\n";
         verwacht += "regel é\n";
     }
-    EXPECT_TRUE(zonderBlok(verwacht + "\n") == draai(woorden, {.invoer = lang}));
+    EXPECT_TRUE(zonderBlok(alsVenster(verwacht + "\n")) == draai(woorden, {.invoer = lang}));
 }
 
 TEST_F(CliGetrouw, KniptTweeKeerHetzelfde) {
@@ -172,7 +174,7 @@ TEST_P(CliGevallen, AlsVensterIsWatDeKernErvanMaakt) {
     const Uitkomst uitkomst =
         draai({"--als-venster", "-b", begin, "-e", eind, "-v",
                leesOf("vervang", kern::standaardVervangtekst()), (geval / "in").string()});
-    const std::string verwacht = hulp::leesBestand(geval / "bestand");
+    const std::string verwacht = alsVenster(hulp::leesBestand(geval / "bestand"));
     if (begin.empty() || eind.empty()) {
         EXPECT_EQ(2, uitkomst.status) << "een lege marker past overal";
     } else if (uitkomst.status == 1) {

@@ -20,7 +20,7 @@ class CliHandleiding : public proef::Cli {
   protected:
     CliHandleiding() {
         fs::create_directory(alles_ / "bin");
-        fs::create_symlink(KNIPSELAAR_CLI, alles_ / "bin/knipselaar-cli");
+        fs::create_symlink(proef::geefProgramma(), alles_ / "bin/knipselaar-cli");
     }
 
     /// Het voorbeeld dat in de handleiding onder deze naam staat.

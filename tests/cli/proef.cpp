@@ -81,6 +81,26 @@ void PrintTo(const Uitkomst& uitkomst, std::ostream* uit) {
          << uitkomst.fout;
 }
 
+namespace {
+/// Wie een ander programma aanwijst, doet dat voor Windows.
+const char* geefWindowsprogramma() {
+    return getenv("KNIPSELAAR_CLI");
+}
+}  // namespace
+
+fs::path geefProgramma() {
+    const char* ander = geefWindowsprogramma();
+    return ander == nullptr ? KNIPSELAAR_CLI : ander;
+}
+
+std::string alsVenster(const std::string& tekst) {
+    std::string uit;
+    for (const char teken : tekst) {
+        uit += teken == '\n' && geefWindowsprogramma() != nullptr ? "\r\n" : std::string(1, teken);
+    }
+    return uit;
+}
+
 Cli::Cli() {
     for (const fs::path& pad : {map_, thuis_, tijdelijk_, alles_ / "kanalen"}) {
         fs::create_directory(pad);
@@ -130,7 +150,8 @@ pid_t Cli::start(const Woorden& woorden, const Start& hoe, int invoer, int uitvo
     const rlimit grens{.rlim_cur = hoe.grootsteBestand.value_or(RLIM_INFINITY),
                        .rlim_max = hoe.grootsteBestand.value_or(RLIM_INFINITY)};
     // Voor het inleveren van de rechten: het programma kan in een directory staan die alleen van root is.
-    const int programma = open(hoe.programma.c_str(), O_RDONLY | O_CLOEXEC);
+    // Het blijft open: van een script leest pas de shell.
+    const int programma = open(hoe.programma.c_str(), O_RDONLY);
     const bool klaar =
         programma >= 0 && dup2(invoer, STDIN_FILENO) >= 0 && dup2(uitvoer, STDOUT_FILENO) >= 0 &&
         dup2(foutkanaal, STDERR_FILENO) >= 0 && chdir(map_.c_str()) == 0 &&

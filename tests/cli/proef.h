@@ -29,11 +29,18 @@ struct Uitkomst {
 
 void PrintTo(const Uitkomst& uitkomst, std::ostream* uit);
 
+/// Een tekst zoals het programma hem met --als-venster schrijft: dat voor Windows met CR LF.
+std::string alsVenster(const std::string& tekst);
+
+/// Het gebouwde programma, of wat KNIPSELAAR_CLI in de omgeving aanwijst: een script dat het programma voor
+/// Windows met wine start.
+std::filesystem::path geefProgramma();
+
 /// Hoe een run gestart wordt.
 struct Start {
     std::string invoer = {};
     std::map<std::string, std::string> omgeving = {};
-    std::filesystem::path programma = KNIPSELAAR_CLI;
+    std::filesystem::path programma = geefProgramma();
     bool negeertOphangen = false;                       ///< zoals onder nohup
     bool gewoneGebruiker = false;                       ///< zonder de rechten van root
     std::optional<unsigned long> grootsteBestand = {};  ///< in bytes

@@ -74,6 +74,7 @@ Groot maakGroot(const std::string& regeleinde, const std::string& teken) {
     }
     // Na een losse CR komt er geen lege laatste regel.
     groot.venster += regeleinde == "\r" ? "" : "\n";
+    groot.venster = proef::alsVenster(groot.venster);
     return groot;
 }
 

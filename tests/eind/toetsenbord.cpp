@@ -5,10 +5,12 @@
 #include <wayland-client.h>
 
 #include <array>
+#include <cstdint>
 #include <cstdlib>
 #include <sstream>
 #include <stdexcept>
 #include <string_view>
+#include <utility>
 
 #include "tests/hulp/omgeving.h"
 

@@ -179,8 +179,9 @@ TEST_F(Stroom, LaatStaanWatIntussenBewaardIs) {
     const std::string bewaard = (boom_ / "d1/1.c").string();
     EXPECT_EQ(2, knip({}, {{"BEWAART", bewaard}}));
     const std::string verslag = hulp::leesBestand(map_ / "verslag");
-    EXPECT_NE(std::string::npos, verslag.find("knipselaar-cli: fout: " + bewaard +
-                                              ": blijft zoals het is: is intussen veranderd; knip het opnieuw\n"))
+    EXPECT_NE(std::string::npos,
+              verslag.find("knipselaar-cli: fout: " + bewaard +
+                           ": blijft zoals het is: is intussen veranderd; knip het opnieuw\n"))
         << verslag;
     na_["d1/1.c"] = voor_["d1/1.c"] + "erbij\n";
     EXPECT_EQ(na_, hulp::leesBoom(boom_));

@@ -43,6 +43,7 @@ int naarErrno(DWORD nummer) {
             return EMFILE;
         case ERROR_BROKEN_PIPE:
         case ERROR_NO_DATA:
+        case ERROR_PIPE_NOT_CONNECTED:
             return EPIPE;
         default:
             return 0;

@@ -36,8 +36,12 @@ std::string geefEchtPad(const std::string& pad, std::error_code& fout) {
     if (echt.empty()) {
         // Niet elk stuurprogramma van een schijf weet de weg terug. Tussen een boom en wat er bij het aflopen
         // in gevonden wordt liggen geen links; is het dat zelf ook niet, dan is het pad al echt.
-        fout = windows::geefFout();
-        echt = isLink(pad) ? std::wstring() : voluit;
+        const std::error_code reden = windows::geefFout();
+        if (isLink(pad)) {
+            fout = reden;
+            return {};
+        }
+        echt = voluit;
     }
     std::string smal = windows::maakSmal(windows::maakLeesbaar(std::move(echt)));
     std::replace(smal.begin(), smal.end(), '\\', '/');
