@@ -175,15 +175,17 @@ std::size_t neemMet(Bytes& uit, std::size_t hoogstens, const Neem& neem) {
 }
 
 /// Elke byte van ISO 8859-1 in UTF-8; die van ASCII hebben genoeg aan de eerste van de twee.
-constexpr auto latijn1Tekens = [] {
+constexpr std::array<std::array<char, 2>, 256> maakLatijn1Tekens() {
     std::array<std::array<char, 2>, 256> tekens{};
     for (std::size_t byte = 0; byte < tekens.size(); ++byte) {
-        tekens[byte] = byte < 0x80 ? std::array{static_cast<char>(byte), '\0'}
-                                   : std::array{static_cast<char>(0xC0U | (byte >> 6U)),
-                                                static_cast<char>(0x80U | (byte & 0x3FU))};
+        tekens.at(byte) = byte < 0x80 ? std::array{static_cast<char>(byte), '\0'}
+                                      : std::array{static_cast<char>(0xC0U | (byte >> 6U)),
+                                                   static_cast<char>(0x80U | (byte & 0x3FU))};
     }
     return tekens;
-}();
+}
+
+constexpr auto latijn1Tekens = maakLatijn1Tekens();
 
 /// Zet bytes in ISO 8859-1 om, zonder sprong: waar een accent staat is niet te voorspellen.
 /// @param doel  waar twee bytes passen voor elke byte.
