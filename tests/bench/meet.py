@@ -18,6 +18,8 @@ BOUW = pathlib.Path(sys.argv[1])
 RONDEN = int(sys.argv[2]) if len(sys.argv) > 2 else 9
 KNIP = str(BOUW / "tests/bench/knipmeter")
 VENSTER = str(BOUW / "tests/bench/venstermeter")
+VLOER = str(BOUW / "tests/bench/vloermeter")
+ZONDER_VAST = str(BOUW / "tests/bench/libzonder_vast.so")
 CLI = [str(BOUW / "KnipselaarCli/knipselaar-cli"), "--zonder-instellingen"]
 BEGIN, EIND = "//**** Student Begin ****//", "//**** Student Eind ****//"
 VERVANG = '#error "Dit stuk software ontbreekt."\\\n/* Beste student,\\\n    Werk dit uit.  */'
@@ -280,6 +282,23 @@ def meet_directories_op(schijf, werk):
         "perl": lambda: voer_uit(*alle, "perl", "-i", "-ne", f"BEGIN{{$r=qq(#error\n)}} {PERL}", "{}", "+"),
         "cli": lambda: voer_uit(*CLI, "--stil", "--recursief", "--ter-plaatse", boom),
         "window": lambda: venster("boom", boom)}, verse_boom), "engine 0.95; window 1.2; cli 0.7")
+
+    def verse_takken():
+        schijf.vernieuw()
+        for i, (naam, tekst) in enumerate(teksten.items()):
+            tak = boom / f"tak{i % 20}"
+            tak.mkdir(parents=True, exist_ok=True)
+            (tak / naam).write_text(tekst)
+        os.sync()
+
+    ter_plaatse = [*CLI, "--stil", "--recursief", "--ter-plaatse", str(boom)]
+    rij("the same in 20 directories", meet({
+        "sed": lambda: voer_uit(*alle, *sed_i, "{}", "+"),
+        "cli": lambda: voer_uit(*ter_plaatse),
+        "floor: only open, read, make, write, set the mode, rename": lambda: voer_uit(VLOER, boom),
+        "cli, one thread, not waiting for the disk": lambda: subprocess.run(
+            [*ter_plaatse, "--taken", "1"], check=True, env=dict(omgeving, LD_PRELOAD=ZONDER_VAST))},
+        verse_takken), "cli 0.6; its last column 1.25 × floor")
 
 
 def meet_editor(werk):

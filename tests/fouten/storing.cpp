@@ -11,7 +11,6 @@
 // daarvandaan laat niets zich hernoemen. Dat telt niet als storing.
 
 #include <dirent.h>
-#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -19,12 +18,15 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
 
+#include "tests/fouten/tussen.h"
+
 namespace {
+
+using fouten::zoek;
 
 // Zonder constructor en destructor: de aanroepen beginnen voor en eindigen na die van dit bestand.
 struct Stand {
@@ -96,20 +98,6 @@ bool moetMislukken(bool gevolgd, std::string_view aanroep) {
     return gevolgd && tel(aanroep) == Ingreep::fout;
 }
 
-template <typename Functie>
-Functie* zoek(const char* naam) {
-    return reinterpret_cast<Functie*>(dlsym(RTLD_NEXT, naam));
-}
-
-int doeOpen(const char* naam, const char* pad, int vlaggen, va_list rest) {
-    const mode_t rechten = (vlaggen & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
-    if (moetMislukken(isGevolgd(pad), "open")) {
-        return -1;
-    }
-    const int bestand = zoek<int(const char*, int, ...)>(naam)(pad, vlaggen, rechten);
-    return isGevolgd(pad) ? volg(bestand) : bestand;
-}
-
 int doeMkstemp(const char* naam, char* sjabloon) {
     if (moetMislukken(isGevolgd(sjabloon), "mkstemp")) {
         return -1;
@@ -140,23 +128,19 @@ ssize_t verplaats(const char* naam, int bestand, Bytes* bytes, std::size_t aanta
 
 }  // namespace
 
+namespace fouten {
+
+int doeOpen(const char* naam, const char* pad, int vlaggen, mode_t rechten) {
+    if (moetMislukken(isGevolgd(pad), "open")) {
+        return -1;
+    }
+    const int bestand = openEcht(naam, pad, vlaggen, rechten);
+    return isGevolgd(pad) ? volg(bestand) : bestand;
+}
+
+}  // namespace fouten
+
 extern "C" {
-
-int open(const char* pad, int vlaggen, ...) {
-    va_list rest;
-    va_start(rest, vlaggen);
-    const int bestand = doeOpen("open", pad, vlaggen, rest);
-    va_end(rest);
-    return bestand;
-}
-
-int open64(const char* pad, int vlaggen, ...) {
-    va_list rest;
-    va_start(rest, vlaggen);
-    const int bestand = doeOpen("open64", pad, vlaggen, rest);
-    va_end(rest);
-    return bestand;
-}
 
 int mkstemp(char* sjabloon) {
     return doeMkstemp("mkstemp", sjabloon);
