@@ -462,3 +462,12 @@ TEST_F(CliUitvoer, MeldtWatEenBestandVanEenCollegaTerPlaatseNietHoudt) {
     EXPECT_EQ(0644U, geefRechten("vreemd.c")) << "een andere groep mag niet meer dan iedereen";
     EXPECT_EQ(knipselX, lees("vreemd.c"));
 }
+
+TEST_F(CliUitvoer, ZetTerPlaatseOokEenBestandZonderBlokOmZoalsHetVenster) {
+    schrijf("a.c", "\xE9\r\n");
+    EXPECT_EQ(proef::zonderBlok("1 bestand geknipt, 0 blokken\n"), draai({"-a", "-t", "a.c"}));
+    EXPECT_EQ(proef::alsVenster("é\n\n"), lees("a.c"));
+    schrijf("a.c", "\xE9\r\n");
+    EXPECT_EQ(proef::zonderBlok("0 bestanden geknipt, 0 blokken, 1 zonder blok\n"), draai({"-t", "a.c"}));
+    EXPECT_EQ("\xE9\r\n", lees("a.c"));
+}
