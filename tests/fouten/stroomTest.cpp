@@ -120,6 +120,8 @@ class Stroom : public testing::Test {
             na_[naam] = kop + "WERK\n";
         }
         hulp::maakBoom(boom_, voor_);
+        // LD_PRELOAD is een lijst: een pad met een spatie erin zou als twee gelden.
+        fs::create_symlink(OPNAME, map_ / "opname.so");
     }
 
     /// Knipt de boom en geeft de afloop.
@@ -127,7 +129,7 @@ class Stroom : public testing::Test {
         fouten::Proces::Woorden woorden{KNIPSELAAR_CLI, "-z",   "-b", "BEGIN", "-e", "EIND",
                                         "-v",           "WERK", "-r", "-t",    boom_};
         woorden.insert(woorden.end(), opties.begin(), opties.end());
-        omgeving.insert({{"LD_PRELOAD", OPNAME},
+        omgeving.insert({{"LD_PRELOAD", map_ / "opname.so"},
                          {"OPNAME", map_ / "opname"},
                          {"OPNAME_VAN", boom_},
                          {"LLVM_PROFILE_FILE", "/dev/null"},
