@@ -95,7 +95,8 @@ void Melder::meldVoortgang(std::size_t gedaan, std::size_t totaal) {
     }
     getoond_ = nu;
     zichtbaar_ = true;
-    std::string regel = "\r" + std::to_string(gedaan) + "/" + std::to_string(totaal) + " bestanden";
+    std::string regel = "\r";
+    regel += std::to_string(gedaan) + "/" + std::to_string(totaal) + " bestanden";
     if (kanSchatten(gedaan, totaal)) {
         const auto nog = (nu - begin_) * (totaal - gedaan) / gedaan;
         regel += ", nog " + noemDuur(std::chrono::ceil<std::chrono::seconds>(nog));
