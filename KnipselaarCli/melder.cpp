@@ -55,8 +55,12 @@ Melder::Melder(bool stil)
     : stil_(stil), kleur_(magKleur()), voortgang_(!stil && kern::isTerminal(kern::foutkanaal)) {}
 
 void Melder::meld(std::string_view pad, const Melding& melding) {
-    const std::string regel = melding.regel == 0 ? std::string() : ":" + std::to_string(melding.regel);
-    schrijfMelding(std::string(pad) + regel, melding.ernst, melding.tekst);
+    std::string plaats(pad);
+    if (melding.regel > 0) {
+        plaats += ':';
+        plaats += std::to_string(melding.regel);
+    }
+    schrijfMelding(plaats, melding.ernst, melding.tekst);
 }
 
 void Melder::meldRun(std::string_view tekst, Ernst ernst) {
