@@ -152,3 +152,12 @@ TEST(MarkerMasker, WeetOfElkeRegelPast) {
         EXPECT_FALSE(MarkerMasker(marker).pastOpElkeRegel()) << marker;
     }
 }
+
+TEST(MarkerMasker, GeeftWatErOmDeMarkerHeenStaat) {
+    using Omheen = std::pair<std::string_view, std::string_view>;
+    const MarkerMasker marker("//**** Student Begin ****//");
+    EXPECT_EQ((Omheen{"int a; ", " int b;"}), marker.geefOmheen("int a; //**** Student Begin ****// int b;"));
+    EXPECT_EQ((Omheen{"", ""}), marker.geefOmheen("// Student Begin //"));
+    EXPECT_EQ((Omheen{"a ", " b"}), marker.geefOmheen("a // Student Begin // en // b"));
+    EXPECT_EQ((Omheen{"", ""}), MarkerMasker("?*").geefOmheen("a b"));
+}

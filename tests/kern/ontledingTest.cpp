@@ -160,6 +160,19 @@ TEST(Ontleding, HeeftDeMarkerVanHetEnePaarNietVoorBijnaDieVanHetAndere) {
     EXPECT_EQ(toon({{7, Soort::bijnaBegin}}), toon(ontleder.maakAf().lijst));
 }
 
+TEST(Ontleding, VindtZonderParenNiets) {
+    const kern::MarkerReeks leeg;
+    EXPECT_FALSE(leeg.draagtMarker("B"));
+    EXPECT_FALSE(leeg.lijktOpMarker("B").has_value());
+    EXPECT_FALSE(kern::Markerloper(leeg, "B\n").volgende().has_value());
+}
+
+TEST(Ontleding, RekentEenMarkerDieOpElkeRegelPastNietAlsGedragen) {
+    const kern::MarkerReeks reeks({{.begin = kern::MarkerMasker("*"), .eind = kern::MarkerMasker("E")}});
+    EXPECT_FALSE(reeks.draagtMarker("x"));
+    EXPECT_TRUE(reeks.draagtMarker("x E"));
+}
+
 TEST(Ontleding, BewaartHoogstensZoveelEnTeltDeRest) {
     const KnipMal mal({"B", "E", "V"});
     Ontleder ontleder(

@@ -42,6 +42,27 @@ class Systeem : public testing::Test {
 
 }  // namespace
 
+TEST(Kenmerken, ZienElkeVeranderingVanEenBestand) {
+    using kern::Kenmerken;
+    const Kenmerken voor{.schijf = 1, .nummer = 2, .lengte = 3, .seconden = 4, .nanoseconden = 5};
+    EXPECT_TRUE(voor.isOngewijzigd(voor));
+    Kenmerken na = voor;
+    na.rechten = fs::perms::all;
+    EXPECT_TRUE(na.isOngewijzigd(voor)) << "de inhoud is dezelfde";
+    na = voor;
+    na.nummer = 9;
+    EXPECT_FALSE(na.isOngewijzigd(voor));
+    na = voor;
+    na.lengte = 9;
+    EXPECT_FALSE(na.isOngewijzigd(voor));
+    na = voor;
+    na.seconden = 9;
+    EXPECT_FALSE(na.isOngewijzigd(voor));
+    na = voor;
+    na.nanoseconden = 9;
+    EXPECT_FALSE(na.isOngewijzigd(voor));
+}
+
 TEST_F(Systeem, KentDeKenmerkenVanWatErStaat) {
     kern::Kenmerken bestand;
     EXPECT_FALSE(kern::leesKenmerken(geef("a.c"), bestand));

@@ -285,6 +285,15 @@ TEST(Utf8, TeltKorteTekens) {
     }
 }
 
+TEST(Utf8, TeltNietVerderDanEenHalfTekenWaarGewoneTekensOpVolgen) {
+    for (std::size_t plek = 0; plek < 40; ++plek) {
+        const std::string begin = "\xC3\xA9" + std::string(plek, 'a');
+        const std::string bytes = begin + "\xC3" + std::string(40, 'b');
+        EXPECT_EQ(begin.size(), kern::telKorteTekens(bytes));
+        EXPECT_EQ(begin.size(), kern::telKorteTekens(bytes, kern::CrLf::teltMee));
+    }
+}
+
 TEST(Utf8, TeltEenCrLfTussenKorteTekensAlleenMeeAlsDatGevraagdIs) {
     for (std::size_t plek = 0; plek < 40; ++plek) {
         const std::string begin = std::string(plek, 'a') + "\xC3\xA9";

@@ -41,10 +41,7 @@ struct Kenmerken {
     }
 
     /// Of het nog hetzelfde bestand is, en niemand er intussen in schreef.
-    bool isOngewijzigd(const Kenmerken& eerder) const {
-        return isZelfdePlaats(eerder) && lengte == eerder.lengte && seconden == eerder.seconden &&
-               nanoseconden == eerder.nanoseconden;
-    }
+    bool isOngewijzigd(const Kenmerken& eerder) const;
 };
 
 /// Van wat er op een pad staat; een link wordt gevolgd. Mislukt ook bij een link die nergens heen wijst.

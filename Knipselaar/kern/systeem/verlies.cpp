@@ -4,6 +4,10 @@
 
 namespace kern {
 
+bool Verlies::isEr() const {
+    return eigenaar || groep || toegangslijst || kenmerken;
+}
+
 std::string noemVerlies(const Verlies& verlies) {
     std::vector<std::string> namen;
     const auto voegToe = [&namen](bool kwijt, const char* naam) {

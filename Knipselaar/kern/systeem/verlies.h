@@ -12,7 +12,7 @@ struct Verlies {
     bool toegangslijst = false;
     bool kenmerken = false;  ///< wat een gebruiker of een programma bij het bestand aangetekend had
 
-    bool isEr() const { return eigenaar || groep || toegangslijst || kenmerken; }
+    bool isEr() const;
 };
 
 /// In het Nederlands: "kon eigenaar en groep niet houden". Leeg als er niets verloren ging.

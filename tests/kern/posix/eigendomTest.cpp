@@ -98,7 +98,10 @@ TEST_P(Eigendom, HoudtDeToegangslijstEnDeAantekeningen) {
         GTEST_SKIP() << "dit bestandssysteem bewaart ze niet";
     }
     ASSERT_EQ(0660U, geefRechten()) << "voor de groep staat daar het meeste dat wie genoemd is mag";
+    // Die kan alleen root zetten.
+    const bool vanHetSysteem = tekenAan(oud_, "trusted.vak", "x");
     EXPECT_FALSE(vervang().isEr());
+    EXPECT_TRUE(!vanHetSysteem || leesAantekening(oud_, "trusted.vak") == "geen");
     EXPECT_EQ(maakLijst(), leesAantekening(oud_, lijst));
     EXPECT_EQ("digitaal ontwerpen", leesAantekening(oud_, "user.vak"));
     EXPECT_EQ(0660U, geefRechten());
@@ -135,12 +138,30 @@ TEST_P(EigendomVanEenAnder, GaatZonderDeGroepAlleenMetWatIedereenMag) {
     EXPECT_EQ(metLijst ? 0600U : 0644U, geefRechten());
 }
 
+TEST_P(EigendomVanEenAnder, HoudtDeEigenaarOokAlsDeGroepNietKan) {
+    constexpr uid_t ik = 65534;
+    chmod(oud_.c_str(), 04750);
+    if (geteuid() != 0 || chown(oud_.c_str(), ik, collega) != 0 || chmod(oud_.c_str(), 04750) != 0 ||
+        seteuid(ik) != 0) {
+        GTEST_SKIP() << "alleen root kan een bestand van een ander maken";
+    }
+    const Verlies verlies = vervang();
+    ASSERT_EQ(0, seteuid(0));
+    EXPECT_EQ("kon groep niet houden", kern::noemVerlies(verlies));
+    EXPECT_EQ(0700U, geefRechten()) << "de bijzondere rechten golden met die groep erbij";
+}
+
 INSTANTIATE_TEST_SUITE_P(Ernaast, EigendomVanEenAnder, testing::Values(false),
                          [](const auto&) { return std::string("Ernaast"); });
 
 TEST(Verlies, WordtInWoordenGenoemd) {
     EXPECT_EQ("", kern::noemVerlies({}));
     EXPECT_EQ("kon groep niet houden", kern::noemVerlies({.groep = true}));
+    EXPECT_FALSE(Verlies().isEr());
+    for (const Verlies& verlies : {Verlies{.eigenaar = true}, Verlies{.groep = true},
+                                   Verlies{.toegangslijst = true}, Verlies{.kenmerken = true}}) {
+        EXPECT_TRUE(verlies.isEr());
+    }
     EXPECT_EQ("kon eigenaar, groep, toegangslijst en kenmerken niet houden",
               kern::noemVerlies({.eigenaar = true, .groep = true, .toegangslijst = true, .kenmerken = true}));
 }
