@@ -292,6 +292,9 @@ TEST(Utf8, TeltNietVerderDanEenHalfTekenWaarGewoneTekensOpVolgen) {
         EXPECT_EQ(begin.size(), kern::telKorteTekens(bytes));
         EXPECT_EQ(begin.size(), kern::telKorteTekens(bytes, kern::CrLf::teltMee));
     }
+    const std::string heel = "\xC3\xA9" + std::string(200, 'a');
+    EXPECT_EQ(heel.size(), kern::telKorteTekens(heel));
+    EXPECT_EQ(heel.size(), kern::telKorteTekens(heel, kern::CrLf::teltMee));
 }
 
 TEST(Utf8, TeltEenCrLfTussenKorteTekensAlleenMeeAlsDatGevraagdIs) {
