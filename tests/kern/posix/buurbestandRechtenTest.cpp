@@ -53,7 +53,7 @@ TEST_F(BuurbestandRechten, NeemtVanEenVreemdeEigenaarGeenBijzondereRechtenOver) 
     Buurbestand nieuw(doel_.string());
     Kenmerken van = geefKenmerken(nieuw);
     van.eigenaar = 0;
-    van.groep = 0;
+    van.groep = getegid();
     van.rechten = alleRechten;
     constexpr uid_t niemand = 65534;
     const bool isRoot = geteuid() == 0;
