@@ -92,24 +92,31 @@ BijnaZoeker::BijnaZoeker(std::vector<BijnaMarker> markers) : markers_(std::move(
         }
         for (unsigned byte = 0; byte < kanBegin_.size(); ++byte) {
             const char teken = static_cast<char>(byte);
-            kanBegin_.at(byte) =
-                kanBegin_.at(byte) || !isAscii(teken) || maakKlein(teken) == hoofdzaak.front();
+            const bool kan = !isAscii(teken);
+            const bool begint = teken != '\n' && maakKlein(teken) == hoofdzaak.front();
+            kanBegin_.at(byte) = kanBegin_.at(byte) || kan || begint;
+            const bool volgt = hoofdzaak.size() == 1
+                                   ? teken == '\n'
+                                   : maakKlein(teken) == hoofdzaak[1] || !isAscii(hoofdzaak[1]);
+            kanVolgen_.at(byte) = kanVolgen_.at(byte) || kan || isBijzaak(teken) || volgt;
         }
     }
 }
 
 std::optional<Regel> BijnaZoeker::zoekRegel(std::string_view regels, std::size_t vanaf) const {
-    for (std::size_t begin = vanaf; begin < regels.size();) {
+    const std::size_t voorbij = regels.rfind('\n') + 1;  // nul als er geen hele regel is
+    for (std::size_t begin = vanaf; begin < voorbij;) {
         std::size_t plek = begin;
-        while (plek < regels.size() && isBijzaak(regels[plek])) {
+        // Een regeleinde is geen bijzaak.
+        while (isBijzaak(regels[plek])) {
             ++plek;
         }
+        // Twee tekens zeggen van bijna elke regel dat zij op geen marker lijkt. Staat er één, dan is het
+        // tweede haar regeleinde.
+        const bool kan = kanBegin_[static_cast<unsigned char>(regels[plek])] &&
+                         kanVolgen_[static_cast<unsigned char>(regels[plek + 1])];
         const std::size_t einde = regels.find('\n', plek);
-        if (einde == std::string_view::npos) {
-            break;
-        }
-        if (kanBegin_[static_cast<unsigned char>(regels[plek])] &&
-            geefMarker(regels.substr(begin, einde - begin))) {
+        if (kan && geefMarker(regels.substr(begin, einde - begin))) {
             return Regel{begin, einde + 1};
         }
         begin = einde + 1;

@@ -47,7 +47,8 @@ class BijnaZoeker {
 
   private:
     std::vector<BijnaMarker> markers_;
-    std::array<bool, 256> kanBegin_{};  ///< met welke bytes het eerste teken dat telt kan beginnen
+    std::array<bool, 256> kanBegin_{};   ///< met welke bytes het eerste teken dat telt kan beginnen
+    std::array<bool, 256> kanVolgen_{};  ///< en welke bytes daar meteen achter kunnen staan
 };
 
 }  // namespace kern

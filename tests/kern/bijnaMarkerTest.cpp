@@ -62,3 +62,15 @@ TEST(BijnaZoeker, VindtDeEersteRegelVanafEenPlaats) {
     EXPECT_EQ(1U, zoeker.geefMarker("eind"));
     EXPECT_FALSE(zoeker.geefMarker("begin eind"));
 }
+
+TEST(BijnaZoeker, VindtElkeSchrijfwijze) {
+    const BijnaZoeker zoeker({BijnaMarker(standaard), BijnaMarker("B")});
+    for (const std::string regel :
+         {"STUDENTBEGIN", "S tudent begin", "  s*t/u-d#e n\tt\v\f\rbegin", "s\u00A0tudent begin",
+          "\u00A0student begin", "b", "#B", "b*", "b\u00A0"}) {
+        EXPECT_TRUE(zoeker.zoekRegel("x\n" + regel + "\n", 0)) << regel;
+    }
+    for (const std::string regel : {"", "s", "som", "stop", "bb", "bé", "/*"}) {
+        EXPECT_FALSE(zoeker.zoekRegel("x\n" + regel + "\n", 0)) << regel;
+    }
+}
