@@ -176,7 +176,7 @@ std::string Klaargezet::geefDirectory() const {
     return echt_.substr(0, echt_.size() - kern::geefNaam(echt_).size());
 }
 
-void Klaargezet::vervang() {
+void Klaargezet::keur() const {
     kern::Kenmerken nu;
     if (const auto fout = kern::leesEigenKenmerken(echt_, nu)) {
         gooi(pad_, "vervangen", fout);
@@ -185,6 +185,10 @@ void Klaargezet::vervang() {
     if (!nu.isOngewijzigd(gelezen_)) {
         throw Fout(pad_ + ": blijft zoals het is: is intussen veranderd; knip het opnieuw");
     }
+}
+
+void Klaargezet::vervang() {
+    keur();
     if (const auto fout = nieuw_.neemPlaatsIn()) {
         gooi(pad_, "vervangen", fout);
     }

@@ -65,6 +65,9 @@ class Klaargezet {
     std::uint64_t geefSchijf() const { return gelezen_.schijf; }
     std::string geefDirectory() const;
 
+    /// Gooit Fout als het bestand intussen veranderd is.
+    void keur() const;
+
     /// Neemt de plaats van het bestand in. Gooit Fout als dat niet lukt, of als het bestand intussen
     /// veranderd is.
     void vervang();

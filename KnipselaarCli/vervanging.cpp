@@ -11,7 +11,9 @@ namespace cli {
 namespace {
 
 bool isMislukt(const Uitslag& uitslag) {
-    return uitslag.status == Status::mislukt || uitslag.status == Status::tegengehouden;
+    return uitslag.status == Status::mislukt || uitslag.status == Status::tegengehouden ||
+           std::any_of(uitslag.meldingen.begin(), uitslag.meldingen.end(),
+                       [](const Melding& melding) { return melding.ernst == Ernst::fout; });
 }
 
 /// De reden als er een bestandssysteem niet vast te zetten is.
@@ -36,30 +38,39 @@ void laatAlles(std::vector<Uitslag>& uitslagen) {
     }
 }
 
-void vervang(Uitslag& uitslag) {
+/// Doet iets met wat klaargezet is; lukt dat niet, dan is het daarmee mislukt.
+template <typename Doe>
+void probeer(Uitslag& uitslag, const Doe& doe) {
+    if (!uitslag.klaar) {
+        return;
+    }
     try {
-        uitslag.klaar->vervang();
+        doe(*uitslag.klaar);
     } catch (const Fout& fout) {
         uitslag.status = Status::mislukt;
         uitslag.storing = fout.what();
+        uitslag.klaar.reset();
     }
-    uitslag.klaar.reset();
 }
 
 }  // namespace
 
 std::string vervangAlles(std::vector<Uitslag>& uitslagen, bool allesOfNiets) {
-    if (allesOfNiets && std::any_of(uitslagen.begin(), uitslagen.end(), isMislukt)) {
-        laatAlles(uitslagen);
-        return "er ging iets mis; geen enkel bestand is veranderd";
-    }
     if (const auto fout = zetAllesVast(uitslagen)) {
         throw Fout("geen enkel bestand is veranderd: de schijf legt niets vast: " + noemReden(fout));
     }
-    for (Uitslag& uitslag : uitslagen) {
-        if (uitslag.klaar) {
-            vervang(uitslag);
+    if (allesOfNiets) {
+        for (Uitslag& uitslag : uitslagen) {
+            probeer(uitslag, [](const Klaargezet& klaar) { klaar.keur(); });
         }
+        if (std::any_of(uitslagen.begin(), uitslagen.end(), isMislukt)) {
+            laatAlles(uitslagen);
+            return "er ging iets mis; geen enkel bestand is veranderd";
+        }
+    }
+    for (Uitslag& uitslag : uitslagen) {
+        probeer(uitslag, [](Klaargezet& klaar) { klaar.vervang(); });
+        uitslag.klaar.reset();
     }
     return {};
 }

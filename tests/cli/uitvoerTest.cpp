@@ -449,6 +449,8 @@ TEST_F(CliUitvoer, MeldtWatEenBestandVanEenCollegaTerPlaatseNietHoudt) {
         ASSERT_EQ(0, chown((map_ / naam).c_str(), collega, groep));
         ASSERT_EQ(0, chmod((map_ / naam).c_str(), 0664));
     }
+    EXPECT_EQ(1, draai({"-s", "--alles-of-niets", "-t", "groep.c"}, {.gewoneGebruiker = true}).status);
+    EXPECT_EQ(bron, lees("groep.c")) << "dan is het verlies een fout";
     EXPECT_EQ((Uitkomst{.status = 0,
                         .uit = "2 bestanden geknipt, 2 blokken, 2 waarschuwingen\n",
                         .fout = "groep.c: waarschuwing: kon eigenaar niet houden\n"

@@ -189,6 +189,12 @@ TEST_F(Stroom, LaatStaanWatIntussenBewaardIs) {
     EXPECT_EQ(na_, hulp::leesBoom(boom_));
 }
 
+TEST_F(Stroom, VerandertOokNietsAlsErIntussenIetsBewaardIsEnDatGevraagdIs) {
+    EXPECT_EQ(2, knip({"--alles-of-niets"}, {{"BEWAART", (boom_ / "d1/1.c").string()}}));
+    voor_["d1/1.c"] += "erbij\n";
+    EXPECT_EQ(voor_, hulp::leesBoom(boom_));
+}
+
 TEST_F(Stroom, VerandertNietsAlsErIetsMisgaatEnDatGevraagdIs) {
     voor_["d0/fout.c"] = "BEGIN\n";
     na_["d0/fout.c"] = "BEGIN\n";
