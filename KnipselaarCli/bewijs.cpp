@@ -11,37 +11,14 @@
 #include "KnipselaarCli/boom.h"
 #include "KnipselaarCli/fout.h"
 #include "KnipselaarCli/links.h"
+#include "KnipselaarCli/regels.h"
 
 namespace cli {
 
 namespace {
 
-std::string_view snoei(std::string_view regel) {
-    constexpr std::string_view blanco = " \t\v\f\r";
-    const std::size_t begin = regel.find_first_not_of(blanco);
-    return begin == std::string_view::npos ? std::string_view()
-                                           : regel.substr(begin, regel.find_last_not_of(blanco) - begin + 1);
-}
-
-/// Het aantal tekens van een tekst in UTF-8.
-std::size_t telTekens(std::string_view tekst) {
-    return static_cast<std::size_t>(std::count_if(tekst.begin(), tekst.end(), [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-    }));
-}
-
 Regelmerk maakMerk(std::string_view regel) {
     return std::hash<std::string_view>()(regel);
-}
-
-/// Roept iets aan met het nummer en de inhoud van elke regel, zonder haar regeleinde.
-template <typename Doe>
-void loopRegelsAf(std::string_view tekst, const Doe& doe) {
-    for (std::size_t nummer = 1; !tekst.empty(); ++nummer) {
-        const std::size_t einde = std::min(tekst.find('\n'), tekst.size());
-        doe(nummer, tekst.substr(0, einde));
-        tekst.remove_prefix(std::min(einde + 1, tekst.size()));
-    }
 }
 
 /// Geeft de regels van een brontekst zoals de kern ze leest. Wat nog rauw is wordt regel voor regel omgezet:

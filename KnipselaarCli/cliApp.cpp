@@ -7,6 +7,8 @@
 #include "Knipselaar/kern/systeem/onderbreking.h"
 #include "KnipselaarCli/fout.h"
 #include "KnipselaarCli/melder.h"
+#include "KnipselaarCli/opdrachtregel.h"
+#include "KnipselaarCli/optielijst.h"
 #include "KnipselaarCli/opties.h"
 #include "KnipselaarCli/plan.h"
 #include "KnipselaarCli/ploeg.h"
@@ -176,7 +178,7 @@ class Run {
     Teksten teksten_;
     Plan plan_;
     Verslag verslag_{opties_};
-    Bewijs bewijs_{teksten_.markers, opties_.bewijsLengte};
+    Bewijs bewijs_{teksten_.markers, opties_.bewijsLengte.value_or(standaardBewijsLengte)};
 };
 
 /// Wat een hele run tegenhield. Wie om JSON vroeg krijgt ook dan een verslag.

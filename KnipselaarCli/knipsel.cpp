@@ -5,6 +5,7 @@
 
 #include "Knipselaar/kern/regelOmzetter.h"
 #include "Knipselaar/kern/regeleinden.h"
+#include "KnipselaarCli/regels.h"
 
 namespace cli {
 
@@ -25,11 +26,6 @@ std::string zetRegels(std::string_view vervanging, std::string_view inspringing,
         vervanging.remove_prefix(einde == std::string_view::npos ? vervanging.size() : einde + 1);
     }
     return uit;
-}
-
-/// De blanco tekens waarmee een regel begint.
-std::string_view geefInspringing(std::string_view regel) {
-    return regel.substr(0, std::min(regel.find_first_not_of(" \t"), regel.size()));
 }
 
 }  // namespace

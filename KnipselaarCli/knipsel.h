@@ -3,6 +3,7 @@
 // Wat er na het knippen van een bestand overblijft, als een rij stukken bytes: wat blijft staat nog in de
 // brontekst, wat ervoor in de plaats komt bezit het knipsel zelf.
 
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <string>
@@ -17,6 +18,9 @@ namespace cli {
 /// Getrouw: buiten de blokken blijft elke byte staan. Venster: zoals het venster het doet, in UTF-8 met LF en
 /// een regeleinde achter de laatste regel.
 enum class Manier { getrouw, venster };
+
+/// Voor wie het knipsel is. De oplossing is alleen de markers kwijt, en wat er alleen voor de student staat.
+enum class Versie : std::uint8_t { student, oplossing };
 
 struct KnipWens {
     Manier manier = Manier::getrouw;

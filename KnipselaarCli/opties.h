@@ -2,10 +2,8 @@
 
 // Wat de gebruiker op de opdrachtregel vroeg. Namen van bestanden en teksten zijn de bytes die de shell gaf.
 
-#include <array>
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -21,6 +19,9 @@ enum class Opdracht : std::uint8_t { knip, controle, droog, verschil, help, vers
 /// venster niets; hier neemt zij wat haar naam zegt.
 enum class Bestandskeuze : std::uint8_t { talen, vhdl, alles };
 
+/// Regels van meer dan zoveel tekens tellen voor een bewijs.
+inline constexpr std::size_t standaardBewijsLengte = 10;
+
 struct Opties {
     Opdracht opdracht = Opdracht::knip;
     std::vector<std::string> bronnen;
@@ -31,8 +32,10 @@ struct Opties {
     bool allesOfNiets = false;
     bool recursief = false;
     bool overschrijf = false;
+    bool spiegel = false;
 
     std::vector<std::string> maskers;
+    std::vector<std::string> weglaten;
     std::optional<Bestandskeuze> keuze;  ///< standaard talen
     bool verborgen = false;
     bool versiebeheer = false;
@@ -41,13 +44,24 @@ struct Opties {
     std::optional<Taal> taal;
     Manier manier = Manier::getrouw;
     bool inspringen = false;
+    bool regelsGelijk = false;
+    Versie versie = Versie::student;
+    std::vector<std::size_t> houd;  ///< nummers van markerparen, vanaf 1
+    std::vector<std::string> geef;  ///< waarmee een regel begint die in een blok voor de student is
 
     bool streng = false;
+    std::size_t minstens = 0;  ///< zoveel blokken moeten er zijn
     bool bewijs = false;
+    std::optional<std::size_t> bewijsLengte;  ///< standaard standaardBewijsLengte
+    std::vector<std::string> toegestaan;  ///< regels die in de bestemming mogen staan, zonder blanco tekens
+                                          ///< eromheen; op volgorde
+    std::optional<std::string> probeer;
+
     bool stil = false;
     bool json = false;
-    std::size_t bewijsLengte = 10;
     std::size_t taken = 0;  ///< bestanden tegelijk; 0 is wat de machine aankan
+    std::optional<std::string> afhankelijk;
+    std::vector<std::string> gelezen;  ///< bestanden die voor deze opties gelezen zijn
 
     /// Of er iets geschreven mag worden.
     bool schrijft() const { return opdracht == Opdracht::knip; }
@@ -56,24 +70,8 @@ struct Opties {
     bool naarUitvoer() const { return schrijft() && !uit && !naar && !terPlaatse; }
 };
 
-/// Leest de opdrachtregel, zonder de naam van het programma. Leest ook de bestanden met teksten die erop
-/// genoemd staan. Gooit Fout bij alles wat niet kan of niet samengaat.
+/// Leest de opdrachtregel, zonder de naam van het programma. Leest ook de bestanden die bij opties horen.
+/// Gooit Fout bij alles wat niet kan of niet samengaat.
 Opties leesOpties(const std::vector<std::string>& woorden);
-
-/// Of er om JSON gevraagd wordt, ook op een opdrachtregel die verder niet klopt.
-bool vraagtJson(const std::vector<std::string>& woorden);
-
-/// Eén optie zoals de gebruiker haar kent.
-struct Optie {
-    const char* kort;  ///< mag leeg zijn
-    const char* lang;
-    const char* waarde;  ///< hoe de waarde in de hulp heet; leeg voor een schakelaar
-    const char* uitleg;
-};
-
-std::span<const Optie> geefAlleOpties();
-
-/// De tekst van --help.
-std::string maakHulp();
 
 }  // namespace cli

@@ -103,8 +103,8 @@ class Knipbeurt {
 
     void knip(const Brontekst& bron, const Ontleding& ontleding) {
         if (opties_.bewijs) {
-            uitslag_.stof =
-                verzamelStof(bron, ontleding.blokken, teksten_.markers.geefParen(), opties_.bewijsLengte);
+            uitslag_.stof = verzamelStof(bron, ontleding.blokken, teksten_.markers.geefParen(),
+                                         opties_.bewijsLengte.value_or(standaardBewijsLengte));
         }
         try {
             Knipsel knipsel(

@@ -32,26 +32,37 @@ _knipselaar_cli() {
         mapfile -t COMPREPLY < <(compgen -P "$vooraan" -W 'c vhdl overig' -- "$huidig")
         return
         ;;
+    -M | --maak)
+        mapfile -t COMPREPLY < <(compgen -P "$vooraan" -W 'student oplossing' -- "$huidig")
+        return
+        ;;
+    -M | --maak)
+        mapfile -t COMPREPLY < <(compgen -P "$vooraan" -W 'student oplossing' -- "$huidig")
+        return
+        ;;
     -n | --naar)
         mapfile -t COMPREPLY < <(compgen -P "$vooraan" -d -- "$huidig")
         return
         ;;
-    -u | --uit | --markers-uit | --vervang-uit | --vervang-c-uit | --vervang-vhdl-uit | --vervang-overig-uit)
+    -u | --uit | --markers-uit | --vervang-uit | --vervang-c-uit | --vervang-vhdl-uit | --vervang-overig-uit | \
+        --weglaten-uit | --bewijs-toegestaan | --afhankelijk | -o | --opties)
         mapfile -t COMPREPLY < <(compgen -P "$vooraan" -f -- "$huidig")
         return
         ;;
     -b | --begin | -e | --eind | -v | --vervang | --vervang-c | --vervang-vhdl | --vervang-overig | -m | --masker | \
-        -L | --bewijs-lengte | -J | --taken)
+        -w | --weglaten | -G | --geef | --houd | --minstens | -P | --probeer | -L | --bewijs-lengte | -J | --taken)
         COMPREPLY=()
         return
         ;;
     esac
     if [[ $huidig == -* ]]; then
-        mapfile -t COMPREPLY < <(compgen -W '--uit --naar --ter-plaatse --alles-of-niets --recursief --overschrijf --keuze --masker
-            --verborgen --versiebeheer --begin --eind --markers-uit --letterlijk --vervang --vervang-uit --vervang-c
-            --vervang-c-uit --vervang-vhdl --vervang-vhdl-uit --vervang-overig --vervang-overig-uit --taal
-            --zonder-instellingen --getrouw --als-venster --inspringen --controle --streng --bewijs --bewijs-lengte
-            --droog --verschil --stil --json --taken --help --versie' -- "$huidig")
+        mapfile -t COMPREPLY < <(compgen -W '--uit --naar --ter-plaatse --recursief --overschrijf --spiegel
+            --alles-of-niets --keuze --masker --weglaten --weglaten-uit --verborgen --versiebeheer --begin --eind
+            --markers-uit --letterlijk --zonder-instellingen --vervang --vervang-uit --vervang-c --vervang-c-uit
+            --vervang-vhdl --vervang-vhdl-uit --vervang-overig --vervang-overig-uit --taal --geef --maak --houd
+            --getrouw --als-venster --inspringen --regels-gelijk --controle --streng --minstens --droog --verschil
+            --bewijs --bewijs-lengte --bewijs-toegestaan --probeer --stil --json --afhankelijk --opties --taken
+            --help --versie' -- "$huidig")
     else
         mapfile -t COMPREPLY < <(compgen -f -- "$huidig")
     fi

@@ -8,7 +8,7 @@
 #include <csignal>
 #include <thread>
 
-#include "KnipselaarCli/opties.h"
+#include "KnipselaarCli/optielijst.h"
 #include "tests/cli/proef.h"
 #include "tests/hulp/opdracht.h"
 

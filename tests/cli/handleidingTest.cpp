@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <sstream>
 
-#include "KnipselaarCli/opties.h"
+#include "KnipselaarCli/optielijst.h"
 #include "tests/cli/proef.h"
 #include "tests/hulp/opdracht.h"
 
@@ -116,7 +116,7 @@ TEST_F(CliHandleiding, BashVultAan) {
     schrijf("een.c", bron);
     fs::create_directory(map_ / "eendir");
     EXPECT_EQ((Woorden{"--droog"}), vulAan("--dr"));
-    EXPECT_EQ((Woorden{"--bewijs", "--bewijs-lengte"}), vulAan("een.c --bew"));
+    EXPECT_EQ((Woorden{"--bewijs", "--bewijs-lengte", "--bewijs-toegestaan"}), vulAan("een.c --bew"));
     EXPECT_EQ((Woorden{"talen", "vhdl", "alles"}), vulAan("--keuze ''"));
     EXPECT_EQ((Woorden{"vhdl"}), vulAan("-k v"));
     EXPECT_EQ((Woorden{"vhdl"}), vulAan("--taal = v"));
