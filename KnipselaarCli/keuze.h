@@ -1,0 +1,29 @@
+#pragma once
+
+// Wat er in een directory gekozen wordt, met maskers of met een soort bestanden.
+
+#include <set>
+#include <string>
+
+#include "KnipselaarCli/opties.h"
+
+namespace cli {
+
+/// Onthoudt welk masker iets vond. Leent de opties.
+class Kiezer {
+  public:
+    explicit Kiezer(const Opties& opties) : opties_(opties) {}
+
+    /// Of een bestand geknipt wordt.
+    /// @param pad  ten opzichte van de directory die de gebruiker noemde.
+    bool isGekozen(const std::string& pad);
+
+    /// Gooit Fout als er op een masker niets paste.
+    void keurMaskers() const;
+
+  private:
+    const Opties& opties_;
+    std::set<std::string> gebruikt_;
+};
+
+}  // namespace cli
