@@ -1,5 +1,7 @@
 #include "KnipselaarCli/keuze.h"
 
+#include <algorithm>
+
 #include "Knipselaar/kern/systeem/masker.h"
 #include "Knipselaar/kern/systeem/paden.h"
 #include "KnipselaarCli/fout.h"
@@ -14,7 +16,20 @@ bool past(const std::string& masker, const std::string& pad) {
     return kern::pastOp(masker, std::string(heelPad ? std::string_view(pad) : kern::geefNaam(pad)), heelPad);
 }
 
+/// Een masker met een schuine streep aan het einde is er alleen voor directories.
+bool pastOpDeel(std::string_view masker, const Boomdeel& deel) {
+    const std::size_t lengte = masker.find_last_not_of(kern::geefScheidingstekens()) + 1;
+    const bool magAltijd = lengte == masker.size();
+    return (magAltijd || deel.soort == kern::Bestandssoort::directory) &&
+           past(std::string(masker.substr(0, lengte)), deel.pad);
+}
+
 }  // namespace
+
+bool Kiezer::isWeggelaten(const Boomdeel& deel) const {
+    return std::any_of(opties_.weglaten.begin(), opties_.weglaten.end(),
+                       [&](const std::string& masker) { return pastOpDeel(masker, deel); });
+}
 
 bool Kiezer::isGekozen(const std::string& pad) {
     if (opties_.maskers.empty()) {

@@ -1,10 +1,11 @@
 #pragma once
 
-// Wat er in een directory gekozen wordt, met maskers of met een soort bestanden.
+// Wat er in een directory gekozen wordt, met maskers of met een soort bestanden, en wat er nooit meegaat.
 
 #include <set>
 #include <string>
 
+#include "KnipselaarCli/boom.h"
 #include "KnipselaarCli/opties.h"
 
 namespace cli {
@@ -18,7 +19,11 @@ class Kiezer {
     /// @param pad  ten opzichte van de directory die de gebruiker noemde.
     bool isGekozen(const std::string& pad);
 
-    /// Gooit Fout als er op een masker niets paste.
+    /// Of iets in een directory nooit meegaat. Wat in een directory zit die niet meegaat, is aan zijn eigen
+    /// pad niet te zien.
+    bool isWeggelaten(const Boomdeel& deel) const;
+
+    /// Gooit Fout als er op een masker van isGekozen niets paste.
     void keurMaskers() const;
 
   private:

@@ -93,7 +93,8 @@ class Planner {
         }
         const LoopWens wens{.recursief = opties_.recursief,
                             .verborgen = opties_.verborgen,
-                            .versiebeheer = opties_.versiebeheer};
+                            .versiebeheer = opties_.versiebeheer,
+                            .weglaten = [this](const Boomdeel& deel) { return kiezer_.isWeggelaten(deel); }};
         echteBoom_ = maakEcht(bron);
         const std::vector<Boomdeel> delen = loopAf(bron, wens);
         if (isHeleBoom()) {
@@ -160,8 +161,9 @@ class Planner {
         if (!heleBoom && !kiezer_.isGekozen(deel.pad)) {
             return;
         }
-        const std::string bezwaar = keurLink(
-            boom, deel.pad, [&](const std::string& pad) { return !heleBoom || inBoom_.contains(pad); });
+        const std::string bezwaar = keurLink(boom, deel.pad, [&](const std::string& pad) {
+            return heleBoom ? inBoom_.contains(pad) : !isWeggelaten(boom, pad);
+        });
         if (!bezwaar.empty()) {
             plan_.waarschuwingen.push_back(bron + ": is een link " + bezwaar + "; overgeslagen");
         } else if (heleBoom) {
@@ -169,6 +171,14 @@ class Planner {
         } else if (opties_.naar && !isDirectory(bron)) {
             voegToe(Handeling::knip, bron, doel);
         }
+    }
+
+    /// Van wat een link aandoet is elke directory erboven een eerdere stap, of een waar het lopen doorheen
+    /// kwam.
+    bool isWeggelaten(const std::string& boom, const std::string& pad) const {
+        kern::Kenmerken kenmerken;
+        kern::leesEigenKenmerken(kern::plak(boom, pad), kenmerken);
+        return kiezer_.isWeggelaten({.pad = pad, .soort = kenmerken.soort});
     }
 
     void voegGekozenToe(const std::string& bron, const std::string& echt, const std::string& doel) {
