@@ -10,6 +10,7 @@
 #include "KnipselaarCli/fout.h"
 #include "KnipselaarCli/keuze.h"
 #include "KnipselaarCli/links.h"
+#include "KnipselaarCli/opruiming.h"
 
 namespace cli {
 
@@ -36,6 +37,9 @@ class Planner {
         }
         std::stable_partition(plan_.taken.begin(), plan_.taken.end(),
                               [](const Taak& taak) { return taak.handeling == Handeling::maakDirectory; });
+        if (opties_.spiegel && isDirectory(*opties_.naar)) {
+            neemOpruiming(*opties_.naar);
+        }
         return std::move(plan_);
     }
 
@@ -208,6 +212,22 @@ class Planner {
                        " zou hier komen; geef ze een eigen directory");
         }
         plan_.taken.push_back({.handeling = handeling, .bron = bron, .doel = doel, .echt = {}});
+    }
+
+    void neemOpruiming(const std::string& naar) {
+        const Makers makers = [this](const std::string& doel) {
+            const auto bron = doelen_.find(kern::maakSleutel(doel));
+            return bron == doelen_.end() ? nullptr : &bron->second;
+        };
+        const Opruiming opruiming = zoekOpruiming(naar, plan_.soort, makers, opties_.bronnen);
+        for (const std::string& pad : opruiming.veranderd) {
+            plan_.waarschuwingen.push_back(
+                pad + ": geen bron maakt dit nog, maar het is veranderd; het blijft staan");
+        }
+        for (const std::string& pad : opruiming.weg) {
+            plan_.taken.push_back({.handeling = Handeling::ruimOp, .bron = {}, .doel = pad, .echt = {}});
+        }
+        plan_.opTeRuimen = opruiming.weg.size();
     }
 
     const Opties& opties_;

@@ -13,6 +13,7 @@
 #include "KnipselaarCli/boom.h"
 #include "KnipselaarCli/fout.h"
 #include "KnipselaarCli/knipsel.h"
+#include "KnipselaarCli/opruiming.h"
 #include "KnipselaarCli/verschil.h"
 
 namespace cli {
@@ -273,6 +274,15 @@ Uitslag doe(const Taak& taak, const Opties& opties, const Teksten& teksten, Uitv
         return neemOver(taak, opties, teksten, soort);
     }
     Uitslag uitslag;
+    if (taak.handeling == Handeling::ruimOp) {
+        uitslag.status = Status::opgeruimd;
+        if (opties.schrijft()) {
+            ruimOp(taak.doel, soort);
+        } else {
+            keurOpruimen(taak.doel);
+        }
+        return uitslag;
+    }
     uitslag.status = Status::overgenomen;
     if (!opties.schrijft()) {
         return uitslag;
