@@ -48,10 +48,15 @@ kern::Bytes leesStandaardinvoer() {
     return bytes;
 }
 
+/// Waar een aantekening mee begint.
+std::string noemSoort(Uitvoersoort soort) {
+    constexpr std::array namen{"bestand", "directory", "boom"};
+    return namen.at(static_cast<std::size_t>(soort));
+}
+
 /// Wat er bij een uitvoerbestand aangetekend wordt: wie het daarna nog schrijft, verandert lengte of tijd.
 std::string maakAantekening(Uitvoersoort soort, const kern::Kenmerken& kenmerken) {
-    constexpr std::array namen{"bestand", "directory", "boom"};
-    std::string tekst = namen.at(static_cast<std::size_t>(soort));
+    std::string tekst = noemSoort(soort);
     for (const std::string& getal : {std::to_string(kenmerken.lengte), std::to_string(kenmerken.seconden),
                                      std::to_string(kenmerken.nanoseconden)}) {
         tekst += ' ';
@@ -148,11 +153,17 @@ void schrijfUitvoer(const std::string& pad, const Stukken& stukken, perms rechte
     }
 }
 
-bool isEerdereUitvoer(const std::string& pad, Uitvoersoort soort) {
+Uitvoerstand keurUitvoer(const std::string& pad, Uitvoersoort soort) {
     const std::string aantekening = kern::leesAantekening(pad);
     kern::Kenmerken kenmerken;
-    return !aantekening.empty() && !kern::leesEigenKenmerken(pad, kenmerken) &&
-           aantekening == maakAantekening(soort, kenmerken);
+    if (!aantekening.starts_with(noemSoort(soort) + ' ') || kern::leesEigenKenmerken(pad, kenmerken)) {
+        return Uitvoerstand::geen;
+    }
+    return aantekening == maakAantekening(soort, kenmerken) ? Uitvoerstand::eerder : Uitvoerstand::veranderd;
+}
+
+bool isEerdereUitvoer(const std::string& pad, Uitvoersoort soort) {
+    return keurUitvoer(pad, soort) == Uitvoerstand::eerder;
 }
 
 Klaargezet::Klaargezet(std::string pad, const std::string& echt, const kern::Kenmerken& gelezen,

@@ -46,8 +46,16 @@ enum class Uitvoersoort { bestand, directory, boom };
 void schrijfUitvoer(const std::string& pad, const Stukken& stukken, std::filesystem::perms rechten,
                     Uitvoersoort soort);
 
-/// Of dit gewone bestand nog precies is wat een eerdere run van deze soort schreef. Niet als het
-/// bestandssysteem geen aantekening bewaart.
+enum class Uitvoerstand : std::uint8_t {
+    geen,       ///< geen uitvoer van zo'n run, of het bestandssysteem bewaart geen aantekening
+    veranderd,  ///< wel, maar er is daarna in geschreven
+    eerder      ///< nog precies wat die run schreef
+};
+
+/// Of een run van deze soort dit gewone bestand schreef.
+Uitvoerstand keurUitvoer(const std::string& pad, Uitvoersoort soort);
+
+/// Of dit gewone bestand nog precies is wat een eerdere run van deze soort schreef.
 bool isEerdereUitvoer(const std::string& pad, Uitvoersoort soort);
 
 /// De nieuwe inhoud van een bestand, klaar om zijn plaats in te nemen. Wat zijn plaats niet kreeg, verdwijnt

@@ -40,10 +40,13 @@ class Loper {
   private:
     void loop(const std::string& voor) {
         for (const kern::Deel& deel : lees(kern::plak(wortel_, voor))) {
-            const std::string pad = kern::plak(voor, deel.naam);
-            uit_.push_back({.pad = pad, .soort = deel.soort});
+            Boomdeel boomdeel{.pad = kern::plak(voor, deel.naam), .soort = deel.soort};
+            if (wens_.weglaten && wens_.weglaten(boomdeel)) {
+                continue;
+            }
+            uit_.push_back(boomdeel);
             if (wens_.recursief && deel.soort == kern::Bestandssoort::directory) {
-                loop(pad);
+                loop(boomdeel.pad);
             }
         }
     }

@@ -22,6 +22,8 @@ struct LoopWens {
     bool recursief = false;
     bool verborgen = false;     ///< ook namen met een punt vooraan
     bool versiebeheer = false;  ///< ook waar een versiebeheer zijn geschiedenis bewaart
+    /// Wat er niet bij hoort; een directory dan met alles erin. Leeg voor niets.
+    std::function<bool(const Boomdeel&)> weglaten = {};
 };
 
 /// Alles in een directory, op naam; een directory staat voor wat erin zit. Gooit Fout als een directory niet

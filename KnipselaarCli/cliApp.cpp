@@ -56,13 +56,15 @@ class Run {
         });
         const auto directories = static_cast<std::size_t>(grens - plan_.taken.begin());
         doeTaken(0, directories, 1, [this](const Taak& taak, Uitslag&& uitslag) { neem(taak, uitslag); });
-        const std::size_t draden = kiesDraden(opties_, plan_.taken.size() - directories);
+        const std::size_t opruimen = plan_.taken.size() - plan_.opTeRuimen;
+        const std::size_t draden = kiesDraden(opties_, opruimen - directories);
         if (opties_.terPlaatse) {
             vervang(directories, draden);
         } else {
-            doeTaken(directories, plan_.taken.size(), draden,
+            doeTaken(directories, opruimen, draden,
                      [this](const Taak& taak, Uitslag&& uitslag) { neem(taak, uitslag); });
         }
+        ruimOp(opruimen);
         melder_.wisVoortgang();
         if (kern::isOnderbroken()) {
             return misbruikOfStoring;
@@ -127,9 +129,26 @@ class Run {
         }
     }
 
+    /// Een bron die niet te lezen was of een fout heeft, mag de student niets kosten.
+    void ruimOp(std::size_t eerste) {
+        if (plan_.opTeRuimen == 0) {
+            return;
+        }
+        const Tellingen& tellingen = verslag_.geefTellingen();
+        if (tellingen.mislukt > 0 || tellingen.tegengehouden > 0) {
+            meldOpmerking("er is niets opgeruimd: eerst moet alles lukken", opties_.streng);
+            return;
+        }
+        doeTaken(eerste, plan_.taken.size(), 1,
+                 [this](const Taak& taak, Uitslag&& uitslag) { neem(taak, uitslag); });
+    }
+
     void doeTaken(std::size_t eerste, std::size_t voorbij, std::size_t draden,
                   const std::function<void(const Taak&, Uitslag&&)>& neemUitslag) {
         const std::size_t aantal = voorbij - eerste;
+        const bool schrijftBestanden = aantal > 0 &&
+                                       plan_.taken[eerste].handeling != Handeling::maakDirectory &&
+                                       plan_.taken[eerste].handeling != Handeling::ruimOp;
         Ploeg<Uitslag> ploeg(
             aantal,
             [&](std::size_t i) {
@@ -138,7 +157,7 @@ class Run {
             [] { return !kern::isOnderbroken(); });
         ploeg.werk(draden, [&](std::size_t i, Uitslag&& uitslag) {
             neemUitslag(plan_.taken[eerste + i], std::move(uitslag));
-            if (plan_.taken[eerste].handeling != Handeling::maakDirectory) {
+            if (schrijftBestanden) {
                 melder_.meldVoortgang(i + 1, aantal);
             }
         });

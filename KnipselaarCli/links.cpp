@@ -1,5 +1,6 @@
 #include "KnipselaarCli/links.h"
 
+#include <algorithm>
 #include <deque>
 #include <filesystem>
 
@@ -82,6 +83,22 @@ class Volger {
 
 Linkweg volgLink(const std::string& boom, const std::string& pad) {
     return Volger(boom).volg(pad);
+}
+
+std::string keurLink(const std::string& boom, const std::string& pad,
+                     const std::function<bool(const std::string&)>& gaatMee) {
+    const Linkweg weg = volgLink(boom, pad);
+    switch (weg.uitkomst) {
+        case Linkuitkomst::erbuiten:
+            return "die buiten " + boom + " uitkomt";
+        case Linkuitkomst::nergens:
+            return "die nergens heen wijst";
+        case Linkuitkomst::binnen:
+            break;
+    }
+    const auto achter = std::find_if_not(weg.langs.begin(), weg.langs.end(), gaatMee);
+    return achter == weg.langs.end() ? std::string()
+                                     : "naar " + kern::plak(boom, *achter) + ", en dat gaat niet mee";
 }
 
 }  // namespace cli

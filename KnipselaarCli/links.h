@@ -5,6 +5,7 @@
 // niet genoeg.
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -25,5 +26,10 @@ struct Linkweg {
 /// @param boom  een directory.
 /// @param pad   van de link, ten opzichte van de boom; tussen beide zit geen andere link.
 Linkweg volgLink(const std::string& boom, const std::string& pad);
+
+/// Waarom een link niet meegaat als haar boom gekopieerd wordt; leeg als zij meegaat.
+/// @param gaatMee  of een pad waar zij langs komt, ten opzichte van de boom, ook meegaat.
+std::string keurLink(const std::string& boom, const std::string& pad,
+                     const std::function<bool(const std::string&)>& gaatMee);
 
 }  // namespace cli

@@ -1,69 +1,20 @@
 #include "KnipselaarCli/plan.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <map>
 #include <set>
 
-#include "Knipselaar/kern/systeem/masker.h"
 #include "Knipselaar/kern/systeem/paden.h"
+#include "KnipselaarCli/bestemming.h"
 #include "KnipselaarCli/boom.h"
 #include "KnipselaarCli/fout.h"
+#include "KnipselaarCli/keuze.h"
 #include "KnipselaarCli/links.h"
+#include "KnipselaarCli/opruiming.h"
 
 namespace cli {
 
-namespace fs = std::filesystem;
-
 namespace {
-
-bool isDirectory(const std::string& pad) {
-    kern::Kenmerken kenmerken;
-    return !kern::leesKenmerken(pad, kenmerken) && kenmerken.soort == kern::Bestandssoort::directory;
-}
-
-bool bestaat(const std::string& pad) {
-    kern::Kenmerken kenmerken;
-    return !kern::leesEigenKenmerken(pad, kenmerken);
-}
-
-/// Kiest in directories wat geknipt wordt, en onthoudt welk masker iets vond.
-class Kiezer {
-  public:
-    explicit Kiezer(const Opties& opties) : opties_(opties) {}
-
-    bool isGekozen(const std::string& pad) {
-        if (opties_.maskers.empty()) {
-            const Bestandskeuze keuze = opties_.keuze.value_or(Bestandskeuze::talen);
-            return keuze == Bestandskeuze::alles ||
-                   (keuze == Bestandskeuze::talen && kiesTaal(pad) != Taal::overig) ||
-                   (keuze == Bestandskeuze::vhdl && kiesTaal(pad) == Taal::vhdl);
-        }
-        bool gekozen = false;
-        for (const std::string& masker : opties_.maskers) {
-            const bool heelPad = kern::geefNaam(masker) != masker;
-            const std::string wat(heelPad ? std::string_view(pad) : kern::geefNaam(pad));
-            if (kern::pastOp(masker, wat, heelPad)) {
-                gebruikt_.insert(masker);
-                gekozen = true;
-            }
-        }
-        return gekozen;
-    }
-
-    void keurMaskers() const {
-        for (const std::string& masker : opties_.maskers) {
-            if (!gebruikt_.contains(masker)) {
-                throw Fout("--masker: op '" + masker + "' past geen enkel bestand; kijk het masker na" +
-                           (opties_.recursief ? "" : ", of geef --recursief"));
-            }
-        }
-    }
-
-  private:
-    const Opties& opties_;
-    std::set<std::string> gebruikt_;
-};
 
 class Planner {
   public:
@@ -72,7 +23,7 @@ class Planner {
     Plan maak() {
         if (opties_.naar) {
             plan_.soort = opties_.recursief ? Uitvoersoort::boom : Uitvoersoort::directory;
-            keurNaar(*opties_.naar);
+            neemNaar(*opties_.naar);
         }
         for (const std::string& bron : opties_.bronnen) {
             neemBron(bron);
@@ -82,19 +33,19 @@ class Planner {
             std::count_if(plan_.taken.begin(), plan_.taken.end(),
                           [](const Taak& taak) { return taak.handeling == Handeling::knip; }));
         if (opties_.schrijft() || opties_.opdracht == Opdracht::droog) {
-            keurBestemmingen();
+            keurBestemmingen(plan_, opties_);
         }
         std::stable_partition(plan_.taken.begin(), plan_.taken.end(),
                               [](const Taak& taak) { return taak.handeling == Handeling::maakDirectory; });
+        if (opties_.spiegel && isDirectory(*opties_.naar)) {
+            neemOpruiming(*opties_.naar);
+        }
         return std::move(plan_);
     }
 
   private:
-    void keurNaar(const std::string& naar) {
-        if (bestaat(naar) && !isDirectory(naar)) {
-            throw Fout(naar +
-                       ": is geen directory; geef met --naar een directory, of --uit voor één bestand");
-        }
+    void neemNaar(const std::string& naar) {
+        keurNaar(naar);
         if (opties_.schrijft() && !isDirectory(naar)) {
             plan_.taken.push_back(
                 {.handeling = Handeling::maakDirectory, .bron = {}, .doel = naar, .echt = {}});
@@ -146,70 +97,38 @@ class Planner {
         }
         const LoopWens wens{.recursief = opties_.recursief,
                             .verborgen = opties_.verborgen,
-                            .versiebeheer = opties_.versiebeheer};
+                            .versiebeheer = opties_.versiebeheer,
+                            .weglaten = [this](const Boomdeel& deel) { return kiezer_.isWeggelaten(deel); }};
         echteBoom_ = maakEcht(bron);
         const std::vector<Boomdeel> delen = loopAf(bron, wens);
-        inBoom_.clear();
-        if (opties_.naar && opties_.recursief) {
+        if (isHeleBoom()) {
             keurOmweg(bron, delen, *opties_.naar);
-        }
-        for (const Boomdeel& deel : delen) {
-            if (deel.soort != kern::Bestandssoort::anders && deel.soort != kern::Bestandssoort::onbekend) {
-                inBoom_.insert(deel.pad);
-            }
+            onthoudBoom(delen);
         }
         for (const Boomdeel& deel : delen) {
             neemDeel(bron, deel);
         }
     }
 
-    static void keurLigging(const std::string& bron, const std::string& naar) {
-        const std::string echteBron = maakEcht(bron);
-        const std::string echteNaar = maakEcht(naar);
-        if (echteBron == echteNaar || kern::isZelfdePlaats(bron, naar)) {
-            throw Fout(naar + ": is dezelfde directory als " + bron +
-                       "; kies een andere, of geef --ter-plaatse");
-        }
-        if (kern::ligtIn(echteNaar, echteBron)) {
-            throw Fout(naar + ": ligt in de bron " + bron + "; kies een bestemming erbuiten");
-        }
-        if (kern::ligtIn(echteBron, echteNaar)) {
-            throw Fout(naar + ": daar ligt de bron " + bron + " in; kies een andere bestemming");
-        }
-    }
+    /// Of alles in een directory meegaat, en niet alleen wat gekozen is.
+    bool isHeleBoom() const { return opties_.naar && opties_.recursief; }
 
-    /// Een directory van de bron kan ergens anders aangekoppeld zijn: dan is aan haar pad niet te zien dat de
-    /// bestemming erin ligt.
-    static void keurOmweg(const std::string& bron, const std::vector<Boomdeel>& delen,
-                          const std::string& naar) {
-        const std::vector<kern::Kenmerken> omhoog = leesOmhoog(naar);
+    /// Alleen wie een link keurt vraagt hiernaar.
+    void onthoudBoom(const std::vector<Boomdeel>& delen) {
+        inBoom_.clear();
+        if (std::none_of(delen.begin(), delen.end(),
+                         [](const Boomdeel& deel) { return deel.soort == kern::Bestandssoort::link; })) {
+            return;
+        }
         for (const Boomdeel& deel : delen) {
-            const std::string pad = kern::plak(bron, deel.pad);
-            kern::Kenmerken kenmerken;
-            if (deel.soort == kern::Bestandssoort::directory && !kern::leesKenmerken(pad, kenmerken) &&
-                std::any_of(omhoog.begin(), omhoog.end(),
-                            [&](const auto& plaats) { return plaats.isZelfdePlaats(kenmerken); })) {
-                throw Fout((naar + ": ligt in de bron, via ").append(pad) + "; kies een bestemming erbuiten");
-            }
-        }
-    }
-
-    /// Van een plaats die er misschien nog niet is, en van elke directory erboven.
-    static std::vector<kern::Kenmerken> leesOmhoog(const std::string& plaats) {
-        std::vector<kern::Kenmerken> uit;
-        for (fs::path hier = maakEcht(plaats);; hier = hier.parent_path()) {
-            kern::Kenmerken kenmerken;
-            if (!kern::leesKenmerken(hier.string(), kenmerken)) {
-                uit.push_back(kenmerken);
-            }
-            if (!hier.has_relative_path()) {
-                return uit;
+            if (deel.soort != kern::Bestandssoort::anders && deel.soort != kern::Bestandssoort::onbekend) {
+                inBoom_.insert(deel.pad);
             }
         }
     }
 
     void neemDeel(const std::string& boom, const Boomdeel& deel) {
-        const bool heleBoom = opties_.naar && opties_.recursief;
+        const bool heleBoom = isHeleBoom();
         const std::string bron = kern::plak(boom, deel.pad);
         const std::string doel = opties_.naar ? kern::plak(*opties_.naar, deel.pad) : std::string();
         switch (deel.soort) {
@@ -242,11 +161,13 @@ class Planner {
     /// directory is dat niet zeker, en komt het knipsel van wat er achter zit op de plaats van de link.
     void neemLink(const std::string& boom, const Boomdeel& deel, const std::string& bron,
                   const std::string& doel) {
-        const bool heleBoom = opties_.naar && opties_.recursief;
+        const bool heleBoom = isHeleBoom();
         if (!heleBoom && !kiezer_.isGekozen(deel.pad)) {
             return;
         }
-        const std::string bezwaar = keurLink(boom, deel, heleBoom);
+        const std::string bezwaar = keurLink(boom, deel.pad, [&](const std::string& pad) {
+            return heleBoom ? inBoom_.contains(pad) : !isWeggelaten(boom, pad);
+        });
         if (!bezwaar.empty()) {
             plan_.waarschuwingen.push_back(bron + ": is een link " + bezwaar + "; overgeslagen");
         } else if (heleBoom) {
@@ -256,22 +177,12 @@ class Planner {
         }
     }
 
-    /// Waarom een link niet meegaat; leeg als zij meegaat.
-    std::string keurLink(const std::string& boom, const Boomdeel& deel, bool heleBoom) const {
-        const Linkweg weg = volgLink(boom, deel.pad);
-        switch (weg.uitkomst) {
-            case Linkuitkomst::erbuiten:
-                return "die buiten " + boom + " uitkomt";
-            case Linkuitkomst::nergens:
-                return "die nergens heen wijst";
-            case Linkuitkomst::binnen:
-                break;
-        }
-        const auto achter = std::find_if(weg.langs.begin(), weg.langs.end(),
-                                         [this](const std::string& pad) { return !inBoom_.contains(pad); });
-        return heleBoom && achter != weg.langs.end()
-                   ? "naar " + kern::plak(boom, *achter) + ", en dat gaat niet mee"
-                   : std::string();
+    /// Van wat een link aandoet is elke directory erboven een eerdere stap, of een waar het lopen doorheen
+    /// kwam.
+    bool isWeggelaten(const std::string& boom, const std::string& pad) const {
+        kern::Kenmerken kenmerken;
+        kern::leesEigenKenmerken(kern::plak(boom, pad), kenmerken);
+        return kiezer_.isWeggelaten({.pad = pad, .soort = kenmerken.soort});
     }
 
     void voegGekozenToe(const std::string& bron, const std::string& echt, const std::string& doel) {
@@ -303,61 +214,20 @@ class Planner {
         plan_.taken.push_back({.handeling = handeling, .bron = bron, .doel = doel, .echt = {}});
     }
 
-    void keurBestemmingen() const {
-        for (const Taak& taak : plan_.taken) {
-            if (!taak.doel.empty() && !opties_.terPlaatse) {
-                keurBestemming(taak);
-            }
+    void neemOpruiming(const std::string& naar) {
+        const Makers makers = [this](const std::string& doel) {
+            const auto bron = doelen_.find(kern::maakSleutel(doel));
+            return bron == doelen_.end() ? nullptr : &bron->second;
+        };
+        const Opruiming opruiming = zoekOpruiming(naar, plan_.soort, makers, opties_.bronnen);
+        for (const std::string& pad : opruiming.veranderd) {
+            plan_.waarschuwingen.push_back(
+                pad + ": geen bron maakt dit nog, maar het is veranderd; het blijft staan");
         }
-        if (opties_.uit) {
-            const std::string ouder = fs::path(*opties_.uit).parent_path().string();
-            if (!ouder.empty() && !isDirectory(ouder)) {
-                throw Fout(*opties_.uit + ": de directory " + ouder + " bestaat niet; maak haar eerst");
-            }
+        for (const std::string& pad : opruiming.weg) {
+            plan_.taken.push_back({.handeling = Handeling::ruimOp, .bron = {}, .doel = pad, .echt = {}});
         }
-    }
-
-    void keurBestemming(const Taak& taak) const {
-        const std::string& doel = taak.doel;
-        if (kern::isZelfdePlaats(taak.bron, doel)) {
-            throw Fout(doel + ": is hetzelfde bestand als de bron " + taak.bron +
-                       "; kies een andere bestemming, of geef --ter-plaatse");
-        }
-        if (!bestaat(doel)) {
-            return;
-        }
-        if (taak.handeling == Handeling::maakDirectory) {
-            if (kern::isLink(doel) && !taak.bron.empty()) {
-                throw Fout(doel + ": is een link; haal haar weg, anders wordt er buiten " + *opties_.naar +
-                           " geschreven");
-            }
-            if (!isDirectory(doel)) {
-                throw Fout(doel + ": bestaat al en is geen directory; haal het weg");
-            }
-            return;
-        }
-        if (isDirectory(doel) && !kern::isLink(doel)) {
-            throw Fout(doel + (opties_.uit ? ": is een directory; geef --naar, of noem een bestand"
-                                           : ": bestaat al en is een directory; haal haar weg"));
-        }
-        kern::Kenmerken kenmerken;
-        if (!kern::leesEigenKenmerken(doel, kenmerken) && kenmerken.soort != kern::Bestandssoort::bestand &&
-            kenmerken.soort != kern::Bestandssoort::link) {
-            throw Fout(doel + ": bestaat al en is geen gewoon bestand; kies een andere bestemming");
-        }
-        if (!opties_.overschrijf && !isEerder(taak)) {
-            throw Fout(doel +
-                       ": bestaat al en is geen eerdere uitvoer van zo'n run; geef --overschrijf om het te "
-                       "vervangen");
-        }
-    }
-
-    bool isEerder(const Taak& taak) const {
-        if (kern::isLink(taak.doel)) {
-            return taak.handeling == Handeling::legLink &&
-                   kern::leesLink(taak.doel) == kern::leesLink(taak.bron);
-        }
-        return isEerdereUitvoer(taak.doel, plan_.soort);
+        plan_.opTeRuimen = opruiming.weg.size();
     }
 
     const Opties& opties_;

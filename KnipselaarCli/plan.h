@@ -12,19 +12,21 @@
 
 namespace cli {
 
-enum class Handeling : std::uint8_t { maakDirectory, knip, neemOver, legLink };
+enum class Handeling : std::uint8_t { maakDirectory, knip, neemOver, legLink, ruimOp };
 
 struct Taak {
     Handeling handeling;
-    std::string bron;  ///< zoals het in meldingen staat
+    std::string bron;  ///< zoals het in meldingen staat; leeg als er geen is
     std::string doel;  ///< leeg voor de standaarduitvoer, en als er geen bestemming is
     std::string echt;  ///< ter plaatse: het pad van de bron zonder links
 };
 
 struct Plan {
-    std::vector<Taak> taken;  ///< eerst de directories, dan de rest in de volgorde van het verslag
+    /// Eerst de directories, dan de rest in de volgorde van het verslag, en als laatste wat opgeruimd wordt.
+    std::vector<Taak> taken;
     std::vector<std::string> waarschuwingen;
     std::size_t teKnippen = 0;         ///< hoeveel van de taken knippen
+    std::size_t opTeRuimen = 0;        ///< hoeveel van de taken opruimen
     std::vector<std::string> nalezen;  ///< waar een bewijs naar moet kijken
     Uitvoersoort soort = Uitvoersoort::bestand;
 };

@@ -18,6 +18,8 @@ const char* noemStatus(const Taak& taak, const Uitslag& uitslag, bool geschreven
             return "ongewijzigd";
         case Status::overgenomen:
             return taak.handeling == Handeling::legLink ? "link" : "overgenomen";
+        case Status::opgeruimd:
+            return "opgeruimd";
         case Status::gelaten:
             return "gelaten";
         case Status::tegengehouden:
@@ -49,14 +51,20 @@ std::size_t tel(const Uitslag& uitslag, Ernst ernst) {
     return aantal;
 }
 
-std::string droogRegel(const Taak& taak, const Uitslag& uitslag) {
-    std::string regel = maakLeesbaar(taak.bron);
-    if (!taak.doel.empty() && taak.doel != taak.bron) {
-        regel += " -> " + maakLeesbaar(taak.doel);
+std::string noemWeg(const Taak& taak) {
+    if (taak.bron.empty() || taak.doel.empty() || taak.doel == taak.bron) {
+        return maakLeesbaar(taak.bron.empty() ? taak.doel : taak.bron);
     }
+    return maakLeesbaar(taak.bron) + " -> " + maakLeesbaar(taak.doel);
+}
+
+std::string droogRegel(const Taak& taak, const Uitslag& uitslag) {
+    const std::string regel = noemWeg(taak);
     switch (uitslag.status) {
         case Status::overgenomen:
             return regel + (taak.handeling == Handeling::legLink ? ": gaat als link mee\n" : ": gaat mee\n");
+        case Status::opgeruimd:
+            return regel + ": gaat weg\n";
         case Status::tegengehouden:
             return regel + ": wordt niet geknipt, " + noem(tel(uitslag, Ernst::fout), "fout", "fouten") +
                    "\n";
@@ -136,6 +144,9 @@ std::string Verslag::neem(const Taak& taak, const Uitslag& uitslag) {
         case Status::overgenomen:
             ++tellingen_.overgenomen;
             break;
+        case Status::opgeruimd:
+            ++tellingen_.opgeruimd;
+            break;
         case Status::gelaten:
             ++tellingen_.gelaten;
             break;
@@ -154,11 +165,13 @@ std::string Verslag::neem(const Taak& taak, const Uitslag& uitslag) {
 
 void Verslag::neemInJson(const Taak& taak, const Uitslag& uitslag) {
     jsonBestanden_ += jsonBestanden_.empty() ? "\n    {" : ",\n    {";
-    jsonBestanden_ += jsonPaar("bron", taak.bron);
-    if (!taak.doel.empty()) {
-        jsonBestanden_ += ", " + jsonPaar("bestemming", taak.doel);
+    if (!taak.bron.empty()) {
+        jsonBestanden_ += jsonPaar("bron", taak.bron) + ", ";
     }
-    jsonBestanden_ += ", " + jsonPaar("status", noemStatus(taak, uitslag, opties_.schrijft()));
+    if (!taak.doel.empty()) {
+        jsonBestanden_ += jsonPaar("bestemming", taak.doel) + ", ";
+    }
+    jsonBestanden_ += jsonPaar("status", noemStatus(taak, uitslag, opties_.schrijft()));
     if (taak.handeling == Handeling::knip && uitslag.status != Status::mislukt) {
         jsonBestanden_ += ", " + jsonPaar("blokken", uitslag.blokken);
     }
@@ -235,7 +248,8 @@ std::string Verslag::maakJson(Afloop afloop) const {
            jsonRij("bewijs", jsonBewijs_) + jsonRij("opmerkingen", jsonOpmerkingen_) + "  \"totaal\": {" +
            jsonPaar("geknipt", tellingen_.geknipt) + ", " + jsonPaar("ongewijzigd", tellingen_.ongewijzigd) +
            ", " + jsonPaar("overgenomen", tellingen_.overgenomen) + ", " +
-           jsonPaar("blokken", tellingen_.blokken) + ", " + jsonPaar("fouten", tellingen_.fouten) + ", " +
+           jsonPaar("opgeruimd", tellingen_.opgeruimd) + ", " + jsonPaar("blokken", tellingen_.blokken) +
+           ", " + jsonPaar("fouten", tellingen_.fouten) + ", " +
            jsonPaar("waarschuwingen", tellingen_.waarschuwingen) + ", " +
            jsonPaar("mislukt", tellingen_.mislukt) + "},\n  " +
            jsonPaar("afloop", static_cast<std::size_t>(afloop)) + "\n}\n";
@@ -249,6 +263,9 @@ std::string Verslag::maakTellingen(Afloop afloop) const {
     }
     if (tellingen_.overgenomen > 0) {
         regel += ", " + std::to_string(tellingen_.overgenomen) + " overgenomen";
+    }
+    if (tellingen_.opgeruimd > 0) {
+        regel += ", " + std::to_string(tellingen_.opgeruimd) + " opgeruimd";
     }
     if (tellingen_.gelaten > 0) {
         regel += ", " + std::to_string(tellingen_.gelaten) + " gelaten";

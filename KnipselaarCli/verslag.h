@@ -17,6 +17,7 @@ struct Tellingen {
     std::size_t geknipt = 0;
     std::size_t ongewijzigd = 0;
     std::size_t overgenomen = 0;
+    std::size_t opgeruimd = 0;
     std::size_t gelaten = 0;
     std::size_t tegengehouden = 0;
     std::size_t mislukt = 0;

@@ -13,6 +13,7 @@
 #include "KnipselaarCli/boom.h"
 #include "KnipselaarCli/fout.h"
 #include "KnipselaarCli/knipsel.h"
+#include "KnipselaarCli/opruiming.h"
 #include "KnipselaarCli/regels.h"
 #include "KnipselaarCli/verschil.h"
 
@@ -303,6 +304,15 @@ Uitslag doe(const Taak& taak, const Opties& opties, const Teksten& teksten, Uitv
         return neemOver(taak, opties, teksten, soort);
     }
     Uitslag uitslag;
+    if (taak.handeling == Handeling::ruimOp) {
+        uitslag.status = Status::opgeruimd;
+        if (opties.schrijft()) {
+            ruimOp(taak.doel, soort);
+        } else {
+            keurOpruimen(taak.doel);
+        }
+        return uitslag;
+    }
     uitslag.status = Status::overgenomen;
     if (!opties.schrijft()) {
         return uitslag;

@@ -20,6 +20,7 @@ enum class Status : std::uint8_t {
     geknipt,        ///< of, als er niets geschreven mag worden, in orde om te knippen
     ongewijzigd,    ///< ter plaatse: er viel niets te knippen
     overgenomen,    ///< als bestand, link of directory
+    opgeruimd,      ///< of, als er niets geschreven mag worden, wat dan weggaat
     gelaten,        ///< ter plaatse: knippen kon, maar elders ging iets mis en dan verandert er niets
     tegengehouden,  ///< de invoer klopt niet; er is niets geschreven
     mislukt         ///< niet te lezen of te schrijven

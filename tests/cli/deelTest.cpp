@@ -13,6 +13,7 @@
 #include "Knipselaar/kern/tekstLezer.h"
 #include "KnipselaarCli/boom.h"
 #include "KnipselaarCli/knipsel.h"
+#include "KnipselaarCli/opruiming.h"
 #include "KnipselaarCli/verslag.h"
 #include "tests/hulp/bestanden.h"
 
@@ -195,6 +196,45 @@ TEST(CliDeel, LooptNietVerderAlsErOmStoppenGevraagdIs) {
         }
     };
     EXPECT_EXIT(stopEnLoop(), testing::ExitedWithCode(7), "");
+}
+
+namespace {
+
+/// Waarom iets niet op te ruimen is; leeg als het weg is.
+std::string ruimOp(const std::filesystem::path& pad) {
+    try {
+        cli::ruimOp(pad.string(), cli::Uitvoersoort::boom);
+    } catch (const cli::Fout& fout) {
+        return fout.what();
+    }
+    return {};
+}
+
+}  // namespace
+
+TEST(CliDeel, KijktVlakVoorHetOpruimenOfErIetsVeranderdIs) {
+    const hulp::TijdelijkeMap map;
+    const std::string pad = (map / "a.c").string();
+    const auto schrijf = [&pad] {
+        cli::schrijfUitvoer(
+            pad, [](const cli::Ontvanger& uit) { uit("inhoud"); }, std::filesystem::perms::owner_all,
+            cli::Uitvoersoort::boom);
+    };
+    const auto bezwaar = [](const std::string& naam, const char* reden) {
+        return naam + ": kan niet opgeruimd worden: " + reden;
+    };
+    schrijf();
+    hulp::schrijfBestand(pad, "van iemand anders");
+    EXPECT_EQ(bezwaar(pad, "is intussen veranderd"), ruimOp(pad));
+    EXPECT_EQ("van iemand anders", hulp::leesBestand(pad));
+    const std::string link = (map / "link").string();
+    std::filesystem::create_symlink("a.c", link);
+    EXPECT_EQ(bezwaar(link, "wijst nog ergens heen"), ruimOp(link));
+    schrijf();
+    EXPECT_EQ("", ruimOp(pad));
+    EXPECT_EQ(bezwaar(pad, "bestaat niet"), ruimOp(pad));
+    EXPECT_EQ("", ruimOp(link));
+    EXPECT_TRUE(std::filesystem::is_empty(map.pad()));
 }
 
 TEST(CliDeel, SchrijftElkeNaamInJson) {

@@ -4,9 +4,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <csignal>
-#include <thread>
 
 #include "KnipselaarCli/optielijst.h"
 #include "tests/cli/proef.h"
@@ -30,15 +28,6 @@ class CliGedrag : public proef::Cli {
         for (int i = 0; i < aantal; ++i) {
             schrijf("boom/" + std::to_string(i % 7) + "/f" + std::to_string(i) + ".c", bron);
         }
-    }
-
-    /// Wacht tot er iets gebeurd is, hoogstens een minuut.
-    static bool wachtOp(const std::function<bool()>& gebeurd) {
-        const auto grens = std::chrono::steady_clock::now() + std::chrono::minutes(1);
-        while (!gebeurd() && std::chrono::steady_clock::now() < grens) {
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        }
-        return gebeurd();
     }
 };
 
@@ -149,7 +138,7 @@ TEST_F(CliGedrag, DoetVerslagInJson) {
     {"bestand": "uit/LEESMIJ", "regel": 1, "tekst": "hier staat de weggelaten regel van bron/a.c:3"}
   ],
   "opmerkingen": [],
-  "totaal": {"geknipt": 2, "ongewijzigd": 0, "overgenomen": 2, "blokken": 2, "fouten": 1, "waarschuwingen": 1, "mislukt": 0},
+  "totaal": {"geknipt": 2, "ongewijzigd": 0, "overgenomen": 2, "opgeruimd": 0, "blokken": 2, "fouten": 1, "waarschuwingen": 1, "mislukt": 0},
   "afloop": 1
 }
 )",
@@ -160,7 +149,8 @@ TEST_F(CliGedrag, DoetVerslagInJson) {
         "\"regels_eruit\": 0, \"meldingen\": []}\n  ],\n  \"bewijs\": [],\n  \"opmerkingen\": [\n    \"er is "
         "nergens een blok gevonden; kijk de markers na\"\n  ],\n  "
         "\"totaal\": {\"geknipt\": 1, "
-        "\"ongewijzigd\": 0, \"overgenomen\": 0, \"blokken\": 0, \"fouten\": 0, \"waarschuwingen\": 0, "
+        "\"ongewijzigd\": 0, \"overgenomen\": 0, \"opgeruimd\": 0, \"blokken\": 0, \"fouten\": 0, "
+        "\"waarschuwingen\": 0, "
         "\"mislukt\": "
         "0},\n  \"afloop\": 0\n}\n",
         draai({"-j", "-c", "-"}).uit);
@@ -168,13 +158,14 @@ TEST_F(CliGedrag, DoetVerslagInJson) {
 
 TEST_F(CliGedrag, GeeftOokEenVerslagInJsonAlsDeRunNietKan) {
     const auto verslag = [](const std::string& reden) {
-        return Uitkomst{
-            .status = 2,
-            .uit = "{\n  \"bestanden\": [],\n  \"bewijs\": [],\n  \"opmerkingen\": [\n    \"" + reden +
-                   "\"\n  ],\n  \"totaal\": {\"geknipt\": 0, \"ongewijzigd\": 0, \"overgenomen\": 0, "
-                   "\"blokken\": 0, \"fouten\": 0, \"waarschuwingen\": 0, \"mislukt\": 0},\n  "
-                   "\"afloop\": 2\n}\n",
-            .fout = "knipselaar-cli: fout: " + reden + "\n"};
+        return Uitkomst{.status = 2,
+                        .uit = "{\n  \"bestanden\": [],\n  \"bewijs\": [],\n  \"opmerkingen\": [\n    \"" +
+                               reden +
+                               "\"\n  ],\n  \"totaal\": {\"geknipt\": 0, \"ongewijzigd\": 0, "
+                               "\"overgenomen\": 0, \"opgeruimd\": 0, "
+                               "\"blokken\": 0, \"fouten\": 0, \"waarschuwingen\": 0, \"mislukt\": 0},\n  "
+                               "\"afloop\": 2\n}\n",
+                        .fout = "knipselaar-cli: fout: " + reden + "\n"};
     };
     const std::string onbekend = "onbekende optie '--nietbekend'; zie knipselaar-cli --help";
     EXPECT_EQ(verslag(onbekend), draai({"--nietbekend", "--json", "a.c"}));

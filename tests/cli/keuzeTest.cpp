@@ -4,7 +4,10 @@
 
 namespace fs = std::filesystem;
 
+using hulp::Boom;
 using proef::bron;
+using proef::goed;
+using proef::knipselX;
 using proef::storing;
 using proef::Uitkomst;
 using proef::Woorden;
@@ -112,4 +115,111 @@ TEST_F(CliKeuze, MeldtWatGeenGewoonBestandIs) {
     ASSERT_EQ(0, mkfifo((map_ / "bron/pijp.c").c_str(), 0600));
     EXPECT_EQ("knipselaar-cli: waarschuwing: bron/pijp.c: is geen gewoon bestand; overgeslagen\n",
               draai({"-t", "bron"}).fout);
+}
+
+TEST_F(CliKeuze, LaatWegWatOpEenMaskerPast) {
+    EXPECT_EQ((Namen{"a.c", "c.h", "d.vhd", "sub/h.c"}), kies({"-r", "-w", "*.cpp", "--weglaten", "*.vhdl"}));
+    EXPECT_EQ((Namen{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl"}), kies({"-r", "-w", "sub"}))
+        << "een directory met alles erin";
+    EXPECT_EQ((Namen{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl"}), kies({"-r", "-w", "sub/*.c"}));
+    EXPECT_EQ((Namen{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl", "sub/h.c"}), kies({"-r", "-w", "b/h.c"}))
+        << "met een schuine streep erin geldt het masker voor het hele pad";
+    EXPECT_EQ((Namen{"a.c", "c.h", "e.vhdl"}), kies({"-w", "b*", "-w", "d.*", "-w", "C.H"}))
+        << "ook zonder -r";
+    EXPECT_EQ((Namen{"a.c"}), kies({"-m", "[ab].c*", "-w", "b*"})) << "weglaten gaat voor kiezen";
+    EXPECT_EQ((Namen{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl"}), kies({"-w", "*.py"}))
+        << "een masker waar niets op past is geen fout";
+}
+
+TEST_F(CliKeuze, LaatUitEenHeleBoomAllesWegWatOpEenMaskerPast) {
+    hulp::maakBoom(map_ / "boom", {{"a.c", bron},
+                                   {"a.o", "object"},
+                                   {"bouw/x.c", bron},
+                                   {"bouw/diep/y", "y"},
+                                   {"sub/bouw", "een bestand"},
+                                   {"sub/b.c", bron},
+                                   {"sub/b.o", "object"},
+                                   {"sub/doc/z", "z"},
+                                   {"doc/z", "z"}});
+    schrijf("weg.txt", "# gebouwd\n*.o\n\n  bouw/\nsub/doc/\n");
+    EXPECT_EQ(goed("2 bestanden geknipt, 2 blokken, 2 overgenomen\n"),
+              draai({"-vX", "-r", "--weglaten-uit", "weg.txt", "boom", "-n", "uit"}));
+    EXPECT_EQ((Boom{{"a.c", knipselX},
+                    {"doc", "/"},
+                    {"doc/z", "z"},
+                    {"sub", "/"},
+                    {"sub/b.c", knipselX},
+                    {"sub/bouw", "een bestand"}}),
+              leesBoom("uit"));
+}
+
+TEST_F(CliKeuze, LaatOokTerPlaatseEnZonderSchrijvenWeg) {
+    hulp::maakBoom(map_ / "boom",
+                   {{"a.c", bron}, {"b.c", "//**** Student Eind ****//\n"}, {"sub/c.c", bron}});
+    EXPECT_EQ(goed("1 bestand in orde, 1 blok\n"), draai({"-c", "-r", "-w", "b.c", "-w", "sub/", "boom"}));
+    EXPECT_EQ(
+        goed("--- boom/a.c\t\n+++ boom/a.c\t\n@@ -1,5 +1,3 @@\n voor\n-//**** Student Begin ****//\n-geheime "
+             "oplossing\n-//**** Student Eind ****//\n+X\n na\n"),
+        draai({"-vX", "-D", "-r", "-w", "b.c", "-w", "sub/", "boom"}));
+    EXPECT_EQ(goed("1 bestand geknipt, 1 blok\n"),
+              draai({"-vX", "-t", "-r", "-w", "b.c", "-w", "sub/", "boom"}));
+    EXPECT_EQ(
+        (Boom{{"a.c", knipselX}, {"b.c", "//**** Student Eind ****//\n"}, {"sub", "/"}, {"sub/c.c", bron}}),
+        leesBoom("boom"));
+}
+
+TEST_F(CliKeuze, KniptWatGenoemdIsOokAlsHetOpEenMaskerOmWegTeLatenPast) {
+    EXPECT_EQ(goed("2 bestanden geknipt, 2 blokken\n"),
+              draai({"-vX", "-w", "*.c", "-w", "bron/", "-n", "uit", "bron/a.c", "bron/sub/h.c"}));
+    EXPECT_EQ((Boom{{"a.c", knipselX}, {"h.c", knipselX}}), leesBoom("uit"));
+    EXPECT_EQ((Namen{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl"}), kies({"-w", "bron"}))
+        << "ook een genoemde directory";
+}
+
+TEST_F(CliKeuze, KomtNietInEenDirectoryDieWegblijft) {
+    hulp::maakBoom(map_ / "boom", {{"a.c", bron}, {"b.c", bron}, {"dicht/c.c", bron}});
+    ASSERT_EQ(0, chmod((map_ / "boom/b.c").c_str(), 0));
+    ASSERT_EQ(0, chmod((map_ / "boom/dicht").c_str(), 0));
+    EXPECT_EQ(
+        goed("1 bestand geknipt, 1 blok\n"),
+        draai({"-vX", "-r", "-w", "dicht/", "-w", "b.c", "boom", "-n", "uit"}, {.gewoneGebruiker = true}));
+    ASSERT_EQ(0, chmod((map_ / "boom/dicht").c_str(), 0700));
+    EXPECT_EQ((Boom{{"a.c", knipselX}}), leesBoom("uit"));
+}
+
+TEST_F(CliKeuze, LaatLinksNaarWatWegblijftOok) {
+    hulp::maakBoom(map_ / "boom", {{"a.c", bron},
+                                   {"geheim.c", bron},
+                                   {"bouw/b.c", bron},
+                                   {"goed.c", "-> a.c"},
+                                   {"een.c", "-> geheim.c"},
+                                   {"twee.c", "-> bouw/b.c"},
+                                   {"weg.c", "-> geheim.c"}});
+    const Woorden weg{"-vX", "-w", "geheim.c", "-w", "bouw/", "-w", "weg.?", "boom"};
+    const auto met = [&weg](Woorden woorden) {
+        woorden.insert(woorden.end(), weg.begin(), weg.end());
+        return woorden;
+    };
+    const std::string fout =
+        "knipselaar-cli: waarschuwing: boom/een.c: is een link naar boom/geheim.c, en dat gaat niet mee; "
+        "overgeslagen\n"
+        "knipselaar-cli: waarschuwing: boom/twee.c: is een link naar boom/bouw, en dat gaat niet mee; "
+        "overgeslagen\n";
+    EXPECT_EQ((Uitkomst{.status = 0, .uit = "1 bestand geknipt, 1 blok, 1 overgenomen\n", .fout = fout}),
+              draai(met({"-r", "-n", "uit"})));
+    EXPECT_EQ((Boom{{"a.c", knipselX}, {"goed.c", "-> a.c"}}), leesBoom("uit"));
+    EXPECT_EQ((Uitkomst{.status = 0, .uit = "2 bestanden geknipt, 2 blokken\n", .fout = fout}),
+              draai(met({"-n", "plat"})));
+    EXPECT_EQ((Boom{{"a.c", knipselX}, {"goed.c", knipselX}}), leesBoom("plat"));
+    EXPECT_EQ((Uitkomst{.status = 0, .uit = "1 bestand geknipt, 1 blok\n", .fout = fout}),
+              draai(met({"-t", "-r"})));
+    EXPECT_EQ((Boom{{"a.c", knipselX},
+                    {"bouw", "/"},
+                    {"bouw/b.c", bron},
+                    {"een.c", "-> geheim.c"},
+                    {"geheim.c", bron},
+                    {"goed.c", "-> a.c"},
+                    {"twee.c", "-> bouw/b.c"},
+                    {"weg.c", "-> geheim.c"}}),
+              leesBoom("boom"));
 }

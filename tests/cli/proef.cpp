@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <thread>
 
@@ -170,6 +171,14 @@ int Cli::wacht(pid_t proces) {
     while (waitpid(proces, &status, 0) < 0 && errno == EINTR) {
     }
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+bool Cli::wachtOp(const std::function<bool()>& gebeurd) {
+    const auto grens = std::chrono::steady_clock::now() + std::chrono::minutes(1);
+    while (!gebeurd() && std::chrono::steady_clock::now() < grens) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    return gebeurd();
 }
 
 Uitkomst Cli::draai(const Woorden& woorden, const Start& hoe) const {

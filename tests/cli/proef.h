@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -71,6 +72,9 @@ class Cli : public testing::Test {
 
     /// Voert het programma uit met zijn foutkanaal op een terminal; wat daarop komt staat in fout.
     Uitkomst draaiOpTerminal(const Woorden& woorden, const Start& hoe = {}) const;
+
+    /// Wacht tot er iets gebeurd is, hoogstens een minuut.
+    static bool wachtOp(const std::function<bool()>& gebeurd);
 
     void schrijf(const std::string& naam, std::string_view inhoud) const {
         std::filesystem::create_directories((map_ / naam).parent_path());

@@ -146,7 +146,8 @@ TEST_F(CliProef, DeProevenStaanInHetVerslag) {
                       "\"meldingen\": []}\n  ],\n  \"proeven\": [\n    {\"bestand\": \"uit/a.c\", "
                       "\"opdracht\": \"echo 'uit/a.c'; exit 2\", \"afloop\": 2, \"uitvoer\": "
                       "\"uit/a.c\\u000a\"}\n  ],\n  \"bewijs\": [],\n  \"opmerkingen\": [],\n  \"totaal\": "
-                      "{\"geknipt\": 1, \"ongewijzigd\": 0, \"overgenomen\": 0, \"blokken\": 1, \"fouten\": "
+                      "{\"geknipt\": 1, \"ongewijzigd\": 0, \"overgenomen\": 0, \"opgeruimd\": 0, "
+                      "\"blokken\": 1, \"fouten\": "
                       "0, \"waarschuwingen\": 0, \"mislukt\": 0},\n  \"afloop\": 1\n}\n",
                   .fout = "uit/a.c: fout: de proef mislukt (afloop 2): echo 'uit/a.c'; exit 2\nuit/a.c\n"}),
         draai({"-j", "-v", "X", "-P", "echo {}; exit 2", "a.c", "-n", "uit"}));

@@ -1,0 +1,32 @@
+#pragma once
+
+// Of een run mag schrijven waar hij dat van plan is. Alles hier gooit Fout als dat niet mag, en verandert
+// niets.
+
+#include <string>
+#include <vector>
+
+#include "KnipselaarCli/boom.h"
+#include "KnipselaarCli/opties.h"
+#include "KnipselaarCli/plan.h"
+
+namespace cli {
+
+/// Of hier een directory staat; een link wordt gevolgd.
+bool isDirectory(const std::string& pad);
+
+/// Wat met --naar genoemd is, is een directory of nog niets.
+void keurNaar(const std::string& naar);
+
+/// Een directory en de bestemming van --naar zijn niet dezelfde en liggen niet in elkaar.
+void keurLigging(const std::string& bron, const std::string& naar);
+
+/// Een directory van de bron kan ergens anders aangekoppeld zijn: dan is aan haar pad niet te zien dat de
+/// bestemming erin ligt.
+/// @param delen  van de bron.
+void keurOmweg(const std::string& bron, const std::vector<Boomdeel>& delen, const std::string& naar);
+
+/// Elke bestemming is er nog niet, of mag vervangen worden.
+void keurBestemmingen(const Plan& plan, const Opties& opties);
+
+}  // namespace cli
