@@ -5,16 +5,13 @@
 // in de ruwe bytes begint, zodat er geknipt kan worden zonder één byte buiten de blokken aan te raken.
 
 #include <cstddef>
-#include <stdexcept>
-#include <string>
 #include <string_view>
 #include <vector>
 
 #include "Knipselaar/kern/bytes.h"
+#include "KnipselaarCli/codering.h"
 
 namespace cli {
-
-enum class Codering { utf8, latijn1, utf16le, utf16be, utf32le, utf32be };
 
 /// Hoe de tekst gemaakt moet worden.
 enum class Lezing {
@@ -68,21 +65,5 @@ class Brontekst {
     std::vector<std::size_t> regels_;  ///< waar elke regel van tekst_ begint
     std::vector<std::size_t> ruwe_;    ///< en waar in de ruwe bytes
 };
-
-/// Een tekst past niet in een codering.
-class CodeerFout : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
-
-/// Een tekst in UTF-8, in de bytes van een codering. Gooit CodeerFout met het eerste teken dat er niet in
-/// past.
-std::string codeer(std::string_view utf8, Codering codering);
-
-/// Het regeleinde van één ruwe regel: LF, CR LF of CR in UTF-8; leeg als zij er geen heeft.
-std::string_view geefRegeleinde(std::string_view ruweRegel, Codering codering);
-
-/// De naam van een codering in een melding.
-const char* noemCodering(Codering codering);
 
 }  // namespace cli

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Laat libFuzzer beide doelen van tests/fuzz zoveel seconden bestoken, samen: fuzz.sh [SECONDEN], zonder
+# Laat libFuzzer de doelen van tests/fuzz zoveel seconden bestoken, samen: fuzz.sh [SECONDEN], zonder
 # getal 60. Begint bij de invoer in tests/fuzz/corpus; wat erbij komt blijft in bouw/fuzz/corpus voor een
 # volgende keer. Bij een vondst is de afloopstatus 1 en staat de invoer die haar herhaalt in bouw/fuzz.
 set -euo pipefail
@@ -36,6 +36,8 @@ beschrijf() {
 installeer "${pakketten_bouw[@]}" clang libclang-rt-14-dev
 bouw fuzz
 totaal=0
-bestook knip "$(((seconden + 1) / 2))"
-bestook instellingen "$(((seconden + 1) / 2))"
+doelen=(knip ontleding instellingen)
+for doel in "${doelen[@]}"; do
+    bestook "$doel" "$(((seconden + ${#doelen[@]} - 1) / ${#doelen[@]}))"
+done
 echo "Fuzzen: $totaal runs in $seconden seconden, geen vondsten"

@@ -33,8 +33,9 @@ MarkerMasker::MarkerMasker(const wxString& marker, Jokers jokers)
     }
 }
 
+// Een "?" verandert daar niets aan: hij staat altijd ergens achter de "*" van het masker.
 bool MarkerMasker::pastOpElkeRegel() const {
-    return geefAnker().empty() && !heeftVraagteken_;
+    return geefAnker().empty();
 }
 
 // Een regel kan alleen passen als alle stukken er op volgorde in staan. Zonder "?" is dat ook genoeg; met

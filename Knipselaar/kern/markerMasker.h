@@ -33,7 +33,7 @@ class MarkerMasker {
     /// De marker, met zijn jokers.
     const wxString& geefMarker() const { return marker_; }
 
-    /// Of elke regel past, omdat de marker leeg is of alleen uit "*" bestaat.
+    /// Of elke regel past, omdat de marker leeg is of alleen jokers heeft.
     bool pastOpElkeRegel() const;
 
     /// Of een regel past.

@@ -43,7 +43,9 @@ void Ontleder::neemStaart(std::string_view regel) {
         meld(nummer_, Soort::beginZonderRegeleinde);
     } else if (isEind(regel)) {
         meld(nummer_, Soort::eindZonderRegeleinde);
-    } else {
+    } else if (!reeks_.draagtMarker(regel)) {
+        // Wie een beginmarker draagt en er toch geen is, omdat een marker op elke regel past, is er ook niet
+        // bijna een.
         meldBijna(regel);
     }
 }

@@ -145,12 +145,17 @@ TEST(MarkerMasker, NeemtJokersLetterlijkAlsDatMoet) {
 }
 
 TEST(MarkerMasker, WeetOfElkeRegelPast) {
-    for (const char* marker : {"", "*", "***"}) {
+    for (const char* marker : {"", "*", "***", "?", "??", "*?", "?*"}) {
         EXPECT_TRUE(MarkerMasker(marker).pastOpElkeRegel()) << marker;
+        for (const char* regel : {"", "a", "ab"}) {
+            EXPECT_TRUE(past(marker, regel)) << marker;
+        }
     }
-    for (const char* marker : {"?", "*?", "a", "*a*"}) {
+    for (const char* marker : {"a", "*a*", "?a"}) {
         EXPECT_FALSE(MarkerMasker(marker).pastOpElkeRegel()) << marker;
+        EXPECT_FALSE(past(marker, "")) << marker;
     }
+    EXPECT_FALSE(MarkerMasker("?", kern::Jokers::nee).pastOpElkeRegel());
 }
 
 TEST(MarkerMasker, GeeftWatErOmDeMarkerHeenStaat) {

@@ -7,35 +7,26 @@
 #include <random>
 
 #include "Knipselaar/kern/knipper.h"
+#include "tests/hulp/ontleedOrakel.h"
 
 using kern::Bevinding;
 using kern::Bevindingen;
 using kern::Blok;
 using kern::KnipMal;
+using kern::MarkerReeks;
 using kern::Ontleder;
 using kern::Soort;
+using orakel::Ontleding;
+using orakel::toon;
 
 namespace {
 
-/// Zodat een test bij een verschil zegt wat er stond.
-std::string toon(const std::vector<Bevinding>& lijst) {
-    std::string uit;
-    for (const Bevinding& bevinding : lijst) {
-        uit += std::to_string(bevinding.regel) + ":" + std::to_string(static_cast<int>(bevinding.soort)) +
-               "(" + std::to_string(bevinding.blokBegin) + "-" + std::to_string(bevinding.blokEind) + ") ";
-    }
-    return uit;
-}
-
-struct Uitslag {
-    std::vector<Blok> blokken;
-    Bevindingen bevindingen;
-};
-
 /// Ontleedt een tekst uit een editor, in stukken van hoogstens zoveel regels.
-Uitslag ontleed(const KnipMal& mal, std::string_view tekst, std::size_t regelsPerStuk = 1000) {
-    Uitslag uitslag;
-    Ontleder ontleder(mal.geefMarkers(), [&uitslag](const Blok& blok) { uitslag.blokken.push_back(blok); });
+Ontleding ontleed(const MarkerReeks& reeks, std::string_view tekst, std::size_t regelsPerStuk = 1000,
+                  std::size_t hoogstens = Ontleder::onbeperkt) {
+    Ontleding uitslag;
+    Ontleder ontleder(
+        reeks, [&uitslag](const Blok& blok) { uitslag.blokken.push_back(blok); }, hoogstens);
     while (tekst.find('\n') != std::string_view::npos) {
         std::size_t einde = 0;
         for (std::size_t regel = 0;
@@ -52,50 +43,15 @@ Uitslag ontleed(const KnipMal& mal, std::string_view tekst, std::size_t regelsPe
 
 void verwacht(const std::vector<Bevinding>& verwacht, const char* begin, const char* eind,
               std::string_view tekst) {
-    EXPECT_EQ(toon(verwacht), toon(ontleed(KnipMal({begin, eind, "V"}), tekst).bevindingen.lijst)) << tekst;
-}
-
-/// De regels van een tekst zoals een editor ze telt, elk met haar regeleinde.
-std::vector<std::string> splits(std::string_view tekst) {
-    std::vector<std::string> regels{""};
-    for (const char teken : tekst) {
-        regels.back() += teken;
-        if (teken == '\n') {
-            regels.emplace_back();
-        }
-    }
-    return regels;
-}
-
-/// Wat er van een tekst overblijft als wat de ontleding een blok noemt wegvalt.
-std::string knipNaarOntleding(std::string_view tekst, const Uitslag& uitslag, const std::string& vervanging) {
-    const auto regels = splits(tekst);
-    std::string uit;
-    std::size_t volgende = 0;
-    std::vector<Blok> blokken = uitslag.blokken;
-    if (uitslag.bevindingen.open > 0) {
-        blokken.push_back({.begin = {},
-                           .eind = {},
-                           .beginNummer = uitslag.bevindingen.open,
-                           .eindNummer = regels.size() + 1});
-    }
-    for (const Blok& blok : blokken) {
-        for (; volgende + 1 < blok.beginNummer; ++volgende) {
-            uit += regels[volgende];
-        }
-        uit += blok.eindNummer > blok.beginNummer + 1 ? vervanging : "";
-        volgende = blok.eindNummer;
-    }
-    for (; volgende < regels.size(); ++volgende) {
-        uit += regels[volgende];
-    }
-    return uit;
+    const KnipMal mal({begin, eind, "V"});
+    EXPECT_EQ(toon(verwacht), toon(ontleed(mal.geefMarkers(), tekst).bevindingen.lijst)) << tekst;
 }
 
 }  // namespace
 
 TEST(Ontleding, IsBijEenGoedeTekstZonderBevindingen) {
-    const auto uitslag = ontleed(KnipMal({"B", "E", "V"}), "a\nB\nx\nE\nc\nB\ny\nz\nE\n");
+    const KnipMal mal({"B", "E", "V"});
+    const auto uitslag = ontleed(mal.geefMarkers(), "a\nB\nx\nE\nc\nB\ny\nz\nE\n");
     EXPECT_EQ("", toon(uitslag.bevindingen.lijst));
     EXPECT_EQ(2U, uitslag.bevindingen.blokken);
     EXPECT_EQ(0U, uitslag.bevindingen.open);
@@ -111,7 +67,8 @@ TEST(Ontleding, IsBijEenGoedeTekstZonderBevindingen) {
 }
 
 TEST(Ontleding, ZegtNietsVanEenLegeTekst) {
-    const auto uitslag = ontleed(KnipMal({"", "", "V"}), "");
+    const KnipMal mal({"", "", "V"});
+    const auto uitslag = ontleed(mal.geefMarkers(), "");
     EXPECT_EQ("", toon(uitslag.bevindingen.lijst));
     EXPECT_EQ(0U, uitslag.bevindingen.blokken);
 }
@@ -142,11 +99,22 @@ TEST(Ontleding, ZegtEenmaalDatEenMarkerLeegIs) {
     verwacht({{1, Soort::geenBlok}, {1, Soort::eindOpElkeRegel}}, "B", "", "a\nc\n");
     verwacht({{1, Soort::beginOpElkeRegel}, {1, Soort::eindOpElkeRegel}, {1, Soort::leegBlok}}, "", "",
              "a\nb\n");
+    verwacht({{1, Soort::beginOpElkeRegel}}, "?", "E", "a\nb\nE\n");
+}
+
+TEST(Ontleding, NoemtWatEenMarkerDraagtNietBijnaEenMarker) {
+    verwacht({{1, Soort::eindOpElkeRegel}, {1, Soort::zonderEind}}, "B", "", "B\nB");
+    verwacht({{1, Soort::eindOpElkeRegel}, {1, Soort::zonderEind}, {2, Soort::bijnaBegin, 1, 0}}, "B", "",
+             "B\nb");
+    const MarkerReeks reeks({{.begin = kern::MarkerMasker(""), .eind = kern::MarkerMasker("E")},
+                             {.begin = kern::MarkerMasker("B"), .eind = kern::MarkerMasker("F")}});
+    EXPECT_EQ(toon({{1, Soort::beginOpElkeRegel}, {1, Soort::zonderEind}}),
+              toon(ontleed(reeks, "x\nB").bevindingen.lijst));
 }
 
 TEST(Ontleding, KentMarkersDieMiddenInEenTekenVanElkaarVerschillen) {
     const auto mal = KnipMal({wxString::FromUTF8("€₫"), wxString::FromUTF8("€₭"), "V"});
-    const auto uitslag = ontleed(mal, "a\n€₫\nx\n€₭\n€₭\n");
+    const auto uitslag = ontleed(mal.geefMarkers(), "a\n€₫\nx\n€₭\n€₭\n");
     EXPECT_EQ(1U, uitslag.blokken.size());
     EXPECT_EQ(toon({{5, Soort::zonderBegin}}), toon(uitslag.bevindingen.lijst));
 }
@@ -203,9 +171,9 @@ TEST(Ontleding, ZegtPreciesWatHetKnippenDoet) {
         tekst += kies(2) == 0 ? "" : stukken[kies(stukken.size())];
         const auto& [begin, eind] = markers[kies(markers.size())];
         const KnipMal mal({begin, eind, "V\n"});
-        const auto uitslag = ontleed(mal, tekst, 1 + kies(4));
+        const auto uitslag = ontleed(mal.geefMarkers(), tekst, 1 + kies(4));
         metBlok += uitslag.blokken.empty() ? 0 : 1;
-        ASSERT_EQ(kern::knipTekst(tekst, mal).tekst, knipNaarOntleding(tekst, uitslag, "V\n"))
+        ASSERT_EQ(kern::knipTekst(tekst, mal).tekst, orakel::knipBlokken(tekst, uitslag, "V\n"))
             << tekst << "\n"
             << begin << " " << eind;
         ASSERT_EQ(uitslag.blokken.size() + (uitslag.bevindingen.open > 0 ? 1 : 0),
@@ -214,8 +182,42 @@ TEST(Ontleding, ZegtPreciesWatHetKnippenDoet) {
             uitslag.bevindingen.lijst.begin(), uitslag.bevindingen.lijst.end(),
             [](const Bevinding& een, const Bevinding& ander) { return een.regel < ander.regel; }))
             << toon(uitslag.bevindingen.lijst);
-        ASSERT_EQ(toon(ontleed(mal, tekst).bevindingen.lijst), toon(uitslag.bevindingen.lijst))
+        ASSERT_EQ(toon(ontleed(mal.geefMarkers(), tekst)), toon(uitslag))
             << "in hoeveel stukken maakt niet uit";
     }
     EXPECT_LT(2000, metBlok);
+}
+
+TEST(Ontleding, GaatMetMeerParenRegelVoorRegel) {
+    std::mt19937 toeval(11);
+    const std::vector<std::string> markers{"B",  "E",          "C",          "F",         "",    "*",  "?",
+                                           "BC", "<stuk>*<in", "<stuk>*uit", "stuk>*<in", "B?E", "b#", "é"};
+    const std::vector<std::string> stukken{
+        "B",          "E",         "b",           "x",          "C", "F", "",   "B E", "BC",       "BxE",
+        "<stuk><in>", "<stuk>uit", "<stuk> <in ", "#STUK> uit", "e", "f", "/b", "É",   "x <stuk>", "\t"};
+    const auto kies = [&toeval](std::size_t aantal) {
+        return std::uniform_int_distribution<std::size_t>(0, aantal - 1)(toeval);
+    };
+    int metMeer = 0;
+    for (int ronde = 0; ronde < 20'000; ++ronde) {
+        std::vector<kern::Markerpaar> paren;
+        const std::size_t soorten = kies(4) == 0 ? markers.size() : 4;
+        for (std::size_t aantal = 1 + kies(4); paren.size() < aantal;) {
+            const auto kiesMarker = [&] { return wxString::FromUTF8(markers[kies(soorten)]); };
+            paren.push_back(
+                {.begin = kern::MarkerMasker(kiesMarker()), .eind = kern::MarkerMasker(kiesMarker())});
+        }
+        std::string tekst;
+        for (std::size_t regels = kies(12); regels > 0; --regels) {
+            tekst += stukken[kies(stukken.size())] + "\n";
+        }
+        tekst += stukken[kies(stukken.size())];
+        const std::size_t hoogstens = kies(2) == 0 ? Ontleder::onbeperkt : kies(5);
+        const MarkerReeks reeks(paren);
+        const auto uitslag = ontleed(reeks, tekst, 1 + kies(4), hoogstens);
+        metMeer += paren.size() > 1 && !uitslag.blokken.empty() ? 1 : 0;
+        ASSERT_EQ(toon(orakel::ontleed(tekst, orakel::Staart::regel, paren, hoogstens)), toon(uitslag))
+            << tekst;
+    }
+    EXPECT_LT(2000, metMeer);
 }
