@@ -10,6 +10,7 @@
 #include "KnipselaarCli/bestanden.h"
 #include "KnipselaarCli/boom.h"
 #include "KnipselaarCli/fout.h"
+#include "KnipselaarCli/geefregel.h"
 #include "KnipselaarCli/links.h"
 #include "KnipselaarCli/regels.h"
 
@@ -46,8 +47,8 @@ class RegelLezer {
 
 }  // namespace
 
-Bewijsstof verzamelStof(const Brontekst& bron, std::span<const kern::Blok> blokken,
-                        std::span<const kern::Markerpaar> paren, std::size_t lengte) {
+Bewijsstof verzamelStof(const Brontekst& bron, const Ontleding& ontleding, const Teksten& teksten,
+                        std::size_t lengte) {
     Bewijsstof stof;
     RegelLezer lezer(bron);
     const auto neemWeg = [&](std::size_t nummer, std::string_view inhoud) {
@@ -56,8 +57,14 @@ Bewijsstof verzamelStof(const Brontekst& bron, std::span<const kern::Blok> blokk
             stof.weg.push_back({.merk = maakMerk(kern), .regel = nummer});
         }
     };
+    const auto neemGebleven = [&](std::string_view inhoud) {
+        const std::string_view kern = snoei(inhoud);
+        if (telTekens(kern) > lengte) {
+            stof.gebleven.push_back(maakMerk(kern));
+        }
+    };
     const auto neemNaast = [&](std::size_t nummer, std::string_view inhoud) {
-        for (const kern::Markerpaar& paar : paren) {
+        for (const kern::Markerpaar& paar : teksten.markers.geefParen()) {
             for (const kern::MarkerMasker* marker : {&paar.begin, &paar.eind}) {
                 if (marker->past(inhoud)) {
                     const auto [ervoor, erachter] = marker->geefOmheen(inhoud);
@@ -67,21 +74,28 @@ Bewijsstof verzamelStof(const Brontekst& bron, std::span<const kern::Blok> blokk
             }
         }
     };
+    const auto neemUitBlok = [&](std::size_t nummer, std::string_view inhoud) {
+        neemWeg(nummer, inhoud);
+        if (const auto geefregel = zoekGeefregel(inhoud, teksten.geef)) {
+            neemGebleven(geefregel->maakTekst(inhoud));
+        }
+    };
     const std::string_view tekst = bron.geefTekst();
-    auto blok = blokken.begin();
+    auto blok = ontleding.blokken.begin();
+    auto weg = ontleding.weg.begin();
     std::size_t nummer = 1;
     for (std::size_t plek = 0; plek < tekst.size(); ++nummer) {
         const std::size_t volgende = tekst.find('\n', plek) + 1;
         const std::string_view inhoud = lezer.lees(tekst.substr(plek, volgende - plek));
-        if (blok == blokken.end() || plek < blok->begin.begin) {
-            const std::string_view kern = snoei(inhoud);
-            if (telTekens(kern) > lengte) {
-                stof.gebleven.push_back(maakMerk(kern));
-            }
+        if (weg != ontleding.weg.end() && plek == weg->begin) {
+            neemNaast(nummer, inhoud);
+            ++weg;
+        } else if (blok == ontleding.blokken.end() || plek < blok->begin.begin) {
+            neemGebleven(inhoud);
         } else if (plek == blok->begin.begin) {
             neemNaast(nummer, inhoud);
         } else if (plek < blok->eind.begin) {
-            neemWeg(nummer, inhoud);
+            neemUitBlok(nummer, inhoud);
         } else {
             neemNaast(nummer, inhoud);
             ++blok;
@@ -163,13 +177,16 @@ void Bewijs::leesBestandNa(const std::string& pad, Nalezing& uit) const {
 
 /// Wat er over een regel van de bestemming te melden is; leeg als zij er mag staan.
 std::string Bewijs::beoordeel(std::string_view regel) const {
+    const std::string_view kern = snoei(regel);
+    if (!toegestaan_.empty() && std::binary_search(toegestaan_.begin(), toegestaan_.end(), kern)) {
+        return {};
+    }
     if (markers_.draagtMarker(regel)) {
         return "er staat nog een markerregel";
     }
     if (markers_.lijktOpMarker(regel)) {
         return "er staat een regel die bijna een marker is";
     }
-    const std::string_view kern = snoei(regel);
     if (weg_.empty() || telTekens(kern) <= lengte_) {
         return {};
     }

@@ -12,6 +12,7 @@
 
 #include "KnipselaarCli/brontekst.h"
 #include "KnipselaarCli/ontleding.h"
+#include "KnipselaarCli/teksten.h"
 
 namespace cli {
 
@@ -32,11 +33,11 @@ struct Bewijsstof {
     std::vector<Regelmerk> gebleven;
 };
 
-/// @param paren   van de ontleding die de blokken gaf: wat er op een markerregel naast de marker staat, valt
-///                ook weg.
-/// @param lengte  regels van meer dan zoveel tekens tellen, de blanco tekens eromheen niet meegerekend.
-Bewijsstof verzamelStof(const Brontekst& bron, std::span<const kern::Blok> blokken,
-                        std::span<const kern::Markerpaar> paren, std::size_t lengte);
+/// Wat er op een markerregel naast de marker staat, valt ook weg.
+/// @param ontleding  van de bron, met deze teksten.
+/// @param lengte     regels van meer dan zoveel tekens tellen, de blanco tekens eromheen niet meegerekend.
+Bewijsstof verzamelStof(const Brontekst& bron, const Ontleding& ontleding, const Teksten& teksten,
+                        std::size_t lengte);
 
 /// Een plaats in de bestemming waar iets staat dat er niet hoort.
 struct Bewijsvondst {
@@ -53,7 +54,11 @@ struct Nalezing {
 
 class Bewijs {
   public:
-    Bewijs(const kern::MarkerReeks& markers, std::size_t lengte) : markers_(markers), lengte_(lengte) {}
+    /// De markers en wat toegestaan is moeten langer leven.
+    /// @param toegestaan  regels die in de bestemming mogen staan, zonder de blanco tekens eromheen en op
+    ///                    volgorde.
+    Bewijs(const kern::MarkerReeks& markers, std::size_t lengte, std::span<const std::string> toegestaan)
+        : markers_(markers), lengte_(lengte), toegestaan_(toegestaan) {}
 
     /// Voegt de stof van een bestand toe.
     void neem(const std::string& bron, const Bewijsstof& stof);
@@ -81,6 +86,7 @@ class Bewijs {
 
     const kern::MarkerReeks& markers_;
     std::size_t lengte_;
+    std::span<const std::string> toegestaan_;
     std::vector<std::string> bronnen_;
     std::vector<Weggevallen> weg_;  ///< na sluitAf op merk, van elk merk alleen de eerste plaats
     std::vector<Regelmerk> toegelaten_;

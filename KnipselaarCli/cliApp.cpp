@@ -13,6 +13,7 @@
 #include "KnipselaarCli/opties.h"
 #include "KnipselaarCli/plan.h"
 #include "KnipselaarCli/ploeg.h"
+#include "KnipselaarCli/proef.h"
 #include "KnipselaarCli/verslag.h"
 #include "KnipselaarCli/vervanging.h"
 #include "KnipselaarCli/werk.h"
@@ -69,7 +70,8 @@ class Run {
             return misbruikOfStoring;
         }
         keurBlokken();
-        if (opties_.bewijs) {
+        probeer();
+        if (opties_.bewijs && !kern::isOnderbroken()) {
             bewijs();
         }
         if (kern::isOnderbroken()) {
@@ -105,6 +107,11 @@ class Run {
             meldOpmerking("er is nergens een blok gevonden; kijk de markers na",
                           opties_.streng || opties_.bewijs);
         }
+        if (tellingen.gevonden < opties_.minstens) {
+            meldOpmerking("er zijn minder blokken dan --minstens " + std::to_string(opties_.minstens) +
+                              " vraagt: " + std::to_string(tellingen.gevonden),
+                          true);
+        }
     }
 
     /// Zet eerst alles klaar en vast, en vervangt dan pas het eerste bestand. Valt de stroom uit, dan is elk
@@ -118,7 +125,7 @@ class Run {
             return;
         }
         if (opties_.schrijft()) {
-            const std::string bezwaar = vervangAlles(uitslagen, opties_.allesOfNiets);
+            const std::string bezwaar = vervangAlles(uitslagen, opties_);
             if (!bezwaar.empty()) {
                 meldOpmerking(bezwaar, true);
             }
@@ -157,10 +164,39 @@ class Run {
             melder_.meldRun(uitslag.storing, Ernst::fout);
         }
         bewijs_.neem(naam, uitslag.stof);
+        if (opties_.probeer && taak.handeling == Handeling::knip && uitslag.status == Status::geknipt) {
+            teProberen_.push_back(taak.doel);
+        }
         const std::string tekst = verslag_.neem(taak, uitslag);
         if (!tekst.empty()) {
             melder_.schrijf(tekst);
         }
+    }
+
+    /// Elk geknipt bestand heeft nu de bestanden naast zich die erbij horen.
+    void probeer() {
+        Ploeg<Proef> ploeg(
+            teProberen_.size(),
+            [this](std::size_t i) { return cli::probeer(*opties_.probeer, teProberen_[i]); },
+            [] { return !kern::isOnderbroken(); });
+        const std::size_t draden = opties_.taken > 0 ? opties_.taken : std::thread::hardware_concurrency();
+        ploeg.werk(std::min({draden, teProberen_.size(), meesteDraden}), [this](std::size_t, Proef&& proef) {
+            if (kern::isOnderbroken()) {
+                return;
+            }
+            if (!proef.isGelukt()) {
+                const std::string reden = proef.uitkomst.fout
+                                              ? noemReden(proef.uitkomst.fout)
+                                              : "afloop " + std::to_string(proef.uitkomst.afloop);
+                melder_.meld(proef.pad, {.regel = 0,
+                                         .ernst = Ernst::fout,
+                                         .tekst = "de proef mislukt (" + reden + "): " + proef.opdracht});
+            }
+            if (!opties_.stil || !proef.isGelukt()) {
+                melder_.toonUitvoer(proef.uitkomst.uitvoer);
+            }
+            verslag_.neem(proef);
+        });
     }
 
     void bewijs() {
@@ -187,7 +223,9 @@ class Run {
     Plan plan_;
     std::string afhankelijkheden_;
     Verslag verslag_{opties_};
-    Bewijs bewijs_{teksten_.markers, opties_.bewijsLengte.value_or(standaardBewijsLengte)};
+    std::vector<std::string> teProberen_;
+    Bewijs bewijs_{teksten_.markers, opties_.bewijsLengte.value_or(standaardBewijsLengte),
+                   opties_.toegestaan};
 };
 
 /// Wat een hele run tegenhield. Wie om JSON vroeg krijgt ook dan een verslag.

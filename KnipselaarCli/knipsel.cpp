@@ -1,43 +1,42 @@
 #include "KnipselaarCli/knipsel.h"
 
 #include <algorithm>
-#include <functional>
 
 #include "Knipselaar/kern/regelOmzetter.h"
 #include "Knipselaar/kern/regeleinden.h"
-#include "KnipselaarCli/regels.h"
 
 namespace cli {
 
-namespace {
-
-/// De regels van een vervangtekst met dit regeleinde en deze inspringing; een lege regel springt niet in.
-std::string zetRegels(std::string_view vervanging, std::string_view inspringing,
-                      std::string_view regeleinde) {
-    std::string uit;
-    while (!vervanging.empty()) {
-        const std::size_t einde = vervanging.find('\n');
-        const std::string_view regel = vervanging.substr(0, einde);
-        if (!regel.empty()) {
-            uit += inspringing;
-            uit += regel;
-        }
-        uit += regeleinde;
-        vervanging.remove_prefix(einde == std::string_view::npos ? vervanging.size() : einde + 1);
-    }
-    return uit;
-}
-
-}  // namespace
-
 Knipsel::Knipsel(const Brontekst& bron, const Ontleding& ontleding, const KnipWens& wens)
-    : bron_(bron), ontleding_(ontleding), wens_(wens) {
+    : bron_(bron), ontleding_(ontleding), wens_(wens), vulling_(bron, wens) {
+    if (wens.manier == Manier::venster) {
+        vensterVervanging_ = std::string(wens.vervanging) + '\n';
+        return;
+    }
     // Past de vervangtekst niet, dan moet dat blijken voor er iets geschreven is.
     const auto& blokken = ontleding.blokken;
-    const auto vol = std::find_if_not(blokken.begin(), blokken.end(), std::mem_fn(&kern::Blok::isLeeg));
+    const auto vol = std::find_if(blokken.begin(), blokken.end(), [this](const kern::Blok& blok) {
+        return vulling_.heeftVervangtekst(blok);
+    });
     if (vol != blokken.end()) {
-        geefVervanging(*vol);
+        vulling_.geef(*vol);
     }
+}
+
+/// Roept iets aan met elk deel van de tekst dat weggaat en wat ervoor komt, op volgorde.
+template <typename Doe>
+void Knipsel::loopIngrepenAf(const Doe& doe) {
+    auto weg = ontleding_.weg.begin();
+    const auto doeWegTot = [&](std::size_t plek) {
+        for (; weg != ontleding_.weg.end() && weg->begin < plek; ++weg) {
+            doe(*weg, vulling_.geefVoorRegel(*weg));
+        }
+    };
+    for (const kern::Blok& blok : ontleding_.blokken) {
+        doeWegTot(blok.begin.begin);
+        doe(kern::Regel{blok.begin.begin, blok.eind.eind}, geefVervanging(blok));
+    }
+    doeWegTot(bron_.geefTekst().size());
 }
 
 std::string Knipsel::geefInhoud() {
@@ -52,11 +51,11 @@ void Knipsel::geef(const std::function<void(std::string_view)>& uit) {
         return;
     }
     std::size_t plek = 0;
-    for (const kern::Blok& blok : ontleding_.blokken) {
-        uit(geefBlijvend(plek, blok.begin.begin));
-        uit(geefVervanging(blok));
-        plek = blok.eind.eind;
-    }
+    loopIngrepenAf([&](kern::Regel deel, std::string_view nieuw) {
+        uit(geefBlijvend(plek, deel.begin));
+        uit(nieuw);
+        plek = deel.eind;
+    });
     uit(geefBlijvend(plek, bron_.geefTekst().size()));
 }
 
@@ -104,63 +103,24 @@ void Knipsel::zetOm(const std::function<void(std::string_view)>& uit) {
 }
 
 std::string_view Knipsel::geefVervanging(const kern::Blok& blok) {
-    if (blok.isLeeg()) {
-        return {};
+    if (wens_.manier == Manier::getrouw) {
+        return vulling_.geef(blok);
     }
-    return wens_.manier == Manier::venster ? geefVensterVervanging() : geefGetrouweVervanging(blok);
-}
-
-std::string_view Knipsel::geefVensterVervanging() {
-    if (eigen_.empty()) {
-        eigen_.push_back(std::string(wens_.vervanging) + '\n');
-    }
-    return eigen_.back();
-}
-
-/// De vervangtekst in de codering en met het regeleinde van het bestand. Heeft het bestand na het blok niets
-/// meer, ook geen regeleinde, dan krijgt de vervangtekst er ook geen.
-std::string_view Knipsel::geefGetrouweVervanging(const kern::Blok& blok) {
-    const std::string_view ruw = bron_.geefRuw();
-    const std::string_view tekst = bron_.geefTekst();
-    const std::size_t begin = bron_.naarRuw(blok.begin.begin);
-    const std::size_t na = bron_.naarRuw(blok.begin.eind);
-    const std::string_view eigenEinde = geefRegeleinde(ruw.substr(begin, na - begin), bron_.geefCodering());
-    const std::string_view regeleinde = eigenEinde.empty() ? "\n" : eigenEinde;
-    const std::string_view inspringing =
-        wens_.inspringen ? geefInspringing(tekst.substr(blok.begin.begin, blok.begin.eind - blok.begin.begin))
-                         : std::string_view();
-    if (eigen_.empty() || inspringing != vorigeInspringing_ || regeleinde != vorigRegeleinde_) {
-        vorigeInspringing_ = inspringing;
-        vorigRegeleinde_ = regeleinde;
-        const std::string regels = zetRegels(wens_.vervanging, inspringing, regeleinde);
-        try {
-            eigen_.push_back(codeer(regels, bron_.geefCodering()));
-        } catch (const CodeerFout& teken) {
-            throw CodeerFout(std::string("de vervangtekst heeft het teken '") + teken.what() +
-                             "', dat niet in " + noemCodering(bron_.geefCodering()) +
-                             " past; kies een andere tekst of zet het bestand om");
-        }
-    }
-    const std::size_t eind = bron_.naarRuw(blok.eind.begin);
-    const bool zonderEinde = bron_.naarRuw(blok.eind.eind) == ruw.size() &&
-                             geefRegeleinde(ruw.substr(eind), bron_.geefCodering()).empty();
-    const std::size_t teVeel = zonderEinde ? codeer(regeleinde, bron_.geefCodering()).size() : 0;
-    const std::string_view geheel = eigen_.back();
-    return geheel.substr(0, geheel.size() - std::min(teVeel, geheel.size()));
+    return blok.isLeeg() ? std::string_view() : vensterVervanging_;
 }
 
 std::vector<Wijziging> Knipsel::geefWijzigingen() {
     std::vector<Wijziging> uit;
     std::size_t plek = 0;
-    for (const kern::Blok& blok : ontleding_.blokken) {
-        vergelijkRegels({plek, blok.begin.begin}, uit);
+    loopIngrepenAf([&](kern::Regel deel, std::string_view nieuw) {
+        vergelijkRegels({plek, deel.begin}, uit);
         // Op de manier van het venster gaat het merkteken van een eerste regel mee weg.
-        const bool metMerkteken = wens_.manier == Manier::venster && blok.begin.begin == 0;
-        uit.push_back({.begin = metMerkteken ? 0 : bron_.naarRuw(blok.begin.begin),
-                       .eind = bron_.naarRuw(blok.eind.eind),
-                       .nieuw = zoalsGeschreven(geefVervanging(blok))});
-        plek = blok.eind.eind;
-    }
+        const bool metMerkteken = wens_.manier == Manier::venster && deel.begin == 0;
+        uit.push_back({.begin = metMerkteken ? 0 : bron_.naarRuw(deel.begin),
+                       .eind = bron_.naarRuw(deel.eind),
+                       .nieuw = zoalsGeschreven(nieuw)});
+        plek = deel.eind;
+    });
     vergelijkRegels({plek, bron_.geefTekst().size()}, uit);
     return uit;
 }

@@ -3,7 +3,7 @@
 // Wat er na het knippen van een bestand overblijft, als een rij stukken bytes: wat blijft staat nog in de
 // brontekst, wat ervoor in de plaats komt bezit het knipsel zelf.
 
-#include <cstdint>
+#include <cstddef>
 #include <deque>
 #include <functional>
 #include <string>
@@ -12,21 +12,9 @@
 
 #include "KnipselaarCli/brontekst.h"
 #include "KnipselaarCli/ontleding.h"
+#include "KnipselaarCli/vulling.h"
 
 namespace cli {
-
-/// Getrouw: buiten de blokken blijft elke byte staan. Venster: zoals het venster het doet, in UTF-8 met LF en
-/// een regeleinde achter de laatste regel.
-enum class Manier { getrouw, venster };
-
-/// Voor wie het knipsel is. De oplossing is alleen de markers kwijt, en wat er alleen voor de student staat.
-enum class Versie : std::uint8_t { student, oplossing };
-
-struct KnipWens {
-    Manier manier = Manier::getrouw;
-    bool inspringen = false;  ///< de vervangtekst springt in zoals de beginmarker; alleen getrouw
-    std::string_view vervanging;
-};
 
 /// Een stuk van het bestand dat verandert: deze ruwe bytes maken plaats voor andere. Het kan leeg zijn.
 struct Wijziging {
@@ -56,9 +44,9 @@ class Knipsel {
     std::vector<Wijziging> geefWijzigingen();
 
   private:
+    template <typename Doe>
+    void loopIngrepenAf(const Doe& doe);
     std::string_view geefVervanging(const kern::Blok& blok);
-    std::string_view geefVensterVervanging();
-    std::string_view geefGetrouweVervanging(const kern::Blok& blok);
     std::string_view geefBlijvend(std::size_t begin, std::size_t eind) const;
     void zetOm(const std::function<void(std::string_view)>& uit);
     void vergelijkRegels(kern::Regel deel, std::vector<Wijziging>& uit);
@@ -67,11 +55,10 @@ class Knipsel {
     const Brontekst& bron_;
     const Ontleding& ontleding_;
     KnipWens wens_;
-    std::deque<std::string> eigen_;  ///< vervangingen; een deque: wat erin staat blijft op zijn plaats
+    Vulling vulling_;
+    std::string vensterVervanging_;
     std::deque<std::string>
-        geschreven_;                 ///< tekst van de manier "venster" met de regeleinden van dit systeem
-    std::string vorigeInspringing_;  ///< van de laatste in eigen_, met het regeleinde dat volgde
-    std::string vorigRegeleinde_;
+        geschreven_;  ///< tekst van de manier "venster" met de regeleinden van dit systeem
 };
 
 }  // namespace cli

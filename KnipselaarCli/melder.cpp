@@ -83,6 +83,14 @@ void Melder::schrijfMelding(std::string_view voor, Ernst ernst, std::string_view
     schrijfFoutkanaal(regel + maakLeesbaar(tekst) + "\n");
 }
 
+void Melder::toonUitvoer(std::string_view uitvoer) {
+    if (uitvoer.empty()) {
+        return;
+    }
+    wisVoortgang();
+    schrijfFoutkanaal(std::string(uitvoer) + (uitvoer.ends_with('\n') ? "" : "\n"));
+}
+
 void Melder::schrijf(std::string_view tekst) {
     wisVoortgang();
     try {

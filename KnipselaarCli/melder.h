@@ -23,6 +23,9 @@ class Melder {
     /// Iets over de run als geheel, of een storing die zelf zegt waar.
     void meldRun(std::string_view tekst, Ernst ernst);
 
+    /// Wat een ander programma schreef, zoals het is, op het foutkanaal.
+    void toonUitvoer(std::string_view uitvoer);
+
     /// Een uitkomst. Gooit Fout als de standaarduitvoer haar niet wil.
     void schrijf(std::string_view tekst);
 

@@ -128,10 +128,10 @@ class Verwerker {
             opties_.taal = kies<Taal>(std::array{"c"sv, "vhdl"sv, "overig"sv}, waarde, naam_);
         };
         zetters_["maak"] = [this](const std::string& waarde) {
-            opties_.versie = kies<Versie>(std::array{"student"sv, "oplossing"sv}, waarde, naam_);
+            opties_.teksten.versie = kies<Versie>(std::array{"student"sv, "oplossing"sv}, waarde, naam_);
         };
         zetters_["houd"] = [this](const std::string& waarde) {
-            opties_.houd.push_back(leesGetal(waarde, naam_));
+            opties_.teksten.houd.push_back(leesGetal(waarde, naam_));
         };
         zetters_["minstens"] = [this](const std::string& waarde) {
             opties_.minstens = leesGetal(waarde, naam_);
@@ -153,7 +153,9 @@ class Verwerker {
             }
             leesMarkers(neemBestand(waarde), opties_.teksten);
         };
-        zetters_["geef"] = [this](const std::string& waarde) { opties_.geef.push_back(neemPrefix(waarde)); };
+        zetters_["geef"] = [this](const std::string& waarde) {
+            opties_.teksten.geef.push_back(neemPrefix(waarde));
+        };
         zetters_["bewijs-toegestaan"] = [this](const std::string& waarde) {
             loopRegelsAf(leesTekst(neemBestand(waarde)), [this](std::size_t, std::string_view regel) {
                 opties_.toegestaan.emplace_back(snoei(regel));

@@ -45,9 +45,6 @@ struct Opties {
     Manier manier = Manier::getrouw;
     bool inspringen = false;
     bool regelsGelijk = false;
-    Versie versie = Versie::student;
-    std::vector<std::size_t> houd;  ///< nummers van markerparen, vanaf 1
-    std::vector<std::string> geef;  ///< waarmee een regel begint die in een blok voor de student is
 
     bool streng = false;
     std::size_t minstens = 0;  ///< zoveel blokken moeten er zijn

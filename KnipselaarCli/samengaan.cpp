@@ -63,19 +63,20 @@ void keurKeuze(const Opties& opties) {
 }
 
 void keurVorm(const Opties& opties) {
-    const bool isOplossing = opties.versie == Versie::oplossing;
+    const bool isOplossing = opties.teksten.versie == Versie::oplossing;
     if (opties.manier == Manier::venster) {
         if (opties.inspringen) {
             throw Fout("--inspringen gaat niet samen met --als-venster; het venster springt niet in");
         }
-        if (isOplossing || opties.regelsGelijk || !opties.houd.empty() || !opties.geef.empty()) {
+        if (isOplossing || opties.regelsGelijk || !opties.teksten.houd.empty() ||
+            !opties.teksten.geef.empty()) {
             throw Fout(
                 "--maak, --houd, --geef en --regels-gelijk gaan niet samen met --als-venster; het venster "
                 "kent "
                 "ze niet");
         }
     }
-    if (isOplossing && !opties.houd.empty()) {
+    if (isOplossing && !opties.teksten.houd.empty()) {
         throw Fout("--houd gaat niet samen met --maak oplossing; die houdt van elk paar wat erin staat");
     }
 }
@@ -87,7 +88,7 @@ void keurBewijs(const Opties& opties) {
         }
         return;
     }
-    if (opties.versie == Versie::oplossing) {
+    if (opties.teksten.versie == Versie::oplossing) {
         throw Fout("--bewijs gaat niet samen met --maak oplossing; daar staat de oplossing juist in");
     }
     if (opties.versiebeheer) {

@@ -90,6 +90,22 @@ void vulMarkers(const TekstKeuze& keuze, const kern::ParserInstellingen& instell
     teksten.markers = kern::MarkerReeks(std::move(paren));
 }
 
+void vulVersie(const TekstKeuze& keuze, Teksten& teksten) {
+    const std::size_t aantal = teksten.markers.geefParen().size();
+    teksten.houd.assign(aantal, keuze.versie == Versie::oplossing);
+    for (const std::size_t nummer : keuze.houd) {
+        if (nummer == 0 || nummer > aantal) {
+            throw Fout("--houd: er is geen markerpaar " + std::to_string(nummer) + "; kies 1 tot en met " +
+                       std::to_string(aantal));
+        }
+        teksten.houd[nummer - 1] = true;
+    }
+    teksten.geef = keuze.geef;
+    teksten.markersGewoon = teksten.markersGewoon &&
+                            std::all_of(keuze.geef.begin(), keuze.geef.end(),
+                                        [](const std::string& prefix) { return isGewoon(prefix, true); });
+}
+
 void vulVervanging(const TekstKeuze& keuze, const kern::ParserInstellingen& instellingen, Teksten& teksten) {
     const std::array<std::string, aantalTalen> standaard{kern::standaardVervangtekst().utf8_string(),
                                                          std::string(standaardVhdl),
@@ -127,6 +143,7 @@ Teksten bepaalTeksten(const TekstKeuze& keuze) {
         keuze.zonderInstellingen ? geefStandaard() : leesInstellingen();
     Teksten teksten;
     vulMarkers(keuze, instellingen, teksten);
+    vulVersie(keuze, teksten);
     vulVervanging(keuze, instellingen, teksten);
     return teksten;
 }

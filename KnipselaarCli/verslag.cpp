@@ -78,6 +78,10 @@ std::string jsonPaar(const char* naam, std::string_view tekst) {
     return std::string("\"") + naam + "\": " + naarJson(tekst);
 }
 
+std::string jsonRij(const char* naam, const std::string& inhoud) {
+    return std::string("  \"") + naam + "\": [" + inhoud + (inhoud.empty() ? "" : "\n  ") + "],\n";
+}
+
 }  // namespace
 
 std::string naarJson(std::string_view tekst) {
@@ -189,6 +193,19 @@ void Verslag::neem(const Nalezing& nalezing) {
     }
 }
 
+void Verslag::neem(const Proef& proef) {
+    ++proeven_;
+    if (proef.uitkomst.fout) {
+        ++tellingen_.mislukt;
+    } else if (!proef.isGelukt()) {
+        ++mislukteProeven_;
+    }
+    jsonProeven_ += (jsonProeven_.empty() ? "\n    {" : ",\n    {") + jsonPaar("bestand", proef.pad) + ", " +
+                    jsonPaar("opdracht", proef.opdracht) + ", " +
+                    jsonPaar("afloop", static_cast<std::size_t>(proef.uitkomst.afloop)) + ", " +
+                    jsonPaar("uitvoer", proef.uitkomst.uitvoer) + "}";
+}
+
 void Verslag::neemOpmerking(const std::string& opmerking, Ernst ernst) {
     opmerkingIsFout_ = opmerkingIsFout_ || ernst == Ernst::fout;
     jsonOpmerkingen_ += (jsonOpmerkingen_.empty() ? "\n    " : ",\n    ") + naarJson(opmerking);
@@ -198,26 +215,30 @@ Afloop Verslag::geefAfloop() const {
     if (tellingen_.mislukt > 0) {
         return misbruikOfStoring;
     }
-    return tellingen_.fouten > 0 || vondsten_ > 0 || opmerkingIsFout_ ? foutInInvoer : goed;
+    return tellingen_.fouten > 0 || vondsten_ > 0 || mislukteProeven_ > 0 || opmerkingIsFout_ ? foutInInvoer
+                                                                                              : goed;
 }
 
 std::string Verslag::sluitAf(Afloop afloop) const {
     if (opties_.json) {
-        return "{\n  \"bestanden\": [" + jsonBestanden_ + (jsonBestanden_.empty() ? "" : "\n  ") +
-               "],\n  \"bewijs\": [" + jsonBewijs_ + (jsonBewijs_.empty() ? "" : "\n  ") +
-               "],\n  \"opmerkingen\": [" + jsonOpmerkingen_ + (jsonOpmerkingen_.empty() ? "" : "\n  ") +
-               "],\n  \"totaal\": {" + jsonPaar("geknipt", tellingen_.geknipt) + ", " +
-               jsonPaar("ongewijzigd", tellingen_.ongewijzigd) + ", " +
-               jsonPaar("overgenomen", tellingen_.overgenomen) + ", " +
-               jsonPaar("blokken", tellingen_.blokken) + ", " + jsonPaar("fouten", tellingen_.fouten) + ", " +
-               jsonPaar("waarschuwingen", tellingen_.waarschuwingen) + ", " +
-               jsonPaar("mislukt", tellingen_.mislukt) + "},\n  " +
-               jsonPaar("afloop", static_cast<std::size_t>(afloop)) + "\n}\n";
+        return maakJson(afloop);
     }
     // Een filter in een pijp of een makefile vertelt niet wat het deed.
     const bool zwijgt = opties_.stil || opties_.opdracht == Opdracht::verschil || opties_.naarUitvoer() ||
                         (opties_.uit && opties_.schrijft());
     return zwijgt ? std::string() : maakTellingen(afloop);
+}
+
+std::string Verslag::maakJson(Afloop afloop) const {
+    return "{\n" + jsonRij("bestanden", jsonBestanden_) +
+           (opties_.probeer ? jsonRij("proeven", jsonProeven_) : std::string()) +
+           jsonRij("bewijs", jsonBewijs_) + jsonRij("opmerkingen", jsonOpmerkingen_) + "  \"totaal\": {" +
+           jsonPaar("geknipt", tellingen_.geknipt) + ", " + jsonPaar("ongewijzigd", tellingen_.ongewijzigd) +
+           ", " + jsonPaar("overgenomen", tellingen_.overgenomen) + ", " +
+           jsonPaar("blokken", tellingen_.blokken) + ", " + jsonPaar("fouten", tellingen_.fouten) + ", " +
+           jsonPaar("waarschuwingen", tellingen_.waarschuwingen) + ", " +
+           jsonPaar("mislukt", tellingen_.mislukt) + "},\n  " +
+           jsonPaar("afloop", static_cast<std::size_t>(afloop)) + "\n}\n";
 }
 
 std::string Verslag::maakTellingen(Afloop afloop) const {
@@ -240,6 +261,10 @@ std::string Verslag::maakTellingen(Afloop afloop) const {
     }
     if (tellingen_.waarschuwingen > 0) {
         regel += ", " + noemWaarschuwingen(tellingen_.waarschuwingen);
+    }
+    if (proeven_ > 0) {
+        regel += mislukteProeven_ > 0 ? ", " + noem(mislukteProeven_, "proef", "proeven") + " mislukt"
+                                      : ", alle proeven gelukt";
     }
     if (opties_.bewijs) {
         // Bewezen is het alleen als er iets te bewijzen was en alles goed ging.

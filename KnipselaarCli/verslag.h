@@ -8,6 +8,7 @@
 
 #include "KnipselaarCli/bewijs.h"
 #include "KnipselaarCli/fout.h"
+#include "KnipselaarCli/proef.h"
 #include "KnipselaarCli/werk.h"
 
 namespace cli {
@@ -34,6 +35,7 @@ class Verslag {
     std::string neem(const Taak& taak, const Uitslag& uitslag);
 
     void neem(const Nalezing& nalezing);
+    void neem(const Proef& proef);
 
     /// Neemt op wat er over de run als geheel te melden was.
     void neemOpmerking(const std::string& opmerking, Ernst ernst);
@@ -48,13 +50,17 @@ class Verslag {
 
   private:
     std::string maakTellingen(Afloop afloop) const;
+    std::string maakJson(Afloop afloop) const;
     void neemInJson(const Taak& taak, const Uitslag& uitslag);
 
     const Opties& opties_;
     Tellingen tellingen_;
     std::size_t vondsten_ = 0;
+    std::size_t proeven_ = 0;
+    std::size_t mislukteProeven_ = 0;
     bool opmerkingIsFout_ = false;
     std::string jsonBestanden_;
+    std::string jsonProeven_;
     std::string jsonBewijs_;
     std::string jsonOpmerkingen_;
 };

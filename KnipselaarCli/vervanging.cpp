@@ -1,6 +1,7 @@
 #include "KnipselaarCli/vervanging.h"
 
 #include <algorithm>
+#include <numeric>
 #include <set>
 
 #include "Knipselaar/kern/systeem/schijf.h"
@@ -14,6 +15,11 @@ bool isMislukt(const Uitslag& uitslag) {
     return uitslag.status == Status::mislukt || uitslag.status == Status::tegengehouden ||
            std::any_of(uitslag.meldingen.begin(), uitslag.meldingen.end(),
                        [](const Melding& melding) { return melding.ernst == Ernst::fout; });
+}
+
+std::size_t telBlokken(const std::vector<Uitslag>& uitslagen) {
+    return std::accumulate(uitslagen.begin(), uitslagen.end(), std::size_t{0},
+                           [](std::size_t som, const Uitslag& uitslag) { return som + uitslag.blokken; });
 }
 
 /// De reden als er een bestandssysteem niet vast te zetten is.
@@ -55,15 +61,16 @@ void probeer(Uitslag& uitslag, const Doe& doe) {
 
 }  // namespace
 
-std::string vervangAlles(std::vector<Uitslag>& uitslagen, bool allesOfNiets) {
+std::string vervangAlles(std::vector<Uitslag>& uitslagen, const Opties& opties) {
     if (const auto fout = zetAllesVast(uitslagen)) {
         throw Fout("geen enkel bestand is veranderd: de schijf legt niets vast: " + noemReden(fout));
     }
-    if (allesOfNiets) {
+    if (opties.allesOfNiets) {
         for (Uitslag& uitslag : uitslagen) {
             probeer(uitslag, [](const Klaargezet& klaar) { klaar.keur(); });
         }
-        if (std::any_of(uitslagen.begin(), uitslagen.end(), isMislukt)) {
+        if (telBlokken(uitslagen) < opties.minstens ||
+            std::any_of(uitslagen.begin(), uitslagen.end(), isMislukt)) {
             laatAlles(uitslagen);
             return "er ging iets mis; geen enkel bestand is veranderd";
         }

@@ -10,11 +10,10 @@
 namespace cli {
 
 /// Zet wat klaar is eerst vast op de schijf en vervangt dan elk bestand. Wat niet lukt komt in zijn uitslag.
-/// @param allesOfNiets  of er bij een fout of storing in een van de uitslagen niets mag veranderen; wat klaar
-/// was is
-///                      dan gelaten.
-/// @return              wat er over het geheel te zeggen is; leeg als alles kon.
+/// Met --alles-of-niets verandert er niets als er in een van de uitslagen iets misging of er te weinig
+/// blokken zijn; wat klaar was is dan gelaten.
+/// @return  wat er over het geheel te zeggen is; leeg als alles kon.
 /// Gooit Fout, en verandert niets, als de schijf niets vastlegt.
-std::string vervangAlles(std::vector<Uitslag>& uitslagen, bool allesOfNiets);
+std::string vervangAlles(std::vector<Uitslag>& uitslagen, const Opties& opties);
 
 }  // namespace cli

@@ -13,6 +13,7 @@
 #include "KnipselaarCli/boom.h"
 #include "KnipselaarCli/fout.h"
 #include "KnipselaarCli/knipsel.h"
+#include "KnipselaarCli/regels.h"
 #include "KnipselaarCli/verschil.h"
 
 namespace cli {
@@ -76,9 +77,14 @@ class Knipbeurt {
         Inhoud inhoud = leesInhoud(taak_.bron);
         gelezen_ = inhoud.kenmerken;
         const Brontekst bron(std::move(inhoud.bytes), kiesLezing());
-        const Ontleding ontleding = ontleed(bron.geefTekst(), teksten_.markers, geefErnstVanBijna(opties_));
-        uitslag_.blokken = ontleding.blokken.size();
-        if (neemMeldingen(ontleding.meldingen, opties_, uitslag_)) {
+        Ontleding ontleding = ontleed(bron.geefTekst(), teksten_.markers,
+                                      {.bijna = geefErnstVanBijna(opties_),
+                                       .toegestaan = opties_.toegestaan,
+                                       .houd = teksten_.houd,
+                                       .geef = teksten_.geef});
+        uitslag_.blokken = ontleding.gevonden;
+        keurPlaatsInBlok(bron, ontleding);
+        if (neemMeldingen(std::move(ontleding.meldingen), opties_, uitslag_)) {
             knip(bron, ontleding);
         }
         return std::move(uitslag_);
@@ -101,20 +107,46 @@ class Knipbeurt {
         return teksten_.geefVervanging(opties_.taal.value_or(kiesTaal(taak_.bron)));
     }
 
+    KnipWens maakWens() const {
+        return {.manier = opties_.manier,
+                .inspringen = opties_.inspringen,
+                .regelsGelijk = opties_.regelsGelijk,
+                .vervanging = geefVervanging(),
+                .geef = teksten_.geef};
+    }
+
+    /// Lege regels houden de nummers alleen gelijk als er voor een blok niet meer regels komen dan het had.
+    void keurPlaatsInBlok(const Brontekst& bron, Ontleding& ontleding) const {
+        if (!opties_.regelsGelijk) {
+            return;
+        }
+        const KnipWens wens = maakWens();
+        for (const kern::Blok& blok : ontleding.blokken) {
+            if (telVulling(bron.geefTekst(), blok, wens) > telBlok(blok)) {
+                ontleding.voegToe({.regel = blok.beginNummer,
+                                   .ernst = Ernst::waarschuwing,
+                                   .tekst =
+                                       "de vervangtekst heeft meer regels dan het blok; de nummers van de "
+                                       "regels erna verschuiven"});
+            }
+        }
+    }
+
     void knip(const Brontekst& bron, const Ontleding& ontleding) {
         if (opties_.bewijs) {
-            uitslag_.stof = verzamelStof(bron, ontleding.blokken, teksten_.markers.geefParen(),
-                                         opties_.bewijsLengte.value_or(standaardBewijsLengte));
+            uitslag_.stof =
+                verzamelStof(bron, ontleding, teksten_, opties_.bewijsLengte.value_or(standaardBewijsLengte));
         }
         try {
-            Knipsel knipsel(
-                bron, ontleding,
-                {.manier = opties_.manier, .inspringen = opties_.inspringen, .vervanging = geefVervanging()});
+            Knipsel knipsel(bron, ontleding, maakWens());
             verwerk(bron, ontleding, knipsel);
         } catch (const CodeerFout& fout) {
-            const std::size_t regel =
-                kern::telRegeleinden(bron.geefTekst().substr(0, ontleding.blokken.front().begin.begin));
-            uitslag_.meldingen.push_back({.regel = regel + 1, .ernst = Ernst::fout, .tekst = fout.what()});
+            const Vulling vulling(bron, maakWens());
+            const auto blok =
+                std::find_if(ontleding.blokken.begin(), ontleding.blokken.end(),
+                             [&vulling](const kern::Blok& een) { return vulling.heeftVervangtekst(een); });
+            uitslag_.meldingen.push_back(
+                {.regel = blok->beginNummer, .ernst = Ernst::fout, .tekst = fout.what()});
             uitslag_.status = Status::tegengehouden;
         }
     }
@@ -128,7 +160,7 @@ class Knipbeurt {
             uitslag_.verschil = maakVerschil(naam, bron.geefRuw(), knipsel.geefWijzigingen());
         }
         const bool blijft =
-            opties_.terPlaatse && opties_.manier == Manier::getrouw && ontleding.blokken.empty();
+            opties_.terPlaatse && opties_.manier == Manier::getrouw && ontleding.gevonden == 0;
         if (blijft) {
             uitslag_.status = Status::ongewijzigd;
         } else if (opties_.schrijft()) {
@@ -144,18 +176,14 @@ class Knipbeurt {
             uitslag_.regelsEruit = kern::telRegeleinden(knipsel.geefInhoud());
             return;
         }
-        std::size_t weg = 0;
+        const KnipWens wens = maakWens();
+        std::size_t weg = opties_.regelsGelijk ? 0 : ontleding.weg.size();
+        std::size_t erbij = 0;
         for (const kern::Blok& blok : ontleding.blokken) {
-            weg += kern::telRegeleinden(
-                bron.geefTekst().substr(blok.begin.begin, blok.eind.eind - blok.begin.begin));
+            weg += telBlok(blok);
+            erbij += telVulling(bron.geefTekst(), blok, wens);
         }
-        const std::string& vervanging = geefVervanging();
-        const std::size_t erbij =
-            kern::telRegeleinden(vervanging) + (vervanging.empty() || vervanging.ends_with('\n') ? 0 : 1);
-        const auto vervangen =
-            static_cast<std::size_t>(std::count_if(ontleding.blokken.begin(), ontleding.blokken.end(),
-                                                   [](const kern::Blok& blok) { return !blok.isLeeg(); }));
-        uitslag_.regelsEruit = uitslag_.regelsErin - weg + vervangen * erbij;
+        uitslag_.regelsEruit = uitslag_.regelsErin - weg + erbij;
     }
 
     void schrijf(Knipsel& knipsel) {
@@ -227,7 +255,9 @@ std::vector<Melding> keurOvername(std::string_view tekst, const Opties& opties, 
                                          "met --masker of --keuze"});
             }
             heeftMarker = true;
-        } else if (const auto bijna = teksten.markers.lijktOpMarker(inhoud)) {
+        } else if (const auto bijna = teksten.markers.lijktOpMarker(inhoud);
+                   bijna &&
+                   !std::binary_search(opties.toegestaan.begin(), opties.toegestaan.end(), snoei(inhoud))) {
             meldingen.push_back(maakBijnaMelding(nummer, *bijna, geefErnstVanBijna(opties)));
         }
     }

@@ -88,7 +88,11 @@ void Ontleder::sluit(Regel regel) {
         uitslag_.lijst[i].blokEind = nummer_;
     }
     filter_.beoordeel(true);
-    const Blok blok{.begin = begin_, .eind = regel, .beginNummer = beginNummer_, .eindNummer = nummer_};
+    const Blok blok{.begin = begin_,
+                    .eind = regel,
+                    .beginNummer = beginNummer_,
+                    .eindNummer = nummer_,
+                    .paar = static_cast<std::size_t>(paar_ - reeks_.geefParen().data())};
     if (blok.isLeeg()) {
         meld(blok.beginNummer, Soort::leegBlok);
     }

@@ -22,6 +22,7 @@ struct Blok {
     Regel eind;   ///< de regel met de eindmarker
     std::size_t beginNummer;
     std::size_t eindNummer;
+    std::size_t paar = 0;  ///< het nummer van zijn paar in de reeks
 
     /// Of er niets in staat; er komt dan ook geen vervangtekst.
     bool isLeeg() const { return begin.eind == eind.begin; }

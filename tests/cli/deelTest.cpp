@@ -128,10 +128,10 @@ TEST(CliDeel, LeestZuinigDezelfdeBlokken) {
         const std::string inhoud = maker.maak();
         const Brontekst zuinig(Bytes(inhoud), Lezing::zuinig);
         const Brontekst volledig(Bytes(inhoud), Lezing::volledig);
-        const cli::Ontleding een = cli::ontleed(zuinig.geefTekst(), markers, cli::Ernst::waarschuwing);
-        const cli::Ontleding ander = cli::ontleed(volledig.geefTekst(), markers, cli::Ernst::waarschuwing);
+        const cli::Ontleding een = cli::ontleed(zuinig.geefTekst(), markers);
+        const cli::Ontleding ander = cli::ontleed(volledig.geefTekst(), markers);
         ASSERT_EQ(ander.meldingen, een.meldingen) << hulp::toonBytes(inhoud);
-        const cli::KnipWens wens{.manier = Manier::getrouw, .inspringen = true, .vervanging = "X\nY"};
+        const cli::KnipWens wens{.inspringen = true, .vervanging = "X\nY"};
         ASSERT_EQ(cli::Knipsel(volledig, ander, wens).geefInhoud(),
                   cli::Knipsel(zuinig, een, wens).geefInhoud())
             << hulp::toonBytes(inhoud);
@@ -146,12 +146,12 @@ TEST(CliDeel, KniptZoalsDeKern) {
         const std::string inhoud = maker.maakRegels(i % 3 == 0 ? "\n" : i % 3 == 1 ? "\r\n" : "\r");
         // Uit de ruwe bytes wordt pas bij het schrijven wat de kern ervan maakt.
         const Brontekst bron(Bytes(inhoud), i % 2 == 0 ? Lezing::tekst : Lezing::zuinig);
-        const cli::Ontleding ontleding = cli::ontleed(bron.geefTekst(), markers, cli::Ernst::waarschuwing);
+        const cli::Ontleding ontleding = cli::ontleed(bron.geefTekst(), markers);
         if (ontleding.heeftFout()) {
             continue;
         }
         geknipt += ontleding.blokken.empty() ? 0 : 1;
-        const cli::KnipWens wens{.manier = Manier::venster, .inspringen = false, .vervanging = "X"};
+        const cli::KnipWens wens{.manier = Manier::venster, .vervanging = "X"};
         ASSERT_EQ(knipMetKern(inhoud, {"B{", "B}", "X"}), cli::Knipsel(bron, ontleding, wens).geefInhoud())
             << hulp::toonBytes(inhoud);
     }
@@ -165,7 +165,7 @@ TEST(CliDeel, GetrouwLeestAlsHetVenster) {
     for (int i = 0; i < 50'000; ++i) {
         const std::string inhoud = maker.maakRegels(i % 3 == 0 ? "\n" : i % 3 == 1 ? "\r\n" : "\r");
         const Brontekst bron(Bytes(inhoud), Lezing::zuinig);
-        const cli::Ontleding ontleding = cli::ontleed(bron.geefTekst(), markers, cli::Ernst::waarschuwing);
+        const cli::Ontleding ontleding = cli::ontleed(bron.geefTekst(), markers);
         // Valt de enige byte weg die geen UTF-8 is, dan leest wat overblijft anders dan het hele bestand.
         const bool gemengd =
             inhoud.find('\xE9') != std::string::npos && inhoud.find("é") != std::string::npos;
@@ -174,7 +174,7 @@ TEST(CliDeel, GetrouwLeestAlsHetVenster) {
             continue;
         }
         ++geknipt;
-        const cli::KnipWens wens{.manier = Manier::getrouw, .inspringen = false, .vervanging = "X"};
+        const cli::KnipWens wens{.vervanging = "X"};
         const std::string venster = knipMetKern(inhoud, {"B{", "B}", "X"});
         const std::string getrouw = cli::Knipsel(bron, ontleding, wens).geefInhoud();
         ASSERT_TRUE(venster == leesMetKern(getrouw) || (venster + getrouw).empty())

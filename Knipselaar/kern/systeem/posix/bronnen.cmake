@@ -9,6 +9,7 @@ set(kern_systeem_bronnen
   kern/systeem/posix/kenmerken.cpp
   kern/systeem/posix/masker.cpp
   kern/systeem/posix/onderbreking.cpp
+  kern/systeem/posix/opdracht.cpp
   kern/systeem/posix/paden.cpp
   kern/systeem/posix/rechten.cpp
   kern/systeem/posix/schijf.cpp

@@ -12,6 +12,7 @@ set(kern_systeem_bronnen
   kern/systeem/windows/kenmerken.cpp
   kern/systeem/windows/masker.cpp
   kern/systeem/windows/onderbreking.cpp
+  kern/systeem/windows/opdracht.cpp
   kern/systeem/windows/paden.cpp
   kern/systeem/windows/plaats.cpp
   kern/systeem/windows/schijf.cpp
