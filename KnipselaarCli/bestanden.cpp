@@ -97,8 +97,7 @@ kern::Bytes leesStroom(const std::string& pad) {
 Inhoud leesInhoud(const std::string& pad) {
     Inhoud inhoud;
     if (pad == standaardinvoer) {
-        inhoud.kenmerken.rechten = perms::owner_read | perms::owner_write | perms::group_read |
-                                   perms::group_write | perms::others_read | perms::others_write;
+        inhoud.kenmerken.rechten = gewoneRechten;
         inhoud.bytes = leesStandaardinvoer();
         return inhoud;
     }

@@ -19,6 +19,12 @@ namespace cli {
 /// De naam waaronder de standaardinvoer genoemd wordt.
 inline constexpr std::string_view standaardinvoer = "-";
 
+/// Van een bestand dat geen bron heeft; wat de gebruiker zijn bestanden nooit geeft gaat eraf.
+inline constexpr std::filesystem::perms gewoneRechten =
+    std::filesystem::perms::owner_read | std::filesystem::perms::owner_write |
+    std::filesystem::perms::group_read | std::filesystem::perms::group_write |
+    std::filesystem::perms::others_read | std::filesystem::perms::others_write;
+
 /// Wie stukken bytes aanneemt; ze zijn alleen tijdens de aanroep geldig.
 using Ontvanger = std::function<void(std::string_view)>;
 

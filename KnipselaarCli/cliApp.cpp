@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "Knipselaar/kern/systeem/onderbreking.h"
+#include "KnipselaarCli/afhankelijk.h"
 #include "KnipselaarCli/fout.h"
 #include "KnipselaarCli/melder.h"
 #include "KnipselaarCli/opdrachtregel.h"
@@ -41,7 +42,8 @@ class Run {
         : opties_(opties),
           melder_(melder),
           teksten_(bepaalTeksten(opties.teksten)),
-          plan_(maakPlan(opties)) {}
+          plan_(maakPlan(opties)),
+          afhankelijkheden_(opties.afhankelijk ? maakAfhankelijkheden(plan_, opties) : std::string()) {}
 
     Afloop voerUit() {
         for (const std::string& waarschuwing : plan_.waarschuwingen) {
@@ -78,6 +80,11 @@ class Run {
             return misbruikOfStoring;
         }
         const Afloop afloop = verslag_.geefAfloop();
+        if (afloop == goed && opties_.afhankelijk) {
+            schrijfUitvoer(
+                *opties_.afhankelijk, [this](const Ontvanger& uit) { uit(afhankelijkheden_); }, gewoneRechten,
+                Uitvoersoort::bestand);
+        }
         const std::string einde = verslag_.sluitAf(afloop);
         if (!einde.empty()) {
             melder_.schrijf(einde);
@@ -96,7 +103,8 @@ class Run {
     /// een blok in gezeten hebben.
     void keurBlokken() {
         const Tellingen& tellingen = verslag_.geefTellingen();
-        if (plan_.teKnippen > 0 && tellingen.gevonden == 0 && tellingen.mislukt == 0 &&
+        const bool nulIsGoed = opties_.nulBlokken && !opties_.bewijs;
+        if (!nulIsGoed && plan_.teKnippen > 0 && tellingen.gevonden == 0 && tellingen.mislukt == 0 &&
             tellingen.tegengehouden == 0) {
             meldOpmerking("er is nergens een blok gevonden; kijk de markers na",
                           opties_.streng || opties_.bewijs);
@@ -232,6 +240,7 @@ class Run {
     Melder& melder_;
     Teksten teksten_;
     Plan plan_;
+    std::string afhankelijkheden_;
     Verslag verslag_{opties_};
     std::vector<std::string> teProberen_;
     Bewijs bewijs_{teksten_.markers, opties_.bewijsLengte.value_or(standaardBewijsLengte),

@@ -135,6 +135,7 @@ class Verwerker {
         };
         zetters_["minstens"] = [this](const std::string& waarde) {
             opties_.minstens = leesGetal(waarde, naam_);
+            opties_.nulBlokken = opties_.minstens == 0;
         };
         zetters_["bewijs-lengte"] = [this](const std::string& waarde) {
             opties_.bewijsLengte = leesGetal(waarde, naam_);

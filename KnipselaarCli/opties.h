@@ -48,6 +48,7 @@ struct Opties {
 
     bool streng = false;
     std::size_t minstens = 0;  ///< zoveel blokken moeten er zijn
+    bool nulBlokken = false;   ///< met zoveel woorden: geen enkel blok is ook goed
     bool bewijs = false;
     std::optional<std::size_t> bewijsLengte;  ///< standaard standaardBewijsLengte
     std::vector<std::string> toegestaan;  ///< regels die in de bestemming mogen staan, zonder blanco tekens

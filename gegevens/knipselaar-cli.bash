@@ -36,10 +36,6 @@ _knipselaar_cli() {
         mapfile -t COMPREPLY < <(compgen -P "$vooraan" -W 'student oplossing' -- "$huidig")
         return
         ;;
-    -M | --maak)
-        mapfile -t COMPREPLY < <(compgen -P "$vooraan" -W 'student oplossing' -- "$huidig")
-        return
-        ;;
     -n | --naar)
         mapfile -t COMPREPLY < <(compgen -P "$vooraan" -d -- "$huidig")
         return
@@ -56,13 +52,14 @@ _knipselaar_cli() {
         ;;
     esac
     if [[ $huidig == -* ]]; then
-        mapfile -t COMPREPLY < <(compgen -W '--uit --naar --ter-plaatse --recursief --overschrijf --spiegel
-            --alles-of-niets --keuze --masker --weglaten --weglaten-uit --verborgen --versiebeheer --begin --eind
-            --markers-uit --letterlijk --zonder-instellingen --vervang --vervang-uit --vervang-c --vervang-c-uit
-            --vervang-vhdl --vervang-vhdl-uit --vervang-overig --vervang-overig-uit --taal --geef --maak --houd
-            --getrouw --als-venster --inspringen --regels-gelijk --controle --streng --minstens --droog --verschil
-            --bewijs --bewijs-lengte --bewijs-toegestaan --probeer --stil --json --afhankelijk --opties --taken
-            --help --versie' -- "$huidig")
+        mapfile -t COMPREPLY < <(compgen -W '-u --uit -n --naar -t --ter-plaatse -r --recursief -f --overschrijf
+            --spiegel --alles-of-niets -k --keuze -m --masker -w --weglaten --weglaten-uit -x --verborgen
+            --versiebeheer -b --begin -e --eind --markers-uit -l --letterlijk -z --zonder-instellingen -v --vervang
+            --vervang-uit --vervang-c --vervang-c-uit --vervang-vhdl --vervang-vhdl-uit --vervang-overig
+            --vervang-overig-uit -T --taal -G --geef -M --maak --houd -g --getrouw -a --als-venster -i --inspringen
+            --regels-gelijk -c --controle -s --streng --minstens -d --droog -D --verschil -p --bewijs -L
+            --bewijs-lengte --bewijs-toegestaan -P --probeer -q --stil -j --json --afhankelijk -o --opties -J --taken
+            -h --help -V --versie' -- "$huidig")
     else
         mapfile -t COMPREPLY < <(compgen -f -- "$huidig")
     fi

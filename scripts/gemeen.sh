@@ -84,7 +84,7 @@ pakketten_schermlezer=(libatspi2.0-dev at-spi2-core dbus-daemon)
 pakketten_pakket=(build-essential debhelper git librsvg2-bin pandoc)
 pakketten_keur_pakket=(lintian desktop-file-utils appstream man-db)
 pakketten_test=("${pakketten_bediening[@]}" "${pakketten_schermlezer[@]}" libgtest-dev libwayland-dev libxkbcommon-dev
-    librsvg2-bin python3 gcc ghdl x11-utils git patch make man-db sway grim)
+    librsvg2-bin python3 gcc ghdl x11-utils git patch make man-db sway grim pre-commit zsh fish)
 pakketten_windows=(g++-mingw-w64-x86-64-posix cmake ninja-build git dpkg-dev gettext googletest librsvg2-bin imagemagick
     pandoc zip nsis wine wine64)
 pakketten_keur=(git clang clang-format clang-tidy cppcheck libbenchmark-dev libclang-rt-14-dev llvm-14)
