@@ -8,6 +8,7 @@
 #include "Knipselaar/kern/systeem/kenmerken.h"
 #include "Knipselaar/kern/systeem/paden.h"
 #include "KnipselaarCli/bestanden.h"
+#include "KnipselaarCli/bestemming.h"
 #include "KnipselaarCli/boom.h"
 #include "KnipselaarCli/fout.h"
 
@@ -61,29 +62,18 @@ std::string maakSleutel(const std::string& pad) {
     return kern::maakSleutel(maakEcht(pad));
 }
 
-bool isDirectory(const std::string& pad) {
-    kern::Kenmerken kenmerken;
-    return !kern::leesKenmerken(pad, kenmerken) && kenmerken.soort == kern::Bestandssoort::directory;
-}
-
 /// Een directory die deze run maakt, is er straks.
-void keurOuder(const std::string& pad, const Plan& plan) {
+bool maaktOuder(const Plan& plan, const std::string& pad) {
     const std::string ouder = fs::path(pad).parent_path().string();
-    if (ouder.empty() || isDirectory(ouder)) {
-        return;
-    }
-    const std::string sleutel = maakSleutel(ouder);
-    if (std::none_of(plan.taken.begin(), plan.taken.end(), [&sleutel](const Taak& taak) {
-            return taak.handeling == Handeling::maakDirectory && maakSleutel(taak.doel) == sleutel;
-        })) {
-        throw Fout(pad + ": de directory " + ouder + " bestaat niet; maak haar eerst");
-    }
+    return !ouder.empty() && std::any_of(plan.taken.begin(), plan.taken.end(), [&ouder](const Taak& taak) {
+        return taak.handeling == Handeling::maakDirectory && maakSleutel(taak.doel) == maakSleutel(ouder);
+    });
 }
 
 /// Er is een bestand van een gebruiker te verliezen, en een bestemming die er zonder deze regels staat wordt
 /// niet opnieuw gemaakt.
-void keurPlaats(const std::string& pad, const Plan& plan, const std::set<std::string>& gelezen,
-                bool overschrijf) {
+void keurRegelbestand(const std::string& pad, const Plan& plan, const std::set<std::string>& gelezen,
+                      bool overschrijf) {
     if (pad == standaardinvoer) {
         throw Fout("--afhankelijk: '-' kan hier niet; noem een bestand");
     }
@@ -97,7 +87,9 @@ void keurPlaats(const std::string& pad, const Plan& plan, const std::set<std::st
     if (botst) {
         throw Fout(pad + ": is zelf een bron of bestemming; noem met --afhankelijk een ander bestand");
     }
-    keurOuder(pad, plan);
+    if (!maaktOuder(plan, pad)) {
+        keurOuder(pad);
+    }
     kern::Kenmerken kenmerken;
     if (!overschrijf && !kern::leesEigenKenmerken(pad, kenmerken) &&
         !isEerdereUitvoer(pad, Uitvoersoort::bestand)) {
@@ -132,7 +124,7 @@ std::string schrijfNaam(std::string_view naam) {
 
 std::string maakAfhankelijkheden(const Plan& plan, const Opties& opties) {
     const std::set<std::string> gelezen = geefGelezenBestanden(opties);
-    keurPlaats(*opties.afhankelijk, plan, gelezen, opties.overschrijf);
+    keurRegelbestand(*opties.afhankelijk, plan, gelezen, opties.overschrijf);
     std::string teksten;
     std::string los;
     for (const std::string& pad : gelezen) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "Knipselaar/kern/systeem/directory.h"
 #include "Knipselaar/kern/systeem/paden.h"
 #include "KnipselaarCli/fout.h"
 
@@ -120,10 +121,29 @@ void keurBestemmingen(const Plan& plan, const Opties& opties) {
         }
     }
     if (opties.uit) {
-        const std::string ouder = fs::path(*opties.uit).parent_path().string();
-        if (!ouder.empty() && !isDirectory(ouder)) {
-            throw Fout(*opties.uit + ": de directory " + ouder + " bestaat niet; maak haar eerst");
-        }
+        keurOuder(*opties.uit);
+    }
+}
+
+void keurOuder(const std::string& pad) {
+    const std::string ouder = fs::path(pad).parent_path().string();
+    if (!ouder.empty() && !isDirectory(ouder)) {
+        throw Fout(pad + ": de directory " + ouder + " bestaat niet; maak haar eerst");
+    }
+}
+
+void keurPlaats(const std::string& doel) {
+    if (doel.empty()) {
+        return;
+    }
+    std::error_code fout;
+    fs::path directory =
+        fs::absolute(kern::isLink(doel) ? fs::path(maakEcht(doel)) : fs::path(doel)).parent_path();
+    while (!fs::exists(directory, fout) && directory.has_relative_path()) {
+        directory = directory.parent_path();
+    }
+    if (const auto bezwaar = kern::keurSchrijfbaar(directory.string())) {
+        throw Fout(doel + ": kan niet geschreven worden: " + noemReden(bezwaar));
     }
 }
 

@@ -26,6 +26,13 @@ void keurLigging(const std::string& bron, const std::string& naar);
 /// @param delen  van de bron.
 void keurOmweg(const std::string& bron, const std::vector<Boomdeel>& delen, const std::string& naar);
 
+/// De directory waar dit bestand in komt is er.
+void keurOuder(const std::string& pad);
+
+/// Er is op deze plaats te schrijven: in de directory, of in de eerste erboven die er al is. Een lege naam is
+/// overal goed.
+void keurPlaats(const std::string& doel);
+
 /// Elke bestemming is er nog niet, of mag vervangen worden.
 void keurBestemmingen(const Plan& plan, const Opties& opties);
 

@@ -3,227 +3,19 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "Knipselaar/kern/regeleinden.h"
-#include "Knipselaar/kern/systeem/bestand.h"
 #include "Knipselaar/kern/systeem/directory.h"
-#include "Knipselaar/kern/systeem/onderbreking.h"
-#include "Knipselaar/kern/systeem/paden.h"
 #include "Knipselaar/kern/utf8.h"
-#include "KnipselaarCli/bestanden.h"
-#include "KnipselaarCli/boom.h"
+#include "KnipselaarCli/bestemming.h"
 #include "KnipselaarCli/fout.h"
-#include "KnipselaarCli/knipsel.h"
+#include "KnipselaarCli/knipbeurt.h"
 #include "KnipselaarCli/opruiming.h"
 #include "KnipselaarCli/regels.h"
-#include "KnipselaarCli/verschil.h"
 
 namespace cli {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-/// Het aantal regels van een bestand. De kern leest achter het laatste regeleinde meestal nog een lege regel;
-/// die telt niet.
-std::size_t telBestand(const Brontekst& bron) {
-    const std::string_view tekst = bron.geefTekst();
-    const std::size_t laatste = tekst.substr(0, tekst.size() - 1).rfind('\n') + 1;
-    const bool extra = bron.naarRuw(laatste) == bron.geefRuw().size();
-    return kern::telRegeleinden(tekst) - (extra ? 1 : 0);
-}
-
-/// Met een bewijs gaat er niets door dat een marker had moeten zijn.
-Ernst geefErnstVanBijna(const Opties& opties) {
-    return opties.bewijs ? Ernst::fout : Ernst::waarschuwing;
-}
-
-/// Neemt de meldingen over een bestand op. Geeft of het zo verwerkt mag worden.
-bool neemMeldingen(std::vector<Melding> meldingen, const Opties& opties, Uitslag& uitslag) {
-    if (opties.streng) {
-        for (Melding& melding : meldingen) {
-            melding.ernst = Ernst::fout;
-        }
-    }
-    const bool mag = std::none_of(meldingen.begin(), meldingen.end(),
-                                  [](const Melding& melding) { return melding.ernst == Ernst::fout; });
-    uitslag.meldingen = std::move(meldingen);
-    if (!mag) {
-        uitslag.status = Status::tegengehouden;
-    }
-    return mag;
-}
-
-/// Voorspelt of er op een plaats te schrijven is: in de directory, of in de eerste erboven die er al is.
-void keurPlaats(const std::string& doel) {
-    if (doel.empty()) {
-        return;
-    }
-    std::error_code fout;
-    fs::path directory =
-        fs::absolute(kern::isLink(doel) ? fs::path(maakEcht(doel)) : fs::path(doel)).parent_path();
-    while (!fs::exists(directory, fout) && directory.has_relative_path()) {
-        directory = directory.parent_path();
-    }
-    if (const auto bezwaar = kern::keurSchrijfbaar(directory.string())) {
-        throw Fout(doel + ": kan niet geschreven worden: " + noemReden(bezwaar));
-    }
-}
-
-class Knipbeurt {
-  public:
-    Knipbeurt(const Taak& taak, const Opties& opties, const Teksten& teksten, Uitvoersoort soort)
-        : taak_(taak), opties_(opties), teksten_(teksten), soort_(soort) {}
-
-    Uitslag voerUit() {
-        Inhoud inhoud = leesInhoud(taak_.bron);
-        gelezen_ = inhoud.kenmerken;
-        const Brontekst bron(std::move(inhoud.bytes), kiesLezing());
-        Ontleding ontleding = ontleed(bron.geefTekst(), teksten_.markers,
-                                      {.bijna = geefErnstVanBijna(opties_),
-                                       .toegestaan = opties_.toegestaan,
-                                       .houd = teksten_.houd,
-                                       .geef = teksten_.geef});
-        uitslag_.blokken = ontleding.gevonden;
-        keurPlaatsInBlok(bron, ontleding);
-        if (neemMeldingen(std::move(ontleding.meldingen), opties_, uitslag_)) {
-            knip(bron, ontleding);
-        }
-        return std::move(uitslag_);
-    }
-
-  private:
-    Lezing kiesLezing() const {
-        if (opties_.manier == Manier::venster && opties_.opdracht == Opdracht::verschil) {
-            return Lezing::volledig;
-        }
-        if (teksten_.markersGewoon) {
-            return Lezing::zuinig;
-        }
-        return opties_.manier == Manier::venster && !moetTellen() ? Lezing::tekst : Lezing::volledig;
-    }
-
-    bool moetTellen() const { return opties_.json || opties_.opdracht == Opdracht::droog; }
-
-    const std::string& geefVervanging() const {
-        return teksten_.geefVervanging(opties_.taal.value_or(kiesTaal(taak_.bron)));
-    }
-
-    KnipWens maakWens() const {
-        return {.manier = opties_.manier,
-                .inspringen = opties_.inspringen,
-                .regelsGelijk = opties_.regelsGelijk,
-                .vervanging = geefVervanging(),
-                .geef = teksten_.geef};
-    }
-
-    /// Lege regels houden de nummers alleen gelijk als er voor een blok niet meer regels komen dan het had.
-    void keurPlaatsInBlok(const Brontekst& bron, Ontleding& ontleding) const {
-        if (!opties_.regelsGelijk) {
-            return;
-        }
-        const KnipWens wens = maakWens();
-        for (const kern::Blok& blok : ontleding.blokken) {
-            if (telVulling(bron.geefTekst(), blok, wens) > telBlok(blok)) {
-                ontleding.voegToe({.regel = blok.beginNummer,
-                                   .ernst = Ernst::waarschuwing,
-                                   .tekst =
-                                       "de vervangtekst heeft meer regels dan het blok; de nummers van de "
-                                       "regels erna verschuiven"});
-            }
-        }
-    }
-
-    void knip(const Brontekst& bron, const Ontleding& ontleding) {
-        if (opties_.bewijs) {
-            uitslag_.stof =
-                verzamelStof(bron, ontleding, teksten_, opties_.bewijsLengte.value_or(standaardBewijsLengte));
-        }
-        try {
-            Knipsel knipsel(bron, ontleding, maakWens());
-            verwerk(bron, ontleding, knipsel);
-        } catch (const CodeerFout& fout) {
-            const Vulling vulling(bron, maakWens());
-            const auto blok =
-                std::find_if(ontleding.blokken.begin(), ontleding.blokken.end(),
-                             [&vulling](const kern::Blok& een) { return vulling.heeftVervangtekst(een); });
-            uitslag_.meldingen.push_back(
-                {.regel = blok->beginNummer, .ernst = Ernst::fout, .tekst = fout.what()});
-            uitslag_.status = Status::tegengehouden;
-        }
-    }
-
-    void verwerk(const Brontekst& bron, const Ontleding& ontleding, Knipsel& knipsel) {
-        if (moetTellen()) {
-            tel(bron, ontleding, knipsel);
-        }
-        if (opties_.opdracht == Opdracht::verschil) {
-            const std::string naam = taak_.bron == standaardinvoer ? "standaardinvoer" : taak_.bron;
-            uitslag_.verschil = maakVerschil(naam, bron.geefRuw(), knipsel.geefWijzigingen());
-        }
-        const bool blijft =
-            opties_.terPlaatse && opties_.manier == Manier::getrouw && ontleding.gevonden == 0;
-        if (blijft) {
-            uitslag_.status = Status::ongewijzigd;
-        } else if (opties_.schrijft()) {
-            schrijf(knipsel);
-        } else if (opties_.opdracht == Opdracht::droog) {
-            keurPlaats(taak_.doel);
-        }
-    }
-
-    void tel(const Brontekst& bron, const Ontleding& ontleding, Knipsel& knipsel) {
-        uitslag_.regelsErin = telBestand(bron);
-        if (opties_.manier == Manier::venster) {
-            uitslag_.regelsEruit = kern::telRegeleinden(knipsel.geefInhoud());
-            return;
-        }
-        const KnipWens wens = maakWens();
-        std::size_t weg = opties_.regelsGelijk ? 0 : ontleding.weg.size();
-        std::size_t erbij = 0;
-        for (const kern::Blok& blok : ontleding.blokken) {
-            weg += telBlok(blok);
-            erbij += telVulling(bron.geefTekst(), blok, wens);
-        }
-        uitslag_.regelsEruit = uitslag_.regelsErin - weg + erbij;
-    }
-
-    void schrijf(Knipsel& knipsel) {
-        if (kern::isOnderbroken()) {
-            throw Fout(noemReden(std::make_error_code(std::errc::interrupted)));
-        }
-        const Stukken stukken = [this, &knipsel](const Ontvanger& uit) {
-            if (opties_.manier == Manier::getrouw) {
-                knipsel.geef(uit);
-            } else {
-                knipsel.geef([&uit](std::string_view stuk) { kern::geefMetEigenRegeleinden(stuk, uit); });
-            }
-        };
-        if (opties_.terPlaatse) {
-            uitslag_.klaar = std::make_unique<Klaargezet>(taak_.bron, taak_.echt, gelezen_, stukken);
-            const kern::Verlies& verlies = uitslag_.klaar->geefVerlies();
-            if (verlies.isEr()) {
-                uitslag_.meldingen.push_back({.regel = 0,
-                                              .ernst = opties_.streng ? Ernst::fout : Ernst::waarschuwing,
-                                              .tekst = kern::noemVerlies(verlies)});
-            }
-        } else if (taak_.doel.empty()) {
-            try {
-                schrijfAlles(kern::uitvoerkanaal, stukken);
-            } catch (const Fout& fout) {
-                throw Fout(std::string("standaarduitvoer: kan niet geschreven worden: ") + fout.what());
-            }
-        } else {
-            schrijfUitvoer(taak_.doel, stukken, gelezen_.rechten, soort_);
-        }
-    }
-
-    const Taak& taak_;
-    const Opties& opties_;
-    const Teksten& teksten_;
-    Uitvoersoort soort_;
-    kern::Kenmerken gelezen_;  ///< van de bron
-    Uitslag uitslag_;
-};
 
 /// Een directory uit de boom houdt haar rechten; de bestemming zelf is nieuw.
 void maakDirectory(const Taak& taak) {
@@ -298,7 +90,7 @@ void legLink(const Taak& taak) {
 
 Uitslag doe(const Taak& taak, const Opties& opties, const Teksten& teksten, Uitvoersoort soort) {
     if (taak.handeling == Handeling::knip) {
-        return Knipbeurt(taak, opties, teksten, soort).voerUit();
+        return knipBestand(taak, opties, teksten, soort);
     }
     if (taak.handeling == Handeling::neemOver) {
         return neemOver(taak, opties, teksten, soort);

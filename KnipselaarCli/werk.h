@@ -1,42 +1,13 @@
 #pragma once
 
-// Eén taak van het plan uitvoeren: lezen, nakijken, knippen en schrijven. Elke taak staat op zichzelf en mag
-// naast andere lopen.
+// Eén taak van het plan uitvoeren: knippen, overnemen, of wat er verder in een boom staat. Elke taak staat op
+// zichzelf en mag naast andere lopen.
 
-#include <cstdint>
-#include <memory>
-#include <string>
-#include <vector>
-
-#include "KnipselaarCli/bestanden.h"
-#include "KnipselaarCli/bewijs.h"
-#include "KnipselaarCli/ontleding.h"
-#include "KnipselaarCli/opties.h"
 #include "KnipselaarCli/plan.h"
+#include "KnipselaarCli/teksten.h"
+#include "KnipselaarCli/uitslag.h"
 
 namespace cli {
-
-enum class Status : std::uint8_t {
-    geknipt,        ///< of, als er niets geschreven mag worden, in orde om te knippen
-    ongewijzigd,    ///< ter plaatse: er viel niets te knippen
-    overgenomen,    ///< als bestand, link of directory
-    opgeruimd,      ///< of, als er niets geschreven mag worden, wat dan weggaat
-    gelaten,        ///< ter plaatse: knippen kon, maar elders ging iets mis en dan verandert er niets
-    tegengehouden,  ///< de invoer klopt niet; er is niets geschreven
-    mislukt         ///< niet te lezen of te schrijven
-};
-
-struct Uitslag {
-    Status status = Status::geknipt;
-    std::vector<Melding> meldingen;
-    std::string storing;  ///< bij mislukt: wat er misging
-    std::size_t blokken = 0;
-    std::size_t regelsErin = 0;
-    std::size_t regelsEruit = 0;
-    std::string verschil;
-    Bewijsstof stof;
-    std::unique_ptr<Klaargezet> klaar;  ///< ter plaatse: wat de plaats van het bestand nog in moet nemen
-};
 
 /// Gooit niets; wat er misgaat staat in de uitslag.
 Uitslag voerUit(const Taak& taak, const Opties& opties, const Teksten& teksten, Uitvoersoort soort);
