@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Keurt de code zonder haar te gebruiken zoals een gebruiker: opmaak, cppcheck, een tweede vertaler, clang-tidy, alle
-# tests onder de sanitizers, wat die tests van de code doorliepen, en een minuut toevallige invoer. Elke stap zegt
-# zelf wat eraan schort.
+# tests onder de sanitizers, wat die tests van de code doorliepen, wat draden elkaar afpakken, en een minuut toevallige
+# invoer. Elke stap zegt zelf wat eraan schort.
 set -euo pipefail
 hoofdmap=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$hoofdmap/scripts/gemeen.sh"
@@ -40,5 +40,7 @@ stil "een test faalt onder de sanitizers" onder_sanitizers -L 'kern|venster'
 stil "een test van buiten faalt onder de sanitizers" onder_sanitizers -L eind --repeat until-pass:2
 mapfile -t programmas < <(find "$gekeurd" -type f -executable ! -name '*.so' ! -path '*/CMakeFiles/*' ! -path '*/bench/*')
 als_gebruiker python3 "$hoofdmap/tests/dekking.py" "$hoofdmap" "$gekeurd/dekking" "${programmas[@]}"
+echo "Keuren: draden"
+"$hoofdmap/scripts/keur-draden.sh"
 echo "Keuren: toevallige invoer"
 "$hoofdmap/scripts/fuzz.sh" 60

@@ -125,7 +125,7 @@ pid_t Cli::start(const Woorden& woorden, const Start& hoe, int invoer, int uitvo
         omgeving[naam] = waarde;
     }
     // De sanitizers en de tellers van de dekking krijgen hun instellingen ook uit de omgeving.
-    for (const char* naam : {"ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS", tellingen}) {
+    for (const char* naam : {"ASAN_OPTIONS", "LSAN_OPTIONS", "TSAN_OPTIONS", "UBSAN_OPTIONS", tellingen}) {
         if (const char* waarde = getenv(naam)) {
             omgeving[naam] = waarde;
         }
