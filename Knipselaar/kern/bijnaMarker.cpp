@@ -3,12 +3,27 @@
 #include <wx/crt.h>
 
 #include <algorithm>
+#include <experimental/simd>
+#include <set>
+#include <span>
+#include <utility>
 
 namespace kern {
 
 namespace {
 
+namespace simd = std::experimental;
+
+/// Zoveel bytes als de machine in één stap bekijkt.
+using Vak = simd::native_simd<unsigned char>;
+
 constexpr unsigned char eersteNietAscii = 0x80;
+
+/// Hiermee beginnen in UTF-8 alle letters van West-Europa, kleine en hoofdletters.
+constexpr unsigned char westEuropees = 0xC3;
+
+/// Elke bijzaak en elk regeleinde is minder.
+constexpr unsigned char voorbijBijzaken = '0';
 
 /// De tekens die er voor de gelijkenis niet toe doen, zolang ze ASCII zijn.
 constexpr std::string_view bijzaken = " \t\v\f\r/*-#";
@@ -59,6 +74,44 @@ std::string geefHoofdzaak(const wxString& tekst) {
     return hoofdzaak.utf8_string();
 }
 
+/// Maakt van een kleine letter en haar hoofdletter hetzelfde. Ook van een paar andere tekens; wie er een
+/// vindt, kijkt toch nog.
+template <typename Byte>
+Byte neemLettersSamen(const Byte& byte) {
+    return static_cast<Byte>(byte | Byte(0x20));
+}
+
+/// Bij welke bytes van een vak een regel kan beginnen die op een marker lijkt, bijzaken niet meegeteld. Hun
+/// buren zeggen van bijna elke byte dat het niet zo is; het vak heeft er daarom aan weerszijden nog een.
+/// @param beginnen  van elke marker een vak vol met het eerste teken dat telt, en een met het tweede.
+auto zoekBeginnen(const char* vak, std::span<const char> beginnen) {
+    const Vak ervoor(vak - 1, simd::element_aligned);
+    const Vak hier(vak, simd::element_aligned);
+    const Vak erna(vak + 1, simd::element_aligned);
+    const Vak letter = neemLettersSamen(hier);
+    const Vak volgende = neemLettersSamen(erna);
+    const auto geenLetter = erna < voorbijBijzaken || erna >= eersteNietAscii;
+    const auto isVervolg = (erna & Vak(0xC0)) == 0x80;  // van een teken buiten ASCII
+    // Een teken buiten ASCII kan niet meetellen of een kleine letter hebben die ASCII is. Alleen een letter
+    // van West-Europa doet dat nooit, en die komt in teksten veel voor.
+    auto kan = hier >= eersteNietAscii && isVervolg && hier != westEuropees;
+    for (std::size_t plek = 0; plek < beginnen.size(); plek += 2 * Vak::size()) {
+        const Vak eerste(&beginnen[plek], simd::element_aligned);
+        const Vak tweede(&beginnen[plek + Vak::size()], simd::element_aligned);
+        kan |= letter == eerste && (geenLetter || volgende == tweede);
+    }
+    return kan && ervoor < voorbijBijzaken;
+}
+
+/// Hetzelfde aan het begin of het einde van de regels, waar een vak over hun rand heen steekt.
+auto zoekBeginnenAanRand(std::string_view regels, std::size_t plek, std::span<const char> beginnen) {
+    std::array<char, Vak::size() + 2> bytes;
+    bytes.fill('-');  // een bijzaak, en niet met een ander teken samen te nemen: daar begint nooit iets
+    const std::size_t ervoor = plek == 0 ? 0 : 1;
+    regels.copy(bytes.data() + 1 - ervoor, Vak::size() + 1 + ervoor, plek - ervoor);
+    return zoekBeginnen(bytes.data() + 1, beginnen);
+}
+
 }  // namespace
 
 BijnaMarker::BijnaMarker(const wxString& marker) : kern_(geefHoofdzaak(marker)) {
@@ -85,43 +138,65 @@ bool BijnaMarker::lijkt(std::string_view regel) const {
 }
 
 BijnaZoeker::BijnaZoeker(std::vector<BijnaMarker> markers) : markers_(std::move(markers)) {
+    std::set<std::pair<char, char>> beginnen;
     for (const BijnaMarker& marker : markers_) {
         const std::string& hoofdzaak = marker.geefKern();
-        if (hoofdzaak.empty()) {
-            continue;
+        if (hoofdzaak.empty() || hoofdzaak.find('\n') != std::string::npos) {
+            continue;  // daar lijkt geen regel op
         }
-        for (unsigned byte = 0; byte < kanBegin_.size(); ++byte) {
+        beginnen.emplace(hoofdzaak.front(), hoofdzaak.size() == 1 ? '\n' : hoofdzaak[1]);
+        for (unsigned byte = 0; byte < kanEindigen_.size(); ++byte) {
             const char teken = static_cast<char>(byte);
-            const bool kan = !isAscii(teken);
-            const bool begint = teken != '\n' && maakKlein(teken) == hoofdzaak.front();
-            kanBegin_.at(byte) = kanBegin_.at(byte) || kan || begint;
-            const bool volgt = hoofdzaak.size() == 1
-                                   ? teken == '\n'
-                                   : maakKlein(teken) == hoofdzaak[1] || !isAscii(hoofdzaak[1]);
-            kanVolgen_.at(byte) = kanVolgen_.at(byte) || kan || isBijzaak(teken) || volgt;
+            kanEindigen_.at(byte) = kanEindigen_.at(byte) || !isAscii(teken) || !isAscii(hoofdzaak.back()) ||
+                                    maakKlein(teken) == hoofdzaak.back();
         }
+    }
+    for (const auto& [eerste, tweede] : beginnen) {
+        beginnen_.insert(beginnen_.end(), Vak::size(), neemLettersSamen(eerste));
+        beginnen_.insert(beginnen_.end(), Vak::size(), neemLettersSamen(tweede));
     }
 }
 
 std::optional<Regel> BijnaZoeker::zoekRegel(std::string_view regels, std::size_t vanaf) const {
-    const std::size_t voorbij = regels.rfind('\n') + 1;  // nul als er geen hele regel is
-    for (std::size_t begin = vanaf; begin < voorbij;) {
-        std::size_t plek = begin;
-        // Een regeleinde is geen bijzaak.
-        while (isBijzaak(regels[plek])) {
+    std::size_t plek = vanaf;
+    while ((plek = zoekBegin(regels, plek)) != std::string_view::npos) {
+        std::size_t begin = plek;
+        while (begin > vanaf && isBijzaak(regels[begin - 1])) {
+            --begin;
+        }
+        if (begin > vanaf && regels[begin - 1] != '\n') {
             ++plek;
+            continue;
         }
-        // Twee tekens zeggen van bijna elke regel dat zij op geen marker lijkt. Staat er één, dan is het
-        // tweede haar regeleinde.
-        const bool kan = kanBegin_[static_cast<unsigned char>(regels[plek])] &&
-                         kanVolgen_[static_cast<unsigned char>(regels[plek + 1])];
         const std::size_t einde = regels.find('\n', plek);
-        if (kan && geefMarker(regels.substr(begin, einde - begin))) {
-            return Regel{begin, einde + 1};
+        if (einde == std::string_view::npos) {
+            break;
         }
-        begin = einde + 1;
+        std::size_t laatste = einde;
+        do {
+            --laatste;
+        } while (isBijzaak(regels[laatste]));  // op plek staat er geen
+        plek = einde + 1;
+        if (kanEindigen_[static_cast<unsigned char>(regels[laatste])]) {
+            return Regel{begin, plek};
+        }
     }
     return std::nullopt;
+}
+
+std::size_t BijnaZoeker::zoekBegin(std::string_view regels, std::size_t vanaf) const {
+    if (beginnen_.empty()) {
+        return std::string_view::npos;
+    }
+    for (std::size_t plek = vanaf; plek < regels.size(); plek += Vak::size()) {
+        const bool isRand = plek == 0 || regels.size() - plek <= Vak::size();
+        const auto gevonden = isRand ? zoekBeginnenAanRand(regels, plek, beginnen_)
+                                     : zoekBeginnen(regels.data() + plek, beginnen_);
+        if (simd::any_of(gevonden)) {
+            return plek + static_cast<std::size_t>(simd::find_first_set(gevonden));
+        }
+    }
+    return std::string_view::npos;
 }
 
 std::optional<std::size_t> BijnaZoeker::geefMarker(std::string_view regel) const {

@@ -37,7 +37,8 @@ class BijnaZoeker {
   public:
     explicit BijnaZoeker(std::vector<BijnaMarker> markers);
 
-    /// De eerste regel vanaf een regelbegin die op een marker lijkt.
+    /// De eerste regel vanaf een regelbegin die op een marker kan lijken, naar haar eerste twee tekens en
+    /// haar laatste. Of zij het doet, zegt geefMarker; overslaan doet hij er geen.
     /// @param regels  hele regels in UTF-8, elk gesloten door "\n". Een laatste regel zonder regeleinde telt
     ///                niet mee.
     std::optional<Regel> zoekRegel(std::string_view regels, std::size_t vanaf) const;
@@ -46,9 +47,13 @@ class BijnaZoeker {
     std::optional<std::size_t> geefMarker(std::string_view regel) const;
 
   private:
+    /// Waar vanaf een plaats het eerste teken dat telt van zo'n regel kan staan; npos als dat nergens is. Wat
+    /// er eerder in de regel staat is dan nog niet bekeken.
+    std::size_t zoekBegin(std::string_view regels, std::size_t vanaf) const;
+
     std::vector<BijnaMarker> markers_;
-    std::array<bool, 256> kanBegin_{};   ///< met welke bytes het eerste teken dat telt kan beginnen
-    std::array<bool, 256> kanVolgen_{};  ///< en welke bytes daar meteen achter kunnen staan
+    std::vector<char> beginnen_;           ///< de eerste twee tekens van elke marker, elk een vak vol
+    std::array<bool, 256> kanEindigen_{};  ///< met welke bytes het laatste teken dat telt kan eindigen
 };
 
 }  // namespace kern

@@ -2,12 +2,42 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+#include <string>
+#include <vector>
+
 using kern::BijnaMarker;
 using kern::BijnaZoeker;
 
 namespace {
 
 const wxString standaard = "//**** Student Begin ****//";
+
+using Plekken = std::vector<std::size_t>;
+
+/// Waar de regels beginnen die op een marker lijken, van zoeken naar zoeken.
+Plekken zoekAlle(const BijnaZoeker& zoeker, std::string_view regels) {
+    Plekken plekken;
+    for (auto regel = zoeker.zoekRegel(regels, 0); regel; regel = zoeker.zoekRegel(regels, regel->eind)) {
+        if (zoeker.geefMarker(regels.substr(regel->begin, regel->eind - 1 - regel->begin))) {
+            plekken.push_back(regel->begin);
+        }
+    }
+    return plekken;
+}
+
+/// Dezelfde, regel voor regel.
+Plekken zoekPerRegel(const BijnaZoeker& zoeker, std::string_view regels) {
+    Plekken plekken;
+    std::size_t begin = 0;
+    for (std::size_t einde = 0; (einde = regels.find('\n', begin)) != std::string_view::npos;
+         begin = einde + 1) {
+        if (zoeker.geefMarker(regels.substr(begin, einde - begin))) {
+            plekken.push_back(begin);
+        }
+    }
+    return plekken;
+}
 
 }  // namespace
 
@@ -48,7 +78,7 @@ TEST(BijnaMarker, LijktNietsOpEenMarkerZonderHoofdzaak) {
 
 TEST(BijnaZoeker, VindtDeEersteRegelVanafEenPlaats) {
     const BijnaZoeker zoeker({BijnaMarker("Begin"), BijnaMarker("-- Eind"), BijnaMarker("")});
-    const std::string_view regels = "x\n\n  // begin\nbeginnen\n\t# EIND\n/**\nbegin";
+    const std::string_view regels = "x\n\n  // begin\nbeginne\n\t# EIND\n/**\nbegin";
     const auto eerste = zoeker.zoekRegel(regels, 0);
     ASSERT_TRUE(eerste);
     EXPECT_EQ("  // begin\n", regels.substr(eerste->begin, eerste->eind - eerste->begin));
@@ -71,6 +101,89 @@ TEST(BijnaZoeker, VindtElkeSchrijfwijze) {
         EXPECT_TRUE(zoeker.zoekRegel("x\n" + regel + "\n", 0)) << regel;
     }
     for (const std::string regel : {"", "s", "som", "stop", "bb", "bé", "/*"}) {
+        EXPECT_EQ(Plekken(), zoekAlle(zoeker, "x\n" + regel + "\n")) << regel;
+    }
+}
+
+TEST(BijnaZoeker, SlaatGewoneRegelsOver) {
+    const BijnaZoeker zoeker({BijnaMarker(standaard), BijnaMarker("//**** Student Eind ****//")});
+    for (const std::string regel : {"static int i", "  student = begin;", "// stop", "s", "-- een eind",
+                                    "/****/", "// één begin", "é", "é n"}) {
         EXPECT_FALSE(zoeker.zoekRegel("x\n" + regel + "\n", 0)) << regel;
+    }
+}
+
+TEST(BijnaZoeker, ZoektAlsRegelVoorRegel) {
+    std::mt19937 toeval(13);  // NOLINT(cert-msc51-cpp): elke loop van de test zoekt hetzelfde
+    const auto kies = [&toeval](std::size_t aantal) { return toeval() % aantal; };
+    const auto reeks = [](const std::vector<const char*>& markers) {
+        std::vector<BijnaMarker> bijna;
+        for (const char* marker : markers) {
+            bijna.emplace_back(wxString::FromUTF8(marker));
+        }
+        return BijnaZoeker(bijna);
+    };
+    const std::vector<BijnaZoeker> zoekers{reeks({"// Ab", "// aC"}),
+                                           reeks({"b"}),
+                                           reeks({"", "??", "C"}),
+                                           reeks({"aéb", "ba"}),
+                                           reeks({"Éa", "c\nb"}),
+                                           reeks({"é", "ß"}),
+                                           reeks({"a", "b", "c", "?a"}),
+                                           reeks({"\nab", "_B", "0c", "\x10"}),
+                                           reeks({"", "*"}),
+                                           reeks({"kk", "a\u00A0b"})};
+    const std::vector<std::string> stukjes{
+        "a",    "A",         "b",      "B",      "c",    "C",    "k",  "?",
+        "_",    "0",         "x",      " ",      "\t",   "\v",   "\f", "\r",
+        "/",    "*",         "-",      "#",      "\n",   "\n",   "\n", "\n",
+        "é",    "É",         "\u00A0", "\u212A", "\xE9", "\xA0", "ß",  std::string(1, '\0'),
+        "\x7F", "\x10",      "\x01",   "\x02",   "A ",   "a/b",  "  ", "//  ",
+        "ab\n", "\n// ab\n", "\nAéb\n"};
+    std::size_t gevonden = 0;
+    for (int keer = 0; keer < 40'000; ++keer) {
+        // Met weinig verschillende stukjes staat er eerder iets wat lijkt.
+        std::vector<std::string> alfabet{"\n"};
+        for (std::size_t aantal = 1 + kies(8); aantal > 0; --aantal) {
+            alfabet.push_back(stukjes[kies(stukjes.size())]);
+        }
+        std::string regels;
+        for (std::size_t aantal = kies(120); aantal > 0; --aantal) {
+            regels += alfabet[kies(alfabet.size())];
+        }
+        const BijnaZoeker& zoeker = zoekers[kies(zoekers.size())];
+        const Plekken verwacht = zoekPerRegel(zoeker, regels);
+        ASSERT_EQ(verwacht, zoekAlle(zoeker, regels)) << keer << ": " << testing::PrintToString(regels);
+        gevonden += verwacht.size();
+    }
+    EXPECT_GT(gevonden, 10'000U) << "er moet iets te vinden zijn";
+}
+
+TEST(BijnaZoeker, KijktNietVoorbijHetEinde) {
+    const BijnaZoeker zoeker({BijnaMarker("ab"), BijnaMarker("c")});
+    const std::string geheel = std::string(40, ' ') + "ab\nc\nab\n";
+    for (std::size_t begin = 0; begin <= geheel.size(); ++begin) {
+        for (std::size_t eind = begin; eind <= geheel.size(); ++eind) {
+            // Een eigen kopie: erachter is dan ook niets te lezen.
+            const std::vector<char> deel(geheel.begin() + static_cast<std::ptrdiff_t>(begin),
+                                         geheel.begin() + static_cast<std::ptrdiff_t>(eind));
+            const std::string_view regels(deel.data(), deel.size());
+            ASSERT_EQ(zoekPerRegel(zoeker, regels), zoekAlle(zoeker, regels)) << begin << " " << eind;
+        }
+    }
+}
+
+TEST(BijnaZoeker, BlijftEvenredigMetDeTekst) {
+    const BijnaZoeker zoeker({BijnaMarker("ab"), BijnaMarker(wxString::FromUTF8("é"))});
+    constexpr std::size_t keren = 500'000;
+    for (const std::string stukje :
+         {" ", "/", "a", "a ", " a", "é", " é", " \u00A0", "\xE9 ", "ab ", "x", "a\n", "é\n"}) {
+        std::string regels;
+        for (std::size_t keer = 0; keer < keren; ++keer) {
+            regels += stukje;
+        }
+        const std::size_t verwacht = stukje == "é\n" ? keren : 0;
+        EXPECT_EQ(verwacht, zoekAlle(zoeker, regels).size()) << stukje;
+        EXPECT_EQ(verwacht, zoekAlle(zoeker, regels + "\n").size()) << stukje;
     }
 }
