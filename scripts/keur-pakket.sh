@@ -5,6 +5,7 @@
 #   lintian      wat Debian van een pakket vraagt
 #   bureaublad   de ingang van het startmenu, de beschrijving en de pictogrammen
 #   bladen       de handleidingbladen en de handleiding
+#   gereedschap  wat shells en CMake van het consoleprogramma zoeken, ligt waar zij zoeken
 #   versies      alles noemt dezelfde uitgave
 #   installatie  installeert het, bedient het met het programma TESTS en haalt het weg; 77 als dat niet mag
 set -euo pipefail
@@ -80,6 +81,15 @@ bladen() {
     while IFS= read -r verwijzing; do
         [ -e "$deel/doc/knipselaar/$verwijzing" ] || stop "de handleiding verwijst naar $verwijzing, dat ontbreekt"
     done < <(verwijzingen)
+}
+
+gereedschap() {
+    local pad
+    for pad in share/bash-completion/completions/knipselaar-cli share/zsh/vendor-completions/_knipselaar-cli \
+        share/fish/vendor_completions.d/knipselaar-cli.fish lib/cmake/Knipselaar/KnipselaarConfig.cmake \
+        lib/cmake/Knipselaar/KnipselaarConfigVersion.cmake; do
+        [ -f "$inhoud/usr/$pad" ] || stop "$pad ontbreekt"
+    done
 }
 
 # De eerste uitgave die een bestand noemt, hoort die van het pakket te zijn. $1 is het bestand, $2 het patroon van
@@ -194,7 +204,7 @@ installatie() {
 shift 2
 case $stap in
 maak) maak ;;
-lintian | bureaublad | bladen | versies | installatie)
+lintian | bureaublad | bladen | gereedschap | versies | installatie)
     deb=$(pakket)
     "$stap" "$@"
     ;;
