@@ -193,6 +193,17 @@ TEST_F(CliSpiegel, RuimtNietsOpAlsHetPlanNietKan) {
     EXPECT_EQ(eerst, leesBoom("uit"));
 }
 
+TEST_F(CliSpiegel, GaatNietSamenMetWatGeenBestemmingVerandert) {
+    maak({{"bron/a.c", bron}, {"bron/weg.c", bron}});
+    ASSERT_EQ(0, kniptBoom().status);
+    haalWeg({"bron/weg.c"});
+    const Boom eerst = leesBoom("uit");
+    for (const char* opdracht : {"--controle", "--verschil"}) {
+        EXPECT_EQ(2, kniptBoom({"--spiegel", opdracht}).status);
+    }
+    EXPECT_EQ(eerst, leesBoom("uit"));
+}
+
 TEST_F(CliSpiegel, LaatDeGeschiedenisVanEenVersiebeheerStaan) {
     maak({{"bron/a.c", bron},
           {"bron/.git/config", "c"},
@@ -265,6 +276,7 @@ TEST_F(CliSpiegel, RuimtLinksOpNaarWatWeggaat) {
           {"uit/vier", "-> eigen"},
           {"uit/al-dood", "-> nergens"},
           {"uit/erbuiten", "-> ../uit/weg.c"},
+          {"uit/erlangs", "-> eigen/../../buiten/x"},
           {"uit/goed", "-> a.c"},
           {"uit/naar-m", "-> m"}});
     EXPECT_EQ(goed("1 bestand geknipt, 1 blok, 1 overgenomen, 6 opgeruimd\n"),
@@ -272,6 +284,7 @@ TEST_F(CliSpiegel, RuimtLinksOpNaarWatWeggaat) {
     EXPECT_EQ((Boom{{"a.c", knipselX},
                     {"al-dood", "-> nergens"},
                     {"erbuiten", "-> ../uit/weg.c"},
+                    {"erlangs", "-> eigen/../../buiten/x"},
                     {"goed", "-> a.c"},
                     {"m", "-> a.c"},
                     {"naar-m", "-> m"}}),
