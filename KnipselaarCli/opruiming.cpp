@@ -38,7 +38,7 @@ class Opruimer {
             neem(deel);
         }
         // Wat weggaat kan de laatste zijn in een directory, en wat daarheen wijst gaat dan ook weg.
-        while (ruimLinksOp() + ruimDirectoriesOp() > 0) {
+        while (ruimLinksOp() > 0 || ruimDirectoriesOp() > 0) {
         }
         return std::move(uit_);
     }
