@@ -28,7 +28,7 @@ class Opruimer {
              const std::vector<std::string>& bronnen)
         : naar_(naar), echteNaar_(maakEcht(naar)), soort_(soort), makers_(makers) {
         for (const std::string& bron : bronnen) {
-            bronnen_.insert(maakEcht(bron));
+            bronnen_.insert(kern::maakSleutel(maakEcht(bron)));
         }
     }
 
@@ -38,20 +38,13 @@ class Opruimer {
             neem(deel);
         }
         // Wat weggaat kan de laatste zijn in een directory, en wat daarheen wijst gaat dan ook weg.
-        while (ruimLinksOp() + ruimDirectoriesOp() > 0) {
+        while (ruimLinksOp() > 0 || ruimDirectoriesOp() > 0) {
         }
         return std::move(uit_);
     }
 
   private:
-    /// Hoeveel er van een directory gezien is, en hoeveel daarvan weggaat.
-    struct Telling {
-        std::size_t erin = 0;
-        std::size_t weg = 0;
-    };
-
     void neem(const Boomdeel& deel) {
-        ++tellingen_[geefOuder(deel.pad)].erin;
         const std::string heel = kern::plak(naar_, deel.pad);
         if (makers_(heel) != nullptr) {
             return;
@@ -67,7 +60,8 @@ class Opruimer {
 
     void neemBestand(const std::string& pad, const std::string& heel) {
         const Uitvoerstand stand = keurUitvoer(heel, soort_);
-        if (stand == Uitvoerstand::geen || bronnen_.contains(kern::plak(echteNaar_, pad))) {
+        if (stand == Uitvoerstand::geen ||
+            bronnen_.contains(kern::maakSleutel(kern::plak(echteNaar_, pad)))) {
             return;
         }
         if (stand == Uitvoerstand::veranderd) {
@@ -79,7 +73,7 @@ class Opruimer {
 
     void neemWeg(const std::string& pad) {
         weg_.insert(kern::maakSleutel(pad));
-        ++tellingen_[geefOuder(pad)].weg;
+        ++wegUit_[geefOuder(pad)];
         uit_.weg.push_back(kern::plak(naar_, pad));
     }
 
@@ -122,25 +116,23 @@ class Opruimer {
         });
     }
 
-    /// Of alles in een directory weggaat. Wat een versiebeheer bewaart is bij het lopen niet gezien.
+    /// Of er iets uit een directory weggaat, en dan alles, ook wat bij het lopen niet te zien was: wat een
+    /// versiebeheer bewaart.
     bool wordtLeeg(const std::string& pad) const {
-        const auto telling = tellingen_.find(pad);
-        if (telling == tellingen_.end() || telling->second.weg < telling->second.erin) {
-            return false;
-        }
+        const auto weg = wegUit_.find(pad);
         const LoopWens alles{.verborgen = true, .versiebeheer = true};
-        return loopAf(kern::plak(naar_, pad), alles).size() == telling->second.weg;
+        return weg != wegUit_.end() && loopAf(kern::plak(naar_, pad), alles).size() == weg->second;
     }
 
     const std::string& naar_;
     std::string echteNaar_;
     Uitvoersoort soort_;
     const Makers& makers_;
-    std::set<std::string> bronnen_;             ///< echte paden
-    std::map<std::string, Telling> tellingen_;  ///< per directory
-    std::vector<std::string> links_;            ///< die niets maakt
-    std::vector<std::string> directories_;      ///< die niets maakt
-    std::set<std::string> weg_;                 ///< sleutels
+    std::set<std::string> bronnen_;              ///< sleutels van echte paden
+    std::map<std::string, std::size_t> wegUit_;  ///< hoeveel er uit een directory weggaat
+    std::vector<std::string> links_;             ///< die niets maakt
+    std::vector<std::string> directories_;       ///< die niets maakt
+    std::set<std::string> weg_;                  ///< sleutels
     Opruiming uit_;
 };
 

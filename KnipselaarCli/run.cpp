@@ -63,12 +63,12 @@ class Run {
             doeTaken(directories, opruimen, draden,
                      [this](const Taak& taak, Uitslag&& uitslag) { neem(taak, uitslag); });
         }
-        ruimOp(opruimen);
         melder_.wisVoortgang();
         if (kern::isOnderbroken()) {
             return misbruikOfStoring;
         }
         keurBlokken();
+        ruimOp(opruimen);
         probeer();
         if (opties_.bewijs && !kern::isOnderbroken()) {
             bewijs();
@@ -134,13 +134,12 @@ class Run {
         }
     }
 
-    /// Een bron die niet te lezen was of een fout heeft, mag de student niets kosten.
+    /// Een bron die niet te lezen was, een fout heeft of er niet meer is, mag de student niets kosten.
     void ruimOp(std::size_t eerste) {
         if (plan_.opTeRuimen == 0) {
             return;
         }
-        const Tellingen& tellingen = verslag_.geefTellingen();
-        if (tellingen.mislukt > 0 || tellingen.tegengehouden > 0) {
+        if (verslag_.geefAfloop() != goed || plan_.teKnippen == 0) {
             meldOpmerking("er is niets opgeruimd: eerst moet alles lukken", opties_.streng);
             return;
         }
@@ -200,19 +199,22 @@ class Run {
             if (kern::isOnderbroken()) {
                 return;
             }
-            if (!proef.isGelukt()) {
-                const std::string reden = proef.uitkomst.fout
-                                              ? noemReden(proef.uitkomst.fout)
-                                              : "afloop " + std::to_string(proef.uitkomst.afloop);
-                melder_.meld(proef.pad, {.regel = 0,
-                                         .ernst = Ernst::fout,
-                                         .tekst = "de proef mislukt (" + reden + "): " + proef.opdracht});
-            }
-            if (!opties_.stil || !proef.isGelukt()) {
-                melder_.toonUitvoer(proef.uitkomst.uitvoer);
-            }
+            meldProef(proef);
             verslag_.neem(proef);
         });
+    }
+
+    void meldProef(const Proef& proef) {
+        if (!proef.isGelukt()) {
+            const std::string reden = proef.uitkomst.fout ? noemReden(proef.uitkomst.fout)
+                                                          : "afloop " + std::to_string(proef.uitkomst.afloop);
+            melder_.meld(proef.pad, {.regel = 0,
+                                     .ernst = Ernst::fout,
+                                     .tekst = "de proef mislukt (" + reden + "): " + proef.opdracht});
+        }
+        if (!opties_.stil || !proef.isGelukt()) {
+            melder_.toonUitvoer(proef.uitkomst.uitvoer);
+        }
     }
 
     void bewijs() {

@@ -165,6 +165,24 @@ TEST_F(CliSpiegel, RuimtNietsOpAlsErEenFoutInEenBronIs) {
         << "er was niets op te ruimen";
 }
 
+TEST_F(CliSpiegel, RuimtNietsOpAlsDeBronErNietMeerIs) {
+    maak({{"bron/a.c", bron}, {"bron/weg.c", bron}, {"bron/LEESMIJ", "tekst\n"}});
+    ASSERT_EQ(0, kniptBoom().status);
+    const Boom eerst = leesBoom("uit");
+    haalWeg({"bron/weg.c"});
+    EXPECT_EQ("knipselaar-cli: fout: er zijn minder blokken dan --minstens 2 vraagt: 1\n" + nietsOpgeruimd,
+              kniptBoom({"--spiegel", "--minstens", "2"}).fout);
+    haalWeg({"bron/a.c"});
+    EXPECT_EQ(
+        (Uitkomst{.status = 0,
+                  .uit = "0 bestanden geknipt, 0 blokken, 1 overgenomen\n",
+                  .fout = "knipselaar-cli: waarschuwing: er is geen bestand gekozen om te knippen; kijk "
+                          "--keuze en --masker na\n" +
+                          nietsOpgeruimd}),
+        kniptBoom({"--spiegel"}));
+    EXPECT_EQ(eerst, leesBoom("uit"));
+}
+
 TEST_F(CliSpiegel, RuimtNietsOpAlsErIetsNietTeSchrijvenIs) {
     maak({{"bron/a.c", bron}, {"bron/weg.c", bron}});
     ASSERT_EQ(0, kniptBoom().status);
@@ -190,6 +208,17 @@ TEST_F(CliSpiegel, RuimtNietsOpAlsHetPlanNietKan) {
                              "andere plaats"),
               kniptBoom({"--spiegel"}, {.gewoneGebruiker = true}));
     ASSERT_EQ(0, chmod((map_ / "bron/dicht").c_str(), 0700));
+    EXPECT_EQ(eerst, leesBoom("uit"));
+}
+
+TEST_F(CliSpiegel, GaatNietSamenMetWatGeenBestemmingVerandert) {
+    maak({{"bron/a.c", bron}, {"bron/weg.c", bron}});
+    ASSERT_EQ(0, kniptBoom().status);
+    haalWeg({"bron/weg.c"});
+    const Boom eerst = leesBoom("uit");
+    for (const char* opdracht : {"--controle", "--verschil"}) {
+        EXPECT_EQ(2, kniptBoom({"--spiegel", opdracht}).status);
+    }
     EXPECT_EQ(eerst, leesBoom("uit"));
 }
 
@@ -265,6 +294,7 @@ TEST_F(CliSpiegel, RuimtLinksOpNaarWatWeggaat) {
           {"uit/vier", "-> eigen"},
           {"uit/al-dood", "-> nergens"},
           {"uit/erbuiten", "-> ../uit/weg.c"},
+          {"uit/erlangs", "-> eigen/../../buiten/x"},
           {"uit/goed", "-> a.c"},
           {"uit/naar-m", "-> m"}});
     EXPECT_EQ(goed("1 bestand geknipt, 1 blok, 1 overgenomen, 6 opgeruimd\n"),
@@ -272,6 +302,7 @@ TEST_F(CliSpiegel, RuimtLinksOpNaarWatWeggaat) {
     EXPECT_EQ((Boom{{"a.c", knipselX},
                     {"al-dood", "-> nergens"},
                     {"erbuiten", "-> ../uit/weg.c"},
+                    {"erlangs", "-> eigen/../../buiten/x"},
                     {"goed", "-> a.c"},
                     {"m", "-> a.c"},
                     {"naar-m", "-> m"}}),
