@@ -1,6 +1,7 @@
 // Het consoleprogramma in wat zijn gebruikers al hebben: pre-commit en CMake, elk met het echte gereedschap.
 
 #include <algorithm>
+#include <chrono>
 #include <set>
 
 #include "tests/cli/shell.h"
@@ -76,8 +77,9 @@ class CliCMake : public proef::Shell, public testing::WithParamInterface<const c
 
     /// Geeft een bestand een tijd na die van een ander.
     void raakAan(const std::string& naam, const std::string& na) const {
-        voerScriptUit("touch '" + naam + "'; until [ '" + naam + "' -nt '" + na + "' ]; do touch '" + naam +
-                      "'; done");
+        fs::last_write_time(map_ / naam,
+                            std::max(fs::last_write_time(map_ / naam),
+                                     fs::last_write_time(map_ / na) + std::chrono::milliseconds(1)));
     }
 
     std::string stal_ = (alles_ / "in stal").string();
