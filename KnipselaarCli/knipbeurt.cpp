@@ -39,7 +39,9 @@ class Knipbeurt {
                                        .houd = teksten_.houd,
                                        .geef = teksten_.geef});
         uitslag_.blokken = ontleding.gevonden;
-        keurPlaatsInBlok(bron, ontleding);
+        for (Melding& melding : keurPlaatsInBlok(bron, ontleding)) {
+            ontleding.voegToe(std::move(melding));
+        }
         if (neemMeldingen(std::move(ontleding.meldingen), opties_, uitslag_)) {
             knip(bron, ontleding);
         }
@@ -72,20 +74,22 @@ class Knipbeurt {
     }
 
     /// Lege regels houden de nummers alleen gelijk als er voor een blok niet meer regels komen dan het had.
-    void keurPlaatsInBlok(const Brontekst& bron, Ontleding& ontleding) const {
+    std::vector<Melding> keurPlaatsInBlok(const Brontekst& bron, const Ontleding& ontleding) const {
+        std::vector<Melding> meldingen;
         if (!opties_.regelsGelijk) {
-            return;
+            return meldingen;
         }
         const KnipWens wens = maakWens();
         for (const kern::Blok& blok : ontleding.blokken) {
             if (telVulling(bron.geefTekst(), blok, wens) > telBlok(blok)) {
-                ontleding.voegToe({.regel = blok.beginNummer,
-                                   .ernst = Ernst::waarschuwing,
-                                   .tekst =
-                                       "de vervangtekst heeft meer regels dan het blok; de nummers van de "
-                                       "regels erna verschuiven"});
+                meldingen.push_back({.regel = blok.beginNummer,
+                                     .ernst = Ernst::waarschuwing,
+                                     .tekst =
+                                         "de vervangtekst heeft meer regels dan het blok; de nummers van "
+                                         "de regels erna verschuiven"});
             }
         }
+        return meldingen;
     }
 
     void knip(const Brontekst& bron, const Ontleding& ontleding) {

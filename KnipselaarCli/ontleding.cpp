@@ -76,13 +76,13 @@ class Ontleedbeurt {
         kern::Ontleder ontleder(markers, [&blokken](const kern::Blok& blok) { blokken.push_back(blok); });
         ontleder.neem(tekst_.substr(laag.deel.begin, laag.deel.eind - laag.deel.begin));
         const std::vector<kern::Bevinding> bevindingen = ontleder.maakAf().lijst;
+        for (const kern::Bevinding& bevinding : bevindingen) {
+            neem(bevinding, laag, blokken);
+        }
         if (std::none_of(laag.houd.begin(), laag.houd.end(), std::identity())) {
             neemBlokken(laag, std::move(blokken));
         } else {
             verdeelBlokken(laag, markers, blokken, bevindingen);
-        }
-        for (const kern::Bevinding& bevinding : bevindingen) {
-            neem(bevinding, laag, blokken);
         }
     }
 
@@ -156,7 +156,7 @@ class Ontleedbeurt {
             bevinding.soort == kern::Soort::bijnaBegin || bevinding.soort == kern::Soort::bijnaEind;
         if ((isBijna && (laag.isBinnen || isToegestaan(bevinding.regel))) ||
             ((isAnderPaar(bevinding) || bevinding.soort == kern::Soort::leegBlok) &&
-             ligtInGehouden(bevinding, verschil, laag, blokken))) {
+             ligtInGehouden(bevinding, laag, blokken))) {
             return;
         }
         kern::Bevinding verschoven = bevinding;
@@ -167,10 +167,10 @@ class Ontleedbeurt {
         }
     }
 
-    static bool ligtInGehouden(const kern::Bevinding& bevinding, std::size_t verschil, const Laag& laag,
+    static bool ligtInGehouden(const kern::Bevinding& bevinding, const Laag& laag,
                                const std::vector<kern::Blok>& blokken) {
         const std::size_t begin =
-            (bevinding.soort == kern::Soort::leegBlok ? bevinding.regel : bevinding.blokBegin) + verschil;
+            bevinding.soort == kern::Soort::leegBlok ? bevinding.regel : bevinding.blokBegin;
         const auto blok = std::lower_bound(
             blokken.begin(), blokken.end(), begin,
             [](const kern::Blok& een, std::size_t regel) { return een.beginNummer < regel; });

@@ -154,7 +154,7 @@ void neemOptiebestand(const std::string& pad, Opdrachtregel& uit) {
 
 /// De standaardinvoer geeft haar tekst maar één keer.
 void keurStandaardinvoer(const Opdrachtregel& regel) {
-    std::size_t keren = static_cast<std::size_t>(
+    auto keren = static_cast<std::size_t>(
         std::count(regel.optiebestanden.begin(), regel.optiebestanden.end(), standaardinvoer));
     for (const Woord& woord : regel.woorden) {
         const bool leest =

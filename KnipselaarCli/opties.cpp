@@ -223,7 +223,7 @@ class Verwerker {
 
     /// De blanco tekens waar een regel mee begint tellen niet mee, dus die ervoor ook niet.
     static std::string neemPrefix(const std::string& waarde) {
-        const std::string prefix = waarde.substr(geefInspringing(waarde).size());
+        std::string prefix = waarde.substr(geefInspringing(waarde).size());
         if (prefix.empty()) {
             throw Fout("--geef: de tekst is leeg; geef waarmee een regel voor de student begint");
         }

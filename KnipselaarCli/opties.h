@@ -23,43 +23,40 @@ enum class Bestandskeuze : std::uint8_t { talen, vhdl, alles };
 inline constexpr std::size_t standaardBewijsLengte = 10;
 
 struct Opties {
-    Opdracht opdracht = Opdracht::knip;
     std::vector<std::string> bronnen;
     std::optional<std::string> uit;
     std::optional<std::string> naar;
+    std::vector<std::string> maskers;
+    std::vector<std::string> weglaten;
+    TekstKeuze teksten;
+    std::size_t minstens = 0;                 ///< zoveel blokken moeten er zijn
+    std::optional<std::size_t> bewijsLengte;  ///< standaard standaardBewijsLengte
+    std::vector<std::string> toegestaan;  ///< regels die in de bestemming mogen staan, zonder blanco tekens
+                                          ///< eromheen; op volgorde
+    std::optional<std::string> probeer;
+    std::optional<std::string> afhankelijk;
+    std::vector<std::string> gelezen;  ///< bestanden die voor deze opties gelezen zijn
+    std::size_t taken = 0;             ///< bestanden tegelijk; 0 is wat de machine aankan
+
+    Opdracht opdracht = Opdracht::knip;
+    Manier manier = Manier::getrouw;
+    std::optional<Bestandskeuze> keuze;  ///< standaard talen
+    std::optional<Taal> taal;
     bool naarStandaarduitvoer = false;  ///< met zoveel woorden gevraagd
     bool terPlaatse = false;
     bool allesOfNiets = false;
     bool recursief = false;
     bool overschrijf = false;
     bool spiegel = false;
-
-    std::vector<std::string> maskers;
-    std::vector<std::string> weglaten;
-    std::optional<Bestandskeuze> keuze;  ///< standaard talen
     bool verborgen = false;
     bool versiebeheer = false;
-
-    TekstKeuze teksten;
-    std::optional<Taal> taal;
-    Manier manier = Manier::getrouw;
     bool inspringen = false;
     bool regelsGelijk = false;
-
     bool streng = false;
-    std::size_t minstens = 0;  ///< zoveel blokken moeten er zijn
-    bool nulBlokken = false;   ///< met zoveel woorden: geen enkel blok is ook goed
+    bool nulBlokken = false;  ///< met zoveel woorden: geen enkel blok is ook goed
     bool bewijs = false;
-    std::optional<std::size_t> bewijsLengte;  ///< standaard standaardBewijsLengte
-    std::vector<std::string> toegestaan;  ///< regels die in de bestemming mogen staan, zonder blanco tekens
-                                          ///< eromheen; op volgorde
-    std::optional<std::string> probeer;
-
     bool stil = false;
     bool json = false;
-    std::size_t taken = 0;  ///< bestanden tegelijk; 0 is wat de machine aankan
-    std::optional<std::string> afhankelijk;
-    std::vector<std::string> gelezen;  ///< bestanden die voor deze opties gelezen zijn
 
     /// Of er iets geschreven mag worden.
     bool schrijft() const { return opdracht == Opdracht::knip; }

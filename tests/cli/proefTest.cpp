@@ -26,7 +26,7 @@ TEST_F(CliProef, TeltOfErGenoegBlokkenZijn) {
     EXPECT_EQ((Uitkomst{.status = 1,
                         .uit = "2 bestanden geknipt, 3 blokken\n",
                         .fout = "knipselaar-cli: fout: er zijn minder blokken dan --minstens 4 vraagt: 3\n"}),
-              draai({"--minstens", "4", "a.c", "b.c", "-n", "uit"}));
+              draai({"--minstens", "4", "a.c", "b.c", "-n", "uit2"}));
     EXPECT_EQ((Uitkomst{.status = 1,
                         .uit = "1 bestand in orde, 1 blok\n",
                         .fout = "knipselaar-cli: fout: er zijn minder blokken dan --minstens 2 vraagt: 1\n"}),
@@ -50,7 +50,7 @@ TEST_F(CliProef, LaatToeWatInDeBestemmingMagStaan) {
             "geheime oplossing\n");
     schrijf("mag", "//**** Student Begin ****//\r\n\ten // **** student eind ****  \n");
     schrijf("mag meer", "// **** student eind ****\ngeheime oplossing\n");
-    const proef::Woorden run{"-p", "-v", "X", "-r", "bron", "-n", "uit"};
+    const proef::Woorden run{"-f", "-p", "-v", "X", "-r", "bron", "-n", "uit"};
     const auto metRun = [&run](proef::Woorden woorden) {
         woorden.insert(woorden.end(), run.begin(), run.end());
         return woorden;
@@ -75,7 +75,7 @@ TEST_F(CliProef, LaatEenBijnaMarkerToeDieMagStaan) {
     schrijf("mag", "// **** student begin ****\n// **** student eind ****\n");
     EXPECT_EQ(1, draai({"-p", "-r", "bron", "-n", "uit"}).status);
     EXPECT_EQ(goed("1 bestand geknipt, 1 blok, 1 overgenomen, bewezen schoon\n"),
-              draai({"-p", "--bewijs-toegestaan", "mag", "-r", "bron", "-n", "uit"}));
+              draai({"-f", "-p", "--bewijs-toegestaan", "mag", "-r", "bron", "-n", "uit"}));
 }
 
 TEST_F(CliProef, WeigertWatBijEenBewijsHoort) {

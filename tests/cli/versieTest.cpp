@@ -215,8 +215,8 @@ TEST_F(CliVersie, HetVerschilIsTePassen) {
 
 TEST_F(CliVersie, HetBewijsKentWatDeStudentKrijgt) {
     schrijf("bron/a.c", "<<\n//G int gegeven = 1;\nint geheim = f(42);\n>>\n[[\nint vanGroepA;\n]]\n");
-    const Woorden opties{"-b", "<<", "-e",  ">>", "-b", "[[",   "-e", "]]", "--houd",
-                         "2",  "-G", "//G", "-p", "-r", "bron", "-n", "uit"};
+    const Woorden opties{"-b", "<<", "-e",  ">>", "-b", "[[",   "-e", "]]",  "--houd",
+                         "2",  "-G", "//G", "-p", "-r", "bron", "-n", "uit", "-f"};
     EXPECT_EQ(goed("1 bestand geknipt, 2 blokken, bewezen schoon\n"), draai(opties));
     EXPECT_EQ((Boom{{"a.c", "int gegeven = 1;\nint vanGroepA;\n"}}), leesBoom("uit"));
     schrijf("uit/lek.txt", "int geheim = f(42);\nint gegeven = 1;\nint vanGroepA;\n");
