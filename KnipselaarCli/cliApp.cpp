@@ -32,8 +32,10 @@ void meldEinde(const std::string& reden, bool json) {
 }
 
 Afloop voerUit(const std::vector<std::string>& woorden) {
+    bool json = vraagtJson(woorden);
     try {
         const Opties opties = leesOpties(woorden);
+        json = opties.json;
         Melder melder(opties.stil);
         if (opties.opdracht == Opdracht::help) {
             melder.schrijf(maakHulp());
@@ -46,7 +48,7 @@ Afloop voerUit(const std::vector<std::string>& woorden) {
         return voerRunUit(opties, melder);
     } catch (const std::exception& fout) {
         if (!kern::isOnderbroken()) {
-            meldEinde(fout.what(), vraagtJson(woorden));
+            meldEinde(fout.what(), json);
         }
         return misbruikOfStoring;
     }

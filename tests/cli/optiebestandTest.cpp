@@ -54,6 +54,15 @@ TEST_F(CliOptiebestand, KomtVanDeStandaardinvoerEnNietVanzelf) {
               draai({"-o", "-", "-"}, {.invoer = "-v X\n"}));
 }
 
+TEST_F(CliOptiebestand, VraagtOokOmJsonVanEenRunDieNietKan) {
+    schrijf("opties", "--json\n--controle\n");
+    const Uitkomst uitkomst = draai({"-o", "opties", "weg.c"});
+    EXPECT_EQ(2, uitkomst.status);
+    EXPECT_NE(std::string::npos,
+              uitkomst.uit.find("\"opmerkingen\": [\n    \"weg.c: kan niet gelezen worden"))
+        << uitkomst.uit;
+}
+
 TEST_F(CliOptiebestand, ZegtWaarHetMisgaat) {
     schrijf("a.c", bron);
     const auto lees = [this](const std::string& inhoud) {
