@@ -112,6 +112,11 @@ TEST_F(CliVersie, MeldtEenGeefregelBuitenEenBlok) {
                         .fout = waarschuw("1", "regel van --geef buiten een blok; hij blijft staan") +
                                 waarschuw("8", "regel van --geef buiten een blok; hij blijft staan")}),
               knip("//G a\nB\n//G h\nE\nB\nx\nE\n //G c\n", {"-G", "//G"}));
+    EXPECT_EQ((Uitkomst{.status = 0,
+                        .uit = "//G a\n1\n",
+                        .fout = waarschuw("1", "regel van --geef buiten een blok; hij blijft staan")}),
+              knip("//G a\nB\n1\n//G h\nE\n", {"-G", "//G", "--houd", "1"}))
+        << "ook voor een blok dat blijft";
 }
 
 TEST_F(CliVersie, HoudtEenPaar) {
