@@ -219,15 +219,17 @@ TEST_F(CliVersie, HetVerschilIsTePassen) {
 }
 
 TEST_F(CliVersie, HetBewijsKentWatDeStudentKrijgt) {
-    schrijf("bron/a.c", "<<\n//G int gegeven = 1;\nint geheim = f(42);\n>>\n[[\nint vanGroepA;\n]]\n");
+    schrijf("bron/a.c",
+            "<<\n//G int gegeven = 1;\nint geheim = f(42);\n>>\nint naastDeMarker; [[\nint vanGroepA;\n]]\n");
     const Woorden opties{"-b", "<<", "-e",  ">>", "-b", "[[",   "-e", "]]",  "--houd",
                          "2",  "-G", "//G", "-p", "-r", "bron", "-n", "uit", "-f"};
     EXPECT_EQ(goed("1 bestand geknipt, 2 blokken, bewezen schoon\n"), draai(opties));
     EXPECT_EQ((Boom{{"a.c", "int gegeven = 1;\nint vanGroepA;\n"}}), leesBoom("uit"));
-    schrijf("uit/lek.txt", "int geheim = f(42);\nint gegeven = 1;\nint vanGroepA;\n");
+    schrijf("uit/lek.txt", "int geheim = f(42);\nint gegeven = 1;\nint vanGroepA;\nint naastDeMarker;\n");
     EXPECT_EQ((Uitkomst{.status = 1,
-                        .uit = "1 bestand geknipt, 2 blokken, 1 regel te veel in de bestemming\n",
-                        .fout = "uit/lek.txt:1: fout: hier staat de weggelaten regel van bron/a.c:3\n"}),
+                        .uit = "1 bestand geknipt, 2 blokken, 2 regels te veel in de bestemming\n",
+                        .fout = "uit/lek.txt:1: fout: hier staat de weggelaten regel van bron/a.c:3\n"
+                                "uit/lek.txt:4: fout: hier staat de weggelaten regel van bron/a.c:5\n"}),
               draai(opties));
 }
 
