@@ -87,7 +87,7 @@ TEST_F(CliProef, WeigertWatBijEenBewijsHoort) {
 }
 
 TEST_F(CliProef, ProbeertElkGekniptBestand) {
-    schrijf("bron/goed zo.c", bron);
+    schrijf("bron/goed 'zo'.c", bron);
     schrijf("bron/-fout.c", bron + "mis\n");
     schrijf("bron/LEESMIJ", "niet geknipt\n");
     EXPECT_EQ(
@@ -98,7 +98,7 @@ TEST_F(CliProef, ProbeertElkGekniptBestand) {
                           "voor\nX\nna\nmis\nmis\n"
                           "voor\nX\nna\n"}),
         draai({"-v", "X", "-r", "--probeer", "cat <{}; ! grep mis {} >&2 || exit 3", "bron", "-n", "uit"}));
-    EXPECT_EQ(knipselX, lees("uit/goed zo.c")) << "wat geschreven is blijft";
+    EXPECT_EQ(knipselX, lees("uit/goed 'zo'.c")) << "wat geschreven is blijft";
 }
 
 TEST_F(CliProef, ZegtDatAlleProevenLukten) {
@@ -130,6 +130,13 @@ TEST_F(CliProef, EenOpdrachtDieErNietIsEnEenDieDoodgaat) {
                         .uit = {},
                         .fout = "uit.c: fout: de proef mislukt (afloop 143): kill -TERM $$ # 'uit.c'\n"}),
               draai({"-P", "kill -TERM $$ # {}", "a.c", "-u", "uit.c"}));
+}
+
+TEST_F(CliProef, ZietEenNaamNietVoorEenOptieAan) {
+    schrijf("-n", bron);
+    EXPECT_EQ(
+        (Uitkomst{.status = 0, .uit = "1 bestand geknipt, 1 blok, alle proeven gelukt\n", .fout = knipselX}),
+        draai({"-v", "X", "-P", "cat {}", "-t", "--", "-n"}));
 }
 
 TEST_F(CliProef, DeProefKrijgtGeenInvoer) {
