@@ -72,23 +72,34 @@ std::string_view Vulling::geef(const kern::Blok& blok) {
     } else if (!wens_.geef.empty()) {
         geheel = eigen_.emplace_back(maakGeefregels(blok));
     }
-    const Codering codering = bron_.geefCodering();
-    const std::string_view eigenEinde = geefRegeleinde(geefRuw(blok.begin), codering);
-    const std::string regeleinde = codeer(eigenEinde.empty() ? "\n" : eigenEinde, codering);
     if (wens_.regelsGelijk) {
-        std::string& gelijk = eigen_.emplace_back(geheel);
-        const std::string_view tekst = bron_.geefTekst();
-        KnipWens zonder = wens_;
-        zonder.regelsGelijk = false;
-        for (std::size_t i = telVulling(tekst, blok, zonder); i < telBlok(blok); ++i) {
-            gelijk += regeleinde;
-        }
-        geheel = gelijk;
+        geheel = eigen_.emplace_back(std::string(geheel) + maakLegeRegels(blok));
     }
     // Heeft het bestand na het blok niets meer, ook geen regeleinde, dan komt er ook geen.
     const bool zonderEinde = bron_.naarRuw(blok.eind.eind) == bron_.geefRuw().size() &&
-                             geefRegeleinde(geefRuw(blok.eind), codering).empty();
-    return geheel.substr(0, geheel.size() - (zonderEinde ? std::min(regeleinde.size(), geheel.size()) : 0));
+                             geefRegeleinde(geefRuw(blok.eind), bron_.geefCodering()).empty();
+    if (zonderEinde && !geheel.empty()) {
+        geheel.remove_suffix(codeer(kiesRegeleinde(blok), bron_.geefCodering()).size());
+    }
+    return geheel;
+}
+
+/// Het regeleinde van de beginmarker.
+std::string_view Vulling::kiesRegeleinde(const kern::Blok& blok) const {
+    const std::string_view eigenEinde = geefRegeleinde(geefRuw(blok.begin), bron_.geefCodering());
+    return eigenEinde.empty() ? "\n" : eigenEinde;
+}
+
+/// Zoveel lege regels als er voor het blok minder komen dan het er had.
+std::string Vulling::maakLegeRegels(const kern::Blok& blok) const {
+    const std::string regeleinde = codeer(kiesRegeleinde(blok), bron_.geefCodering());
+    KnipWens zonder = wens_;
+    zonder.regelsGelijk = false;
+    std::string uit;
+    for (std::size_t i = telVulling(bron_.geefTekst(), blok, zonder); i < telBlok(blok); ++i) {
+        uit += regeleinde;
+    }
+    return uit;
 }
 
 std::string_view Vulling::geefVoorRegel(kern::Regel regel) const {
@@ -108,8 +119,7 @@ std::string_view Vulling::geefRuw(kern::Regel regel) const {
 
 std::string_view Vulling::geefVervangtekst(const kern::Blok& blok) {
     const Codering codering = bron_.geefCodering();
-    const std::string_view eigenEinde = geefRegeleinde(geefRuw(blok.begin), codering);
-    const std::string_view regeleinde = eigenEinde.empty() ? "\n" : eigenEinde;
+    const std::string_view regeleinde = kiesRegeleinde(blok);
     const std::string_view regel =
         bron_.geefTekst().substr(blok.begin.begin, blok.begin.eind - blok.begin.begin);
     const std::string_view inspringing = wens_.inspringen ? geefInspringing(regel) : std::string_view();

@@ -54,7 +54,9 @@ class Vulling {
 
   private:
     std::string_view geefRuw(kern::Regel regel) const;
+    std::string_view kiesRegeleinde(const kern::Blok& blok) const;
     std::string_view geefVervangtekst(const kern::Blok& blok);
+    std::string maakLegeRegels(const kern::Blok& blok) const;
     std::string maakGeefregels(const kern::Blok& blok) const;
 
     const Brontekst& bron_;
