@@ -152,8 +152,6 @@ void Bediening::typPad(const std::string& titel, const fs::path& pad) const {
         if (!std::exchange(opnieuw, true) || scherm_->isActief(titel)) {
             druk("ctrl+a");
             typ(pad);
-            // Een Return die komt voordat de dialoog alles verwerkt heeft, sluit alleen de aanvulling.
-            volgt([&] { return kijk({"toetsen"}).ends_with("\n" + pad.string()); });
             druk("Return");
             // De eerste Return kan nog de lijst met aanvullingen sluiten.
             if (volgt(isWeg)) {
