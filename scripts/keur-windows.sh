@@ -121,7 +121,7 @@ EOF
     niet=$(sed '/^#/d; s/ .*//' "$hoofdmap/tests/windows/cli-niet.txt" | paste -s -d :)
     # Op een drukke machine verliest een programma soms zijn verbinding met wine zelf; dan gaat het nog eens.
     if ! env KNIPSELAAR_CLI="$werk/knipselaar-cli" "$clitests" --gtest_brief=1 --gtest_filter="-$niet" >"$werk/cli" 2>&1; then
-        nogeens=$(sed -n 's/^\[  FAILED  \] \([^ ]*\) (.*/\1/p' "$werk/cli" | paste -s -d :)
+        nogeens=$(sed -n 's/^\[  FAILED  \] \([^ ,]*\).*/\1/p' "$werk/cli" | paste -s -d :)
         [ -n "$nogeens" ] || stop "de tests van het consoleprogramma houden op: $(tail -3 "$werk/cli")"
         stil "een test van het consoleprogramma faalt onder wine" \
             env KNIPSELAAR_CLI="$werk/knipselaar-cli" "$clitests" --gtest_brief=1 --gtest_filter="$nogeens"
