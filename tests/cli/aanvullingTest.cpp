@@ -90,8 +90,9 @@ TEST_P(CliAanvulling, VultAchterElkeOptieAanWatDaarHoort) {
             verwacht.push_back(!optie.heeftWaarde()      ? bestanden
                                : waarde == waarden.end() ? Namen{}
                                                          : waarde->second);
-            // Achter een optie met een waarde komt geen optie; fish biedt er dan toch een aan.
-            const std::string andere = std::string(optie.lang) == "json" ? "--streng" : "--json";
+            // Achter een optie met een waarde komt geen optie; fish biedt er dan toch een aan. Een latere
+            // fish ook elke waar deze letters op volgorde in staan; dat is er bij deze twee geen.
+            const std::string andere = std::string(optie.lang) == "streng" ? "--letterlijk" : "--streng";
             regels.push_back(vorm + " " + andere);
             verwacht.push_back(optie.heeftWaarde() && shell_ != "fish" ? Namen{} : Namen{andere});
         }
