@@ -114,8 +114,7 @@ class Run {
     }
 
     /// Zet eerst alles klaar en vast, en vervangt dan pas het eerste bestand. Valt de stroom uit, dan is elk
-    /// bestand heel: zoals het was, of geknipt. Wie daarvoor onderbroken wordt heeft niets
-    /// veranderd.
+    /// bestand heel: zoals het was, of geknipt. Wie daarvoor onderbroken wordt heeft niets veranderd.
     void vervang(std::size_t eerste, std::size_t draden) {
         std::vector<Uitslag> uitslagen;
         doeTaken(eerste, plan_.taken.size(), draden,

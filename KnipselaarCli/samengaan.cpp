@@ -72,8 +72,7 @@ void keurVorm(const Opties& opties) {
             !opties.teksten.geef.empty()) {
             throw Fout(
                 "--maak, --houd, --geef en --regels-gelijk gaan niet samen met --als-venster; het venster "
-                "kent "
-                "ze niet");
+                "kent ze niet");
         }
     }
     if (isOplossing && !opties.teksten.houd.empty()) {
