@@ -1,6 +1,6 @@
 # Bijna alle tijd van een bouw gaat naar headers van de toolkit en de tests, voor elke bron opnieuw. Met deze keuze
-# vertaalt elk doel ze één keer. Een vergeten #include valt dan niet op; de bouw zonder tests en die onder de
-# sanitizers doen het daarom zonder.
+# vertaalt elk doel ze één keer. Een vergeten #include valt dan niet op; de bouw onder de sanitizers en die
+# voor Windows doen het daarom zonder.
 option(KNIPSELAAR_VOORVERTAALD "Vertaal headers van anderen één keer voor elk doel" OFF)
 
 # knipselaar_voorvertaal(DOEL HEADER...): headers van anderen die bijna elke bron van het doel leest.
