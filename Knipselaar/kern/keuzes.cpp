@@ -2,14 +2,15 @@
 
 namespace kern {
 
+// Als brede tekst: de toolkit zou een andere bij elk bestand eerst omzetten.
 Brontaal kiesBrontaal(const wxString& extensie) {
-    if (extensie == "cpp" || extensie == "h") {
+    if (extensie == wxS("cpp") || extensie == wxS("h")) {
         return Brontaal::cpp;
     }
-    if (extensie == "c") {
+    if (extensie == wxS("c")) {
         return Brontaal::c;
     }
-    if (extensie == "vhdl" || extensie == "vhd") {
+    if (extensie == wxS("vhdl") || extensie == wxS("vhd")) {
         return Brontaal::vhdl;
     }
     return Brontaal::geen;

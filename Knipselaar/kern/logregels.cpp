@@ -1,6 +1,22 @@
 #include "Knipselaar/kern/logregels.h"
 
+#include <string>
+
 namespace kern {
+
+namespace {
+
+/// Een batch schrijft er voor elk bestand twee; een opmaak uitleggen zou het meeste van het werk zijn.
+wxString maakNummerregel(const wchar_t* begin, long nummer, const wxString& naam) {
+    wxString regel(begin);
+    regel += std::to_wstring(nummer);
+    regel += L':';
+    regel += naam;
+    regel += L'\n';
+    return regel;
+}
+
+}  // namespace
 
 wxString regelOrigineleDirectory(const wxString& pad) {
     return "Originele dir : " + pad + "\n";
@@ -15,15 +31,15 @@ wxString regelTotaal(long aantal, const wxString& pad) {
 }
 
 wxString regelOvergeslagen(long nummer, const wxString& naam) {
-    return wxString::Format("Overgeslagen %ld:", nummer) + naam + "\n";
+    return maakNummerregel(L"Overgeslagen ", nummer, naam);
 }
 
 wxString regelOrigineel(long nummer, const wxString& naam) {
-    return wxString::Format("Orig bestand %ld:", nummer) + naam + "\n";
+    return maakNummerregel(L"Orig bestand ", nummer, naam);
 }
 
 wxString regelStudent(long nummer, const wxString& naam) {
-    return wxString::Format("Student bestand %ld:", nummer) + naam + "\n";
+    return maakNummerregel(L"Student bestand ", nummer, naam);
 }
 
 }  // namespace kern

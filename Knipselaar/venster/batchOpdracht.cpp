@@ -146,10 +146,11 @@ class TerPlaatseBatch : public VensterBatch {
         VensterBatch::meldOvergeslagen(nummer, bestand, reden);
     }
 
-    void meldVerwerkt(long nummer, const wxFileName& bron, const wxFileName& bestemming) override {
+    void meldVerwerkt(long nummer, const wxFileName& bestand, const wxFileName& /*zelfde*/) override {
         bronLog_.geefEditor().SetForegroundColour(blauw_);
-        bronLog_.voegToe(kern::regelOrigineel(nummer, bron.GetFullPath()));
-        doelLog_.voegToe(kern::regelStudent(nummer, bestemming.GetFullPath()));
+        const wxString pad = bestand.GetFullPath();
+        bronLog_.voegToe(kern::regelOrigineel(nummer, pad));
+        doelLog_.voegToe(kern::regelStudent(nummer, pad));
     }
 
   private:
