@@ -74,6 +74,7 @@ void Brontekst::leesSmal(Lezing lezing) {
     const bool schoon = keuring.utf8 && keuring.kort && !keuring.heeftCR;
     direct_ = keuring.regelsGewoon && (schoon || lezing == Lezing::zuinig);
     rauw_ = direct_ && !schoon;
+    alleenLF_ = direct_ && !keuring.heeftCR;
     if (direct_) {
         return;
     }

@@ -41,6 +41,9 @@ class Brontekst {
     /// Of de tekst nog de bytes van het bestand zelf is, en de kern er iets anders van zou maken.
     bool isRauw() const { return rauw_; }
 
+    /// Of vaststaat dat elke regel op een LF eindigt. De laatste kan zonder regeleinde zijn.
+    bool heeftAlleenLF() const { return alleenLF_; }
+
     /// De codering van het hele bestand; een bestand met iets dat geen UTF-8 is, is ISO 8859-1.
     Codering geefCodering() const { return codering_; }
 
@@ -60,6 +63,7 @@ class Brontekst {
     std::size_t merk_ = 0;  ///< bytes van het merkteken
     bool direct_ = false;
     bool rauw_ = false;
+    bool alleenLF_ = false;
     Codering codering_ = Codering::utf8;
     kern::Bytes tekst_;                ///< als zij niet direct uit de inhoud te nemen is
     std::vector<std::size_t> regels_;  ///< waar elke regel van tekst_ begint

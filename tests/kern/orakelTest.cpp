@@ -101,6 +101,9 @@ class Vergelijker {
   public:
     /// Houdt de bestandsvariant tegen het orakel.
     void vergelijk(const std::string& inhoud, const kern::KnipTeksten& teksten) {
+        // Wat een afgekapt bestand vult, schrijft ext4 bij het sluiten meteen naar de schijf; een nieuw niet.
+        std::filesystem::remove(map_ / "in");
+        std::filesystem::remove(map_ / "uit");
         hulp::schrijfBestand(map_ / "in", inhoud);
         const auto uitslag = kern::knipBestand(wxFileName((map_ / "in").string()),
                                                wxFileName((map_ / "uit").string()), teksten);
