@@ -18,7 +18,7 @@ using std::filesystem::perms;
 constexpr std::size_t leesBlok = 256 * 1024;
 /// Eén byte om het einde mee te vinden, en één voor wie er nog iets achter wil.
 constexpr std::size_t kleinsteRuimte = 2;
-constexpr std::size_t schrijfBlok = 256 * 1024;
+constexpr std::size_t schrijfBlok = 128 * 1024;
 
 [[noreturn]] void gooi(const std::string& pad, const char* wat, const std::error_code& fout) {
     throw Fout(pad + ": kan niet " + wat + " worden: " + noemReden(fout));

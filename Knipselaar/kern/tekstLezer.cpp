@@ -8,8 +8,8 @@ namespace kern {
 namespace {
 
 // Het eerste blok is klein: een groot blok klaarleggen kost meer dan een gemiddeld bestand knippen. Daarna
-// verdubbelt het.
-constexpr std::size_t grootsteBlok = 256 * 1024;
+// verdubbelt het, zolang het met wat er van gemaakt wordt ruim in de cache van één kern past.
+constexpr std::size_t grootsteBlok = 128 * 1024;
 constexpr std::string_view utf8Merkteken = "\xEF\xBB\xBF";
 
 /// Een of twee NULs zijn het begin van het UTF-32-merkteken. Bestaat de hele tekst daaruit, dan wacht de

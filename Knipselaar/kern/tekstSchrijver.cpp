@@ -5,7 +5,7 @@
 namespace kern {
 
 namespace {
-constexpr std::size_t blokGrootte = 256 * 1024;
+constexpr std::size_t blokGrootte = 128 * 1024;
 }
 
 TekstSchrijver::TekstSchrijver(wxOutputStream& uitvoer) : uitvoer_(uitvoer), gelukt_(uitvoer.IsOk()) {}
