@@ -84,8 +84,8 @@ std::string_view Vulling::geef(const kern::Blok& blok) {
     return geheel;
 }
 
-/// Het regeleinde van de beginmarker. In een groot bestand is die regel alweer uit de cache; wie niet hoeft te
-/// kijken, wacht niet op elk blok.
+/// Het regeleinde van de beginmarker. In een groot bestand is die regel alweer uit de cache; wie niet hoeft
+/// te kijken, wacht niet op elk blok.
 std::string_view Vulling::kiesRegeleinde(const kern::Blok& blok) const {
     if (bron_.heeftAlleenLF()) {
         return "\n";
