@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "Knipselaar/kern/blokgrootte.h"
 #include "Knipselaar/kern/systeem/aantekening.h"
 #include "Knipselaar/kern/systeem/bestand.h"
 #include "Knipselaar/kern/systeem/buurbestand.h"
@@ -18,7 +19,6 @@ using std::filesystem::perms;
 constexpr std::size_t leesBlok = 256 * 1024;
 /// Eén byte om het einde mee te vinden, en één voor wie er nog iets achter wil.
 constexpr std::size_t kleinsteRuimte = 2;
-constexpr std::size_t schrijfBlok = 128 * 1024;
 
 [[noreturn]] void gooi(const std::string& pad, const char* wat, const std::error_code& fout) {
     throw Fout(pad + ": kan niet " + wat + " worden: " + noemReden(fout));
@@ -120,14 +120,15 @@ Inhoud leesInhoud(const std::string& pad) {
 }
 
 void schrijfAlles(int kanaal, const Stukken& stukken) {
-    std::array<char, schrijfBlok> plaats;  // NOLINT(cppcoreguidelines-pro-type-member-init): wordt gevuld
+    std::array<char, kern::blokGrootte>
+        plaats;  // NOLINT(cppcoreguidelines-pro-type-member-init): wordt gevuld
     kern::Bytes blok = kern::Bytes::leen(plaats);
     stukken([&](std::string_view stuk) {
-        if (blok.geef().size() + stuk.size() > schrijfBlok) {
+        if (blok.geef().size() + stuk.size() > kern::blokGrootte) {
             schrijfBytes(kanaal, blok.geef());
             blok.zetLengte(0);
         }
-        if (stuk.size() > schrijfBlok) {
+        if (stuk.size() > kern::blokGrootte) {
             schrijfBytes(kanaal, stuk);
         } else {
             blok.voegToe(stuk);

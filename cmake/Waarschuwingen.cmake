@@ -25,6 +25,7 @@ target_compile_options(knipselaar_testregels INTERFACE -O0)
 if(KNIPSELAAR_DEKKING)
   # Draden tellen samen. Zonder atomair verdwijnt er dan af en toe een telling, en van een tak is de telling een
   # verschil van twee: een tak die een enkele keer doorlopen is, lijkt dan soms nooit doorlopen.
-  target_compile_options(knipselaar_regels INTERFACE -fprofile-instr-generate -fcoverage-mapping -fprofile-update=atomic)
+  target_compile_options(knipselaar_regels INTERFACE -fprofile-instr-generate -fcoverage-mapping
+                         -fprofile-update=atomic)
   target_link_options(knipselaar_controles INTERFACE -fprofile-instr-generate)
 endif()

@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <cstring>
 
+#include "Knipselaar/kern/blokgrootte.h"
+
 namespace kern {
 
 namespace {
 
-// Het eerste blok is klein: een groot blok klaarleggen kost meer dan een gemiddeld bestand knippen. Daarna
-// verdubbelt het, zolang het met wat er van gemaakt wordt ruim in de cache van één kern past.
-constexpr std::size_t grootsteBlok = 128 * 1024;
 constexpr std::string_view utf8Merkteken = "\xEF\xBB\xBF";
 
 /// Een of twee NULs zijn het begin van het UTF-32-merkteken. Bestaat de hele tekst daaruit, dan wacht de
@@ -50,7 +49,8 @@ void TekstLezer::vulAan() {
         plaats.maakPlaats(blok_);
         char* begin = plaats.geefBegin() + plaats.geef().size();
         gelezen = {begin, invoer_.Read(begin, blok_).LastRead()};
-        blok_ = std::min(2 * blok_, grootsteBlok);
+        // Begint klein: een groot blok klaarleggen kost meer dan een gemiddeld bestand knippen.
+        blok_ = std::min(2 * blok_, blokGrootte);
     }
     if (!begonnen_) {
         begonnen_ = true;

@@ -1,12 +1,9 @@
 #include "Knipselaar/kern/tekstSchrijver.h"
 
+#include "Knipselaar/kern/blokgrootte.h"
 #include "Knipselaar/kern/regeleinden.h"
 
 namespace kern {
-
-namespace {
-constexpr std::size_t blokGrootte = 128 * 1024;
-}
 
 TekstSchrijver::TekstSchrijver(wxOutputStream& uitvoer) : uitvoer_(uitvoer), gelukt_(uitvoer.IsOk()) {}
 

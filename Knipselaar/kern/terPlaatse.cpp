@@ -5,6 +5,7 @@
 
 #include <array>
 
+#include "Knipselaar/kern/blokgrootte.h"
 #include "Knipselaar/kern/systeem/buurbestand.h"
 #include "Knipselaar/kern/systeem/paden.h"
 #include "Knipselaar/kern/systeem/reden.h"
@@ -13,8 +14,6 @@
 namespace kern {
 
 namespace {
-
-constexpr std::size_t blokGrootte = 128 * 1024;
 
 std::error_code kopieerInhoud(int bron, int doel) {
     std::array<char, blokGrootte> blok;  // NOLINT(cppcoreguidelines-pro-type-member-init): lees vult hem

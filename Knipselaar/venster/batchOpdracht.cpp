@@ -146,11 +146,10 @@ class TerPlaatseBatch : public VensterBatch {
         VensterBatch::meldOvergeslagen(nummer, bestand, reden);
     }
 
-    void meldVerwerkt(long nummer, const wxFileName& bestand, const wxFileName& /*zelfde*/) override {
+    void meldVerwerkt(long nummer, const wxFileName& bron, const wxFileName& bestemming) override {
         bronLog_.geefEditor().SetForegroundColour(blauw_);
-        const wxString pad = bestand.GetFullPath();
-        bronLog_.voegToe(kern::regelOrigineel(nummer, pad));
-        doelLog_.voegToe(kern::regelStudent(nummer, pad));
+        bronLog_.voegToe(kern::regelOrigineel(nummer, bron.GetFullPath()));
+        doelLog_.voegToe(kern::regelStudent(nummer, bestemming.GetFullPath()));
     }
 
   private:

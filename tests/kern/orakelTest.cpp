@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <random>
 
 #include "Knipselaar/kern/bestandKnipper.h"
