@@ -172,10 +172,11 @@ std::optional<Regel> BijnaZoeker::zoekRegel(std::string_view regels, std::size_t
         if (einde == std::string_view::npos) {
             break;
         }
-        std::size_t laatste = einde;
-        do {
+        // Op plek kan zelf een bijzaak staan: samengenomen is een tab bijvoorbeeld een haakje.
+        std::size_t laatste = einde - 1;
+        while (laatste > plek && isBijzaak(regels[laatste])) {
             --laatste;
-        } while (isBijzaak(regels[laatste]));  // op plek staat er geen
+        }
         plek = einde + 1;
         if (kanEindigen_[static_cast<unsigned char>(regels[laatste])]) {
             return Regel{begin, plek};

@@ -132,14 +132,15 @@ TEST(BijnaZoeker, ZoektAlsRegelVoorRegel) {
                                            reeks({"a", "b", "c", "?a"}),
                                            reeks({"\nab", "_B", "0c", "\x10"}),
                                            reeks({"", "*"}),
+                                           reeks({")a", "+b", ",", "\x03x"}),
                                            reeks({"kk", "a\u00A0b"})};
     const std::vector<std::string> stukjes{
-        "a",    "A",         "b",      "B",      "c",    "C",    "k",  "?",
-        "_",    "0",         "x",      " ",      "\t",   "\v",   "\f", "\r",
-        "/",    "*",         "-",      "#",      "\n",   "\n",   "\n", "\n",
-        "é",    "É",         "\u00A0", "\u212A", "\xE9", "\xA0", "ß",  std::string(1, '\0'),
-        "\x7F", "\x10",      "\x01",   "\x02",   "A ",   "a/b",  "  ", "//  ",
-        "ab\n", "\n// ab\n", "\nAéb\n"};
+        "a",      "A",    "b",    "B",    "c",      "C",      "k",    "?",    "_",    "0",
+        "x",      " ",    "\t",   "\v",   "\f",     "\r",     ")",    "+",    ",",    "\x03",
+        ")a",     "\t\n", "\f\n", ", ",   "/",      "*",      "-",    "#",    "\n",   "\n",
+        "\n",     "\n",   "é",    "É",    "\u00A0", "\u212A", "\xE9", "\xA0", "ß",    std::string(1, '\0'),
+        "\x7F",   "\x10", "\x01", "\x02", "A ",     "a/b",    "  ",   "//  ", "ab\n", "\n// ab\n",
+        "\nAéb\n"};
     std::size_t gevonden = 0;
     for (int keer = 0; keer < 40'000; ++keer) {
         // Met weinig verschillende stukjes staat er eerder iets wat lijkt.
@@ -169,6 +170,18 @@ TEST(BijnaZoeker, KijktNietVoorbijHetEinde) {
                                          geheel.begin() + static_cast<std::ptrdiff_t>(eind));
             const std::string_view regels(deel.data(), deel.size());
             ASSERT_EQ(zoekPerRegel(zoeker, regels), zoekAlle(zoeker, regels)) << begin << " " << eind;
+        }
+    }
+}
+
+TEST(BijnaZoeker, KijktNietVoorbijHetBeginVanEenRegelMetAlleenBijzaken) {
+    // Met het bit dat een kleine letter maakt is een tab een haakje, een formfeed een komma, 0x03 een hekje.
+    for (const auto& [marker, bijzaak] :
+         {std::pair{")x", "\t"}, {",x", "\f"}, {"+x", "\v"}, {"\x03x", "#"}}) {
+        const BijnaZoeker zoeker({BijnaMarker(marker)});
+        for (const char* regel : {"", " "}) {
+            const std::string geheel = std::string("x") + bijzaak + regel + "\n";
+            EXPECT_FALSE(zoeker.zoekRegel(std::string_view(geheel).substr(1), 0)) << marker;
         }
     }
 }
