@@ -122,7 +122,7 @@ std::string noemDeel(std::size_t begin, std::size_t aantal) {
 }
 
 /// Een naam die "patch" ongeschonden leest; die met bijzondere tekens komt tussen aanhalingstekens.
-std::string schrijfNaam(std::string_view naam) {
+std::string citeerVoorPatch(std::string_view naam) {
     const auto isBijzonder = [](char teken) {
         return static_cast<unsigned char>(teken) < 0x20 || teken == '"' || teken == '\\' || teken == 0x7F;
     };
@@ -195,7 +195,7 @@ std::string maakVerschil(std::string_view naam, std::string_view ruw,
         return {};
     }
     // De tab sluit de naam af, ook een met spaties.
-    const std::string naamRegel = schrijfNaam(naam) + "\t\n";
+    const std::string naamRegel = citeerVoorPatch(naam) + "\t\n";
     std::string uit = "--- " + naamRegel + "+++ " + naamRegel;
     Stukschrijver schrijver(regelaar.geefOud(), uit);
     std::ptrdiff_t verschuiving = 0;

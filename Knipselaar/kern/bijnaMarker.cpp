@@ -15,7 +15,7 @@ namespace {
 namespace simd = std::experimental;
 
 /// Zoveel bytes als de machine in één stap bekijkt.
-using Vak = simd::native_simd<unsigned char>;
+using Bytevak = simd::native_simd<unsigned char>;
 
 constexpr unsigned char eersteNietAscii = 0x80;
 
@@ -85,19 +85,19 @@ Byte neemLettersSamen(const Byte& byte) {
 /// buren zeggen van bijna elke byte dat het niet zo is; het vak heeft er daarom aan weerszijden nog een.
 /// @param beginnen  van elke marker een vak vol met het eerste teken dat telt, en een met het tweede.
 auto zoekBeginnen(const char* vak, std::span<const char> beginnen) {
-    const Vak ervoor(vak - 1, simd::element_aligned);
-    const Vak hier(vak, simd::element_aligned);
-    const Vak erna(vak + 1, simd::element_aligned);
-    const Vak letter = neemLettersSamen(hier);
-    const Vak volgende = neemLettersSamen(erna);
+    const Bytevak ervoor(vak - 1, simd::element_aligned);
+    const Bytevak hier(vak, simd::element_aligned);
+    const Bytevak erna(vak + 1, simd::element_aligned);
+    const Bytevak letter = neemLettersSamen(hier);
+    const Bytevak volgende = neemLettersSamen(erna);
     const auto geenLetter = erna < voorbijBijzaken || erna >= eersteNietAscii;
-    const auto isVervolg = (erna & Vak(0xC0)) == 0x80;  // van een teken buiten ASCII
+    const auto isVervolg = (erna & Bytevak(0xC0)) == 0x80;  // van een teken buiten ASCII
     // Een teken buiten ASCII kan niet meetellen of een kleine letter hebben die ASCII is. Alleen een letter
     // van West-Europa doet dat nooit, en die komt in teksten veel voor.
     auto kan = hier >= eersteNietAscii && isVervolg && hier != westEuropees;
-    for (std::size_t plek = 0; plek < beginnen.size(); plek += 2 * Vak::size()) {
-        const Vak eerste(&beginnen[plek], simd::element_aligned);
-        const Vak tweede(&beginnen[plek + Vak::size()], simd::element_aligned);
+    for (std::size_t plek = 0; plek < beginnen.size(); plek += 2 * Bytevak::size()) {
+        const Bytevak eerste(&beginnen[plek], simd::element_aligned);
+        const Bytevak tweede(&beginnen[plek + Bytevak::size()], simd::element_aligned);
         kan |= letter == eerste && (geenLetter || volgende == tweede);
     }
     return kan && ervoor < voorbijBijzaken;
@@ -105,10 +105,10 @@ auto zoekBeginnen(const char* vak, std::span<const char> beginnen) {
 
 /// Hetzelfde aan het begin of het einde van de regels, waar een vak over hun rand heen steekt.
 auto zoekBeginnenAanRand(std::string_view regels, std::size_t plek, std::span<const char> beginnen) {
-    std::array<char, Vak::size() + 2> bytes;
+    std::array<char, Bytevak::size() + 2> bytes;
     bytes.fill('-');  // een bijzaak, en niet met een ander teken samen te nemen: daar begint nooit iets
     const std::size_t ervoor = plek == 0 ? 0 : 1;
-    regels.copy(bytes.data() + 1 - ervoor, Vak::size() + 1 + ervoor, plek - ervoor);
+    regels.copy(bytes.data() + 1 - ervoor, Bytevak::size() + 1 + ervoor, plek - ervoor);
     return zoekBeginnen(bytes.data() + 1, beginnen);
 }
 
@@ -152,8 +152,8 @@ BijnaZoeker::BijnaZoeker(std::vector<BijnaMarker> markers) : markers_(std::move(
         }
     }
     for (const auto& [eerste, tweede] : beginnen) {
-        beginnen_.insert(beginnen_.end(), Vak::size(), neemLettersSamen(eerste));
-        beginnen_.insert(beginnen_.end(), Vak::size(), neemLettersSamen(tweede));
+        beginnen_.insert(beginnen_.end(), Bytevak::size(), neemLettersSamen(eerste));
+        beginnen_.insert(beginnen_.end(), Bytevak::size(), neemLettersSamen(tweede));
     }
 }
 
@@ -189,8 +189,8 @@ std::size_t BijnaZoeker::zoekBegin(std::string_view regels, std::size_t vanaf) c
     if (beginnen_.empty()) {
         return std::string_view::npos;
     }
-    for (std::size_t plek = vanaf; plek < regels.size(); plek += Vak::size()) {
-        const bool isRand = plek == 0 || regels.size() - plek <= Vak::size();
+    for (std::size_t plek = vanaf; plek < regels.size(); plek += Bytevak::size()) {
+        const bool isRand = plek == 0 || regels.size() - plek <= Bytevak::size();
         const auto gevonden = isRand ? zoekBeginnenAanRand(regels, plek, beginnen_)
                                      : zoekBeginnen(regels.data() + plek, beginnen_);
         if (simd::any_of(gevonden)) {

@@ -40,40 +40,38 @@ class CliKeuze : public proef::Cli {
     }
 };
 
-using Namen = std::vector<std::string>;
-
 }  // namespace
 
 TEST_F(CliKeuze, KentDeKeuzesVanHetVenster) {
-    const Namen talen{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl"};
+    const Woorden talen{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl"};
     EXPECT_EQ(talen, kies({}));
     EXPECT_EQ(talen, kies({"--keuze", "talen"}));
-    EXPECT_EQ((Namen{"d.vhd", "e.vhdl"}), kies({"-k", "vhdl"}));
-    EXPECT_EQ((Namen{"G.C", "Makefile", "a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl", "f.txt"}),
+    EXPECT_EQ((Woorden{"d.vhd", "e.vhdl"}), kies({"-k", "vhdl"}));
+    EXPECT_EQ((Woorden{"G.C", "Makefile", "a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl", "f.txt"}),
               kies({"--keuze=alles"}));
 }
 
 TEST_F(CliKeuze, KentMaskers) {
-    EXPECT_EQ((Namen{"a.c"}), kies({"--masker", "*.c"}));
-    EXPECT_EQ((Namen{"Makefile", "a.c"}), kies({"-m", "*.c", "-m", "Make*"}));
-    EXPECT_EQ((Namen{"a.c", "sub/h.c"}), kies({"-r", "-m", "*.c"}));
-    EXPECT_EQ((Namen{"sub/h.c"}), kies({"-r", "-m", "sub/*.c"}));
-    EXPECT_EQ((Namen{"a.c", "c.h"}), kies({"-m", "?.[ch]"}));
+    EXPECT_EQ((Woorden{"a.c"}), kies({"--masker", "*.c"}));
+    EXPECT_EQ((Woorden{"Makefile", "a.c"}), kies({"-m", "*.c", "-m", "Make*"}));
+    EXPECT_EQ((Woorden{"a.c", "sub/h.c"}), kies({"-r", "-m", "*.c"}));
+    EXPECT_EQ((Woorden{"sub/h.c"}), kies({"-r", "-m", "sub/*.c"}));
+    EXPECT_EQ((Woorden{"a.c", "c.h"}), kies({"-m", "?.[ch]"}));
     schrijf("bron/sub/diep/m.c", bron);
-    EXPECT_EQ((Namen{"sub/h.c"}), kies({"-r", "-m", "sub/*.c"}))
+    EXPECT_EQ((Woorden{"sub/h.c"}), kies({"-r", "-m", "sub/*.c"}))
         << "een joker past niet op een schuine streep";
 }
 
 TEST_F(CliKeuze, LaatVerborgenEnVersiebeheerWeg) {
-    const Namen talen{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl", "sub/h.c"};
+    const Woorden talen{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl", "sub/h.c"};
     EXPECT_EQ(talen, kies({"-r"}));
-    EXPECT_EQ((Namen{".geheim.c", ".verborgen/i.c", "a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl", "sub/h.c"}),
+    EXPECT_EQ((Woorden{".geheim.c", ".verborgen/i.c", "a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl", "sub/h.c"}),
               kies({"-r", "--verborgen"}));
     EXPECT_EQ(
-        (Namen{".git/j.c", "CVS/k.c", "a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl", "sub/.svn/l.c", "sub/h.c"}),
+        (Woorden{".git/j.c", "CVS/k.c", "a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl", "sub/.svn/l.c", "sub/h.c"}),
         kies({"-r", "--versiebeheer"}));
-    EXPECT_EQ((Namen{".geheim.c", ".git/j.c", ".verborgen/i.c", "CVS/k.c", "a.c", "b.cpp", "c.h", "d.vhd",
-                     "e.vhdl", "sub/.svn/l.c", "sub/h.c"}),
+    EXPECT_EQ((Woorden{".geheim.c", ".git/j.c", ".verborgen/i.c", "CVS/k.c", "a.c", "b.cpp", "c.h", "d.vhd",
+                       "e.vhdl", "sub/.svn/l.c", "sub/h.c"}),
               kies({"-r", "-x", "--versiebeheer"}));
 }
 
@@ -118,16 +116,17 @@ TEST_F(CliKeuze, MeldtWatGeenGewoonBestandIs) {
 }
 
 TEST_F(CliKeuze, LaatWegWatOpEenMaskerPast) {
-    EXPECT_EQ((Namen{"a.c", "c.h", "d.vhd", "sub/h.c"}), kies({"-r", "-w", "*.cpp", "--weglaten", "*.vhdl"}));
-    EXPECT_EQ((Namen{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl"}), kies({"-r", "-w", "sub"}))
+    EXPECT_EQ((Woorden{"a.c", "c.h", "d.vhd", "sub/h.c"}),
+              kies({"-r", "-w", "*.cpp", "--weglaten", "*.vhdl"}));
+    EXPECT_EQ((Woorden{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl"}), kies({"-r", "-w", "sub"}))
         << "een directory met alles erin";
-    EXPECT_EQ((Namen{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl"}), kies({"-r", "-w", "sub/*.c"}));
-    EXPECT_EQ((Namen{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl", "sub/h.c"}), kies({"-r", "-w", "b/h.c"}))
+    EXPECT_EQ((Woorden{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl"}), kies({"-r", "-w", "sub/*.c"}));
+    EXPECT_EQ((Woorden{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl", "sub/h.c"}), kies({"-r", "-w", "b/h.c"}))
         << "met een schuine streep erin geldt het masker voor het hele pad";
-    EXPECT_EQ((Namen{"a.c", "c.h", "e.vhdl"}), kies({"-w", "b*", "-w", "d.*", "-w", "C.H"}))
+    EXPECT_EQ((Woorden{"a.c", "c.h", "e.vhdl"}), kies({"-w", "b*", "-w", "d.*", "-w", "C.H"}))
         << "ook zonder -r";
-    EXPECT_EQ((Namen{"a.c"}), kies({"-m", "[ab].c*", "-w", "b*"})) << "weglaten gaat voor kiezen";
-    EXPECT_EQ((Namen{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl"}), kies({"-w", "*.py"}))
+    EXPECT_EQ((Woorden{"a.c"}), kies({"-m", "[ab].c*", "-w", "b*"})) << "weglaten gaat voor kiezen";
+    EXPECT_EQ((Woorden{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl"}), kies({"-w", "*.py"}))
         << "een masker waar niets op past is geen fout";
 }
 
@@ -172,7 +171,7 @@ TEST_F(CliKeuze, KniptWatGenoemdIsOokAlsHetOpEenMaskerOmWegTeLatenPast) {
     EXPECT_EQ(goed("2 bestanden geknipt, 2 blokken\n"),
               draai({"-vX", "-w", "*.c", "-w", "bron/", "-n", "uit", "bron/a.c", "bron/sub/h.c"}));
     EXPECT_EQ((Boom{{"a.c", knipselX}, {"h.c", knipselX}}), leesBoom("uit"));
-    EXPECT_EQ((Namen{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl"}), kies({"-w", "bron"}))
+    EXPECT_EQ((Woorden{"a.c", "b.cpp", "c.h", "d.vhd", "e.vhdl"}), kies({"-w", "bron"}))
         << "ook een genoemde directory";
 }
 

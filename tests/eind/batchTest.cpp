@@ -15,7 +15,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const std::string origineel = "a\n//**** Student Begin ****//\nb\n//**** Student Eind ****//\nc\n";
 const std::string geknipt =
     "a\n#error \"Dit stuk software ontbreekt.\"\n/* Beste student,\n    Dit stuk ontbreekt. Werk dit uit om "
     "de "

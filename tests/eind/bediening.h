@@ -27,6 +27,9 @@ struct Vlak {
     int hoogte = 0;
 };
 
+/// Een bestand met één blok tussen de standaardmarkers.
+inline const std::string origineel = "a\n//**** Student Begin ****//\nb\n//**** Student Eind ****//\nc\n";
+
 class Bediening : public testing::Test {
   protected:
     static constexpr const char* hoofdvenster = "^Knipselaar$";

@@ -12,8 +12,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const std::string origineel = "a\n//**** Student Begin ****//\nb\n//**** Student Eind ****//\nc\n";
-
 class Wayland : public Toegang {
   protected:
     Wayland() : Toegang(hulp::Beeldscherm::wayland) {

@@ -16,6 +16,7 @@
 #include "tests/fouten/proces.h"
 #include "tests/hulp/bestanden.h"
 #include "tests/hulp/orakel.h"
+#include "tests/kern/voorbeeld.h"
 
 namespace fs = std::filesystem;
 
@@ -24,9 +25,7 @@ namespace {
 using Klok = std::chrono::steady_clock;
 using std::chrono::microseconds;
 
-const kern::KnipTeksten teksten{"BEGIN", "EIND", "WERK"};
-
-std::string maakBron(int soort) {
+std::string maakBronVan(int soort) {
     constexpr std::size_t bytes = 20'000;
     std::string bron;
     for (int regel = 0; bron.size() < bytes; ++regel) {
@@ -47,9 +46,9 @@ class Dood : public testing::Test {
     Dood() {
         fs::create_directory(tijdelijk_);
         for (std::size_t soort = 0; soort < voor_.size(); ++soort) {
-            voor_[soort] = maakBron(static_cast<int>(soort));
+            voor_[soort] = maakBronVan(static_cast<int>(soort));
             hulp::schrijfBestand(map_ / "bron", voor_[soort]);
-            na_[soort] = orakel::knipBestand(map_ / "bron", teksten);
+            na_[soort] = orakel::knipBestand(map_ / "bron", proef::teksten);
         }
         for (std::size_t i = 0; i < aantalBestanden; ++i) {
             const fs::path directory = boom_ / std::to_string(i % 7) / std::to_string(i % 3);

@@ -20,12 +20,11 @@
 #include "tests/hulp/bestanden.h"
 #include "tests/hulp/bestandsboom.h"
 #include "tests/hulp/orakel.h"
+#include "tests/kern/voorbeeld.h"
 
 namespace fs = std::filesystem;
 
 namespace {
-
-const kern::KnipTeksten teksten{"BEGIN", "EIND", "WERK"};
 
 /// Genoeg regels voor zoveel bytes, met om de tien regels een stuk om te knippen.
 std::string maakBron(std::size_t bytes) {
@@ -137,7 +136,9 @@ class Storing : public testing::Test {
         }
     }
 
-    std::string knip(const std::string& pad) const { return orakel::knipBestand(wereld_ / pad, teksten); }
+    std::string knip(const std::string& pad) const {
+        return orakel::knipBestand(wereld_ / pad, proef::teksten);
+    }
 
     /// Doet elke storing op elke plaats waar zij kan.
     void stoorOveral(const fouten::Proces::Woorden& batch) {

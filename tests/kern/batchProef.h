@@ -17,12 +17,9 @@
 #include "tests/hulp/bestanden.h"
 #include "tests/hulp/bestandsboom.h"
 #include "tests/hulp/beweringen.h"
+#include "tests/kern/voorbeeld.h"
 
 namespace proef {
-
-inline const kern::KnipTeksten teksten{"BEGIN", "EIND", "WERK"};
-inline const std::string origineel = "a\nBEGIN\nb\nEIND\nc\n";
-inline const std::string geknipt = hulp::zetInBestand("a\nWERK\nc\n\n");
 
 /// Een overslag in woorden.
 inline std::string vertel(kern::Overslag reden) {

@@ -11,13 +11,13 @@ using proef::origineel;
 
 namespace {
 
-using Lijst = proef::Batch;
+using Directorylijst = proef::Batch;
 using Vlak = proef::Batch;
 using Boomloop = proef::Batch;
 
 }  // namespace
 
-TEST_F(Lijst, HoudtDeVolgordeVanDeDirectory) {
+TEST_F(Directorylijst, HoudtDeVolgordeVanDeDirectory) {
     for (int i = 0; i < 50; ++i) {
         hulp::schrijfBestand(boom_ / (std::to_string(i * 7919 % 100) + ".c"), "");
     }
@@ -28,7 +28,7 @@ TEST_F(Lijst, HoudtDeVolgordeVanDeDirectory) {
     EXPECT_EQ(hulp::somOp(boom_), namen);
 }
 
-TEST_F(Lijst, IsLeegZonderDirectory) {
+TEST_F(Directorylijst, IsLeegZonderDirectory) {
     EXPECT_TRUE(kern::lijstDirectory(naarWx(map_ / "bestaat-niet")).empty());
     EXPECT_TRUE(kern::lijstBoom(naarWx(map_ / "bestaat-niet")).empty());
     EXPECT_EQ((std::vector<hulp::Bewering>{{"origDir.IsOpened()", ""}, {"recurDir.IsOpened()", ""}}),
@@ -50,7 +50,7 @@ TEST_F(Boomloop, MeldtVoorElkBestandHoeVerHijIs) {
     EXPECT_EQ("0/3 1/3 2/3 ", opdracht.voortgang);
 }
 
-TEST_F(Lijst, NoemtSubdirectoriesVoorDeBestandenZelf) {
+TEST_F(Directorylijst, NoemtSubdirectoriesVoorDeBestandenZelf) {
     hulp::maakBoom(boom_, {{"a.c", ""}, {"sub/b.c", ""}, {"sub/diep/c.c", ""}});
     // Als paden: welke schuine strepen erin staan maakt niet uit.
     std::vector<fs::path> paden;

@@ -10,16 +10,14 @@
 #include "Knipselaar/kern/bestandKnipper.h"
 #include "tests/hulp/bestanden.h"
 #include "tests/hulp/beweringen.h"
+#include "tests/kern/voorbeeld.h"
 
-namespace knipproef {
+namespace proef {
 
 namespace fs = std::filesystem;
 
-inline const kern::KnipTeksten teksten{"BEGIN", "EIND", "WERK"};
 inline const std::vector<hulp::Bewering> bronNietOpen{{"origStroom.IsOk()", ""}};
 inline const std::vector<hulp::Bewering> doelNietOpen{{"uitStroom.IsOk()", ""}};
-inline const std::string origineel = "a\nBEGIN\nb\nEIND\nc\n";
-inline const std::string geknipt = hulp::zetInBestand("a\nWERK\nc\n\n");
 
 inline wxFileName naarNaam(const fs::path& pad) {
     return wxFileName(wxString::FromUTF8(pad.string()));
@@ -72,4 +70,4 @@ class BestandKnipper : public testing::Test {
     fs::path uit_ = map_ / "uit.c";
 };
 
-}  // namespace knipproef
+}  // namespace proef

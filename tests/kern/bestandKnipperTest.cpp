@@ -2,12 +2,12 @@
 
 namespace fs = std::filesystem;
 
-using knipproef::geknipt;
-using knipproef::origineel;
+using proef::geknipt;
+using proef::origineel;
 
 namespace {
 
-using BestandKnipper = knipproef::BestandKnipper;
+using BestandKnipper = proef::BestandKnipper;
 
 }  // namespace
 

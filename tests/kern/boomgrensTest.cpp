@@ -11,7 +11,7 @@ namespace fs = std::filesystem;
 namespace {
 
 /// Neemt alles en onthoudt alleen hoeveel bestanden overgeslagen werden.
-class Opdracht : public kern::BatchOpdracht {
+class Teller : public kern::BatchOpdracht {
   public:
     bool isGekozen(const wxFileName& /*bestand*/) override { return true; }
     kern::KnipUitslag knip(const wxFileName& bron, const wxFileName& bestemming) override {
@@ -34,9 +34,9 @@ TEST(Boomgrens, LigtNergensAlsDeBoomNietTeVindenIs) {
     const hulp::TijdelijkeMap map;
     const hulp::Boom vooraf{{"a.c", "a\nBEGIN\nb\nEIND\nc\n"}};
     hulp::maakBoom(map.pad(), vooraf);
-    Opdracht opdracht;
+    Teller teller;
     kern::knipBoom(wxString::FromUTF8((map / "weg").string()), {wxString::FromUTF8((map / "a.c").string())},
-                   opdracht);
-    EXPECT_EQ(1, opdracht.overgeslagen);
+                   teller);
+    EXPECT_EQ(1, teller.overgeslagen);
     EXPECT_EQ(vooraf, hulp::leesBoom(map.pad()));
 }

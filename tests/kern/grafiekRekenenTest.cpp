@@ -19,7 +19,7 @@ const wxSize veld(600, 400);
 const wxPoint linksonder(0, 0);
 
 /// De staaf als tekst, zodat een verschil te lezen is.
-std::string toon(const Staaf& staaf) {
+std::string toonStaaf(const Staaf& staaf) {
     return "x " + std::to_string(staaf.x) + ", van " + std::to_string(staaf.voet) + " tot " +
            std::to_string(staaf.top);
 }
@@ -159,7 +159,7 @@ TEST(GrafiekRekenen, DeeltDoorEenBereikVanNul) {
 
 TEST(GrafiekRekenen, ZetEenStaafOpWareGrootte) {
     const auto staaf = [](const wxPoint& punt, const wxPoint& verschuiving) {
-        return toon(grafiek::geefStaaf(punt, verschuiving, {}, {100, 50}, veld));
+        return toonStaaf(grafiek::geefStaaf(punt, verschuiving, {}, {100, 50}, veld));
     };
     EXPECT_EQ("x 110, van 350 tot 320", staaf({10, 30}, {0, 0}));
     EXPECT_EQ("x 115, van 343 tot 313", staaf({10, 30}, {5, 7})) << "de verschuiving tilt ook de voet";
@@ -169,7 +169,7 @@ TEST(GrafiekRekenen, ZetEenStaafOpWareGrootte) {
 
 TEST(GrafiekRekenen, KaptEenGeschaaldeStaafAfNaarNul) {
     const auto staaf = [](const wxPoint& punt, const wxPoint& verschuiving) {
-        return toon(grafiek::geefStaaf(punt, verschuiving, {1.5, 2.3}, {100, 50}, veld));
+        return toonStaaf(grafiek::geefStaaf(punt, verschuiving, {1.5, 2.3}, {100, 50}, veld));
     };
     // 7 * 1,5 = 10,5 en 3 * 2,3 = 6,9; de staaf kapt elk deel af voor het aan de oorsprong komt.
     EXPECT_EQ("x 110, van 350 tot 344", staaf({7, 3}, {0, 0}));
@@ -180,19 +180,21 @@ TEST(GrafiekRekenen, KaptEenGeschaaldeStaafAfNaarNul) {
 
 TEST(GrafiekRekenen, VultHetVeldMetGeschaaldeStaven) {
     const Schaal schaal = grafiek::geefSchaal(begrens({{0, 0}, {10, 20}}), {0, 0}, veld);
-    EXPECT_EQ("x 570, van 400 tot 20", toon(grafiek::geefStaaf({10, 20}, {0, 0}, schaal, linksonder, veld)));
-    EXPECT_EQ("x 285, van 400 tot 210", toon(grafiek::geefStaaf({5, 10}, {0, 0}, schaal, linksonder, veld)));
+    EXPECT_EQ("x 570, van 400 tot 20",
+              toonStaaf(grafiek::geefStaaf({10, 20}, {0, 0}, schaal, linksonder, veld)));
+    EXPECT_EQ("x 285, van 400 tot 210",
+              toonStaaf(grafiek::geefStaaf({5, 10}, {0, 0}, schaal, linksonder, veld)));
 }
 
 TEST(GrafiekRekenen, HoudtEenStaafZonderBereikBinnenInt) {
     const Schaal zonderBereik{oneindig, oneindig};
     EXPECT_EQ("x " + std::to_string(grootsteInt) + ", van 400 tot " + std::to_string(400LL - grootsteInt),
-              toon(grafiek::geefStaaf({5, 5}, {0, 0}, zonderBereik, linksonder, veld)));
+              toonStaaf(grafiek::geefStaaf({5, 5}, {0, 0}, zonderBereik, linksonder, veld)));
     EXPECT_EQ("x 0, van 400 tot 400",
-              toon(grafiek::geefStaaf({0, 0}, {0, 0}, zonderBereik, linksonder, veld)))
+              toonStaaf(grafiek::geefStaaf({0, 0}, {0, 0}, zonderBereik, linksonder, veld)))
         << "nul maal oneindig is geen getal en blijft op de as";
     EXPECT_EQ("x " + std::to_string(kleinsteInt) + ", van " + std::to_string(grootsteInt) + " tot " +
                   std::to_string(grootsteInt),
-              toon(grafiek::geefStaaf({kleinsteInt, kleinsteInt}, {-1, kleinsteInt}, {1.0, 1.0},
-                                      {-1, kleinsteInt}, veld)));
+              toonStaaf(grafiek::geefStaaf({kleinsteInt, kleinsteInt}, {-1, kleinsteInt}, {1.0, 1.0},
+                                           {-1, kleinsteInt}, veld)));
 }

@@ -4,9 +4,9 @@
 
 namespace {
 
-const kern::KnipTeksten teksten{"B", "E", "V"};
+const kern::KnipTeksten korteTeksten{"B", "E", "V"};
 const kern::Herkomst herkomst{
-    .pad = "/les/ringbuffer.c", .naam = "ringbuffer.c", .teksten = teksten, .origineel = "a\nB\nE\n"};
+    .pad = "/les/ringbuffer.c", .naam = "ringbuffer.c", .teksten = korteTeksten, .origineel = "a\nB\nE\n"};
 
 wxString noem(const wxString& pad, const kern::KnipTeksten& nu, std::string_view origineel) {
     return kern::noemVeroudering(herkomst, pad, nu, origineel);
@@ -17,12 +17,12 @@ constexpr const char* kop = "dit resultaat hoort bij ringbuffer.c; sinds het kni
 }  // namespace
 
 TEST(Herkomst, ZegtNietsZolangOpnieuwKnippenHetzelfdeGeeft) {
-    EXPECT_EQ("", noem("/les/ringbuffer.c", teksten, "a\nB\nE\n"));
+    EXPECT_EQ("", noem("/les/ringbuffer.c", korteTeksten, "a\nB\nE\n"));
 }
 
 TEST(Herkomst, NoemtHetBestandEnWatErVeranderde) {
     const wxString pad = "/les/ringbuffer.c";
-    EXPECT_EQ(wxString(kop) + "het origineel is veranderd", noem(pad, teksten, "a\n"));
+    EXPECT_EQ(wxString(kop) + "het origineel is veranderd", noem(pad, korteTeksten, "a\n"));
     EXPECT_EQ(wxString(kop) + "een marker is veranderd", noem(pad, {"X", "E", "V"}, "a\nB\nE\n"));
     EXPECT_EQ(wxString(kop) + "een marker is veranderd", noem(pad, {"B", "X", "V"}, "a\nB\nE\n"));
     EXPECT_EQ(wxString(kop) + "de vervangingstekst is veranderd", noem(pad, {"B", "E", "X"}, "a\nB\nE\n"));
@@ -36,7 +36,7 @@ TEST(Herkomst, ZegtBijEenAnderBestandAlleenDat) {
         EXPECT_EQ(wxString(kop) + "er is een ander bestand geopend of toegevoegd",
                   noem(pad, {"X", "E", "V"}, "anders"));
         EXPECT_EQ(wxString(kop) + "er is een ander bestand geopend of toegevoegd",
-                  noem(pad, teksten, "a\nB\nE\n"))
+                  noem(pad, korteTeksten, "a\nB\nE\n"))
             << "ook met dezelfde inhoud";
     }
 }

@@ -8,14 +8,14 @@
 #include <algorithm>
 
 #include "Knipselaar/kern/tekstLezer.h"
+#include "tests/kern/voorbeeld.h"
 
 using kern::Bevinding;
 using kern::Nakijken;
 using kern::Soort;
+using proef::teksten;
 
 namespace {
-
-const kern::KnipTeksten teksten{"BEGIN", "EIND", "WERK"};
 
 kern::KnipUitslag knip(wxInputStream& bron, Nakijken nakijken = Nakijken::ja) {
     wxCountingOutputStream doel;

@@ -66,7 +66,7 @@ def main():
     keuze = [int(n) for n in sys.argv[2:]] or range(1, len(breuken) + 1)
     if not (werk / ".git").exists():
         subprocess.run(["git", "clone", "-q", str(BRON), str(werk)], check=True)
-    voer_uit(werk, "cmake", "--preset", "debug")
+    voer_uit(werk, "cmake", "--preset", "debug", "-DKNIPSELAAR_SNELLE_BOUW=OFF")
     overlevers = 0
     for nummer in keuze:
         bestand, oud, nieuw = breuken[nummer - 1]

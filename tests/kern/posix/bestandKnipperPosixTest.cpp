@@ -16,12 +16,12 @@
 
 namespace fs = std::filesystem;
 
-using knipproef::geknipt;
-using knipproef::origineel;
+using proef::geknipt;
+using proef::origineel;
 
 namespace {
 
-using BestandKnipperPosix = knipproef::BestandKnipper;
+using BestandKnipperPosix = proef::BestandKnipper;
 
 /// Een socket op schijf; te sluiten.
 int maakSocket(const fs::path& pad) {

@@ -16,7 +16,7 @@ using kern::Kenmerken;
 
 namespace {
 
-constexpr auto gewoneRechten = static_cast<fs::perms>(0750);
+constexpr auto ruimeRechten = static_cast<fs::perms>(0750);
 constexpr auto alleRechten = static_cast<fs::perms>(06750);
 
 class BuurbestandRechten : public testing::Test {
@@ -60,7 +60,7 @@ TEST_F(BuurbestandRechten, NeemtVanEenVreemdeEigenaarGeenBijzondereRechtenOver) 
     ASSERT_TRUE(!isRoot || (fchown(nieuw.geefKanaal(), niemand, niemand) == 0 && seteuid(niemand) == 0));
     EXPECT_FALSE(nieuw.vervang(van));
     ASSERT_TRUE(!isRoot || seteuid(0) == 0);
-    EXPECT_EQ(gewoneRechten, geefKenmerkenVanDoel().rechten);
+    EXPECT_EQ(ruimeRechten, geefKenmerkenVanDoel().rechten);
     EXPECT_NE(0U, geefKenmerkenVanDoel().eigenaar);
 }
 
@@ -77,8 +77,8 @@ TEST_F(BuurbestandRechten, NeemtDePlaatsVanEenLinkIn) {
         hulp::maakBoom(map_.pad(), {{"a.c", "-> elders"}});
         Buurbestand nieuw(doel_.string());
         Kenmerken oud;
-        oud.rechten = gewoneRechten;
-        EXPECT_FALSE(ruilt ? nieuw.ruil(gewoneRechten) : nieuw.vervang(oud));
+        oud.rechten = ruimeRechten;
+        EXPECT_FALSE(ruilt ? nieuw.ruil(ruimeRechten) : nieuw.vervang(oud));
         EXPECT_EQ((Boom{{"a.c", ""}}), hulp::leesBoom(map_.pad()));
         fs::remove(doel_);
     }
