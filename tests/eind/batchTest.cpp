@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "tests/eind/bediening.h"
+#include "tests/eind/langeRun.h"
 #include "tests/hulp/bestandsboom.h"
 
 namespace fs = std::filesystem;
@@ -46,11 +47,8 @@ class Batch : public Bediening {
         druk("ctrl+f");
     }
 
-    /// Begint een run van bron_ naar doel_ die een paar seconden duurt, en wacht tot hij aan de gang is.
-    void beginLangeRun() {
-        for (int i = 0; i < lang; ++i) {
-            hulp::schrijfBestand(bron_ / (std::to_string(i) + ".c"), origineel);
-        }
+    /// Begint een lange run van bron_ naar doel_; het programma staat dan stil.
+    void begin(LangeRun& run) {
         start();
         kiesModus(directoryModus);
         vulKiezer(bronVeld, bron_);
@@ -58,11 +56,7 @@ class Batch : public Bediening {
         knipPlek_ = zoek(knipKnop);
         anderePlek_ = zoek("radio button \"Enkel bestand\"");
         knip();
-        EXPECT_TRUE(hulp::wachtTot([this] { return !fs::is_empty(doel_); }));
-    }
-
-    static long tel(const fs::path& map) {
-        return std::distance(fs::directory_iterator(map), fs::directory_iterator());
+        run.houdStil(*programma_);
     }
 
     /// Het nummer van het bezigvenster; leeg als het er niet is.
@@ -102,7 +96,6 @@ class Batch : public Bediening {
         EXPECT_EQ("", fouten());
     }
 
-    static constexpr int lang = LANGE_RUN;  ///< bestanden in een lange run
     /// Te lezen voor iedereen, te veranderen door niemand.
     static constexpr fs::perms alleenLezen =
         fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read | fs::perms::others_exec;
@@ -183,29 +176,32 @@ TEST_F(Batch, MeldtEenLegeDirectory) {
 }
 
 TEST_F(Batch, LaatZienHoeVerHijIs) {
-    beginLangeRun();
+    LangeRun run(bron_, doel_);
+    begin(run);
     const std::string bezig = zoekBezigvenster();
     ASSERT_NE("", bezig);
     std::set<std::string> kiekjes;
     EXPECT_TRUE(hulp::wachtTot([&] {
+        run.gaEvenDoor();
         kiekjes.insert(kiekje(bezig));
         return kiekjes.size() == 3;
     })) << "de tekst van het begin, en twee keer een stand";
-    EXPECT_LT(tel(doel_), lang) << "de run moet nog bezig zijn";
     for (const std::string& kleuren : kiekjes) {
         EXPECT_NE(std::string::npos, kleuren.find_first_not_of(kleuren.front())) << "leeg";
     }
+    run.gaDoor();
     EXPECT_TRUE(hulp::wachtTot([] { return zoekBezigvenster().empty(); }));
-    EXPECT_EQ(lang, tel(doel_));
+    EXPECT_EQ(LangeRun::bestanden, run.tel());
     sluitAf();
 }
 
 TEST_F(Batch, LaatVervallenWatErTijdensEenRunGedruktWordt) {
-    beginLangeRun();
+    LangeRun run(bron_, doel_);
+    begin(run);
     // Alleen een tweede run brengt dit bestand terug.
     const fs::path eerste = fs::directory_iterator(bron_)->path().filename();
-    ASSERT_TRUE(hulp::wachtTot([&] { return fs::exists(doel_ / eerste) && tel(doel_) > 1; }));
-    fs::remove(doel_ / eerste);
+    run.gaEvenDoor();
+    ASSERT_TRUE(fs::remove(doel_ / eerste)) << "de run gaat in de volgorde van de directory";
     const std::string nummer = voerUit({"xdotool", "search", "--onlyvisible", "--name", hoofdvenster});
     druk("ctrl+f");
     for (const Vlak& plek : {knipPlek_, anderePlek_}) {
@@ -216,11 +212,12 @@ TEST_F(Batch, LaatVervallenWatErTijdensEenRunGedruktWordt) {
     typ("x");
     druk("ctrl+q");
     druk("alt+F4");
-    EXPECT_LT(tel(doel_), lang - 1) << "de run moet nog bezig zijn";
+    EXPECT_LT(run.tel(), LangeRun::bestanden - 1) << "de run moet nog bezig zijn";
+    run.gaDoor();
     EXPECT_TRUE(hulp::wachtTot([] { return zoekBezigvenster().empty(); }));
     EXPECT_FALSE(programma_->isAf());
     sluitAf();
-    EXPECT_EQ(lang - 1, tel(doel_));
+    EXPECT_EQ(LangeRun::bestanden - 1, run.tel());
     EXPECT_EQ("1", leesSleutel("Configuratie", "Verwerkingkeuze"));
     EXPECT_EQ(doel_, leesSleutel("Configuratie", "AangepastPad"));
 }

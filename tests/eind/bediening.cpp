@@ -211,7 +211,9 @@ void Bediening::klik(const Vlak& plek, int knop, int keren) const {
 std::string Bediening::kiekje(const std::string& venster, const Vlak& vlak) {
     const std::string uitsnede = std::to_string(vlak.breedte) + "x" + std::to_string(vlak.hoogte) + "+" +
                                  std::to_string(vlak.links) + "+" + std::to_string(vlak.boven);
-    return voerUit({"import", "-window", venster, "-crop", uitsnede, "-depth", "8", "rgb:-"});
+    // Is het venster er niet meer, dan wacht de afdruk op een klik.
+    return voerUit(
+        {"timeout", "20", "import", "-window", venster, "-crop", uitsnede, "-depth", "8", "rgb:-"});
 }
 
 bool Bediening::isBruikbaar(const std::string& ding) const {

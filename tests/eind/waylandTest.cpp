@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <set>
 
+#include "tests/eind/langeRun.h"
 #include "tests/eind/toegang.h"
 #include "tests/hulp/bestandsboom.h"
 
@@ -71,10 +72,6 @@ class Wayland : public Toegang {
         return punten.size();
     }
 
-    static long tel(const fs::path& map) {
-        return std::distance(fs::directory_iterator(map), fs::directory_iterator());
-    }
-
     void sluitAf() {
         EXPECT_TRUE(drukTot("ctrl+q", [this] { return programma_->isAf(); }));
         EXPECT_EQ(0, wachtOpEinde());
@@ -83,7 +80,6 @@ class Wayland : public Toegang {
 
     static constexpr const char* bezigvenster = "^$";  ///< heeft geen titel
     static constexpr const char* vraag = "^Bevestig$";
-    static constexpr int lang = LANGE_RUN;  ///< bestanden in een run van een paar seconden
     fs::path bron_ = omgeving_.werk() / "bron";
     fs::path doel_ = omgeving_.werk() / "doel";
 };
@@ -123,36 +119,36 @@ TEST_F(Wayland, MeldtEenLegeDirectory) {
 }
 
 TEST_F(Wayland, LaatZienHoeVerEenLangeRunIs) {
-    for (int i = 0; i < lang; ++i) {
-        hulp::schrijfBestand(bron_ / (std::to_string(i) + ".c"), origineel);
-    }
+    LangeRun run(bron_, doel_);
     beginBatch(doel_);
+    run.houdStil(*programma_);
     std::set<std::string> kiekjes;
     wachtOpVenster(bezigvenster);
     EXPECT_TRUE(hulp::wachtTot([&] {
+        run.gaEvenDoor();
         kiekjes.insert(kiekje());
         return kiekjes.size() == 3;
     })) << "de tekst van het begin, en twee keer een stand";
     // Alleen een tweede run brengt dit bestand terug.
     const fs::path eerste = fs::directory_iterator(bron_)->path().filename();
-    ASSERT_TRUE(hulp::wachtTot([&] { return fs::exists(doel_ / eerste) && tel(doel_) > 1; }));
-    fs::remove(doel_ / eerste);
+    ASSERT_TRUE(fs::remove(doel_ / eerste)) << "de run gaat in de volgorde van de directory";
     for (const std::string venster : {bezigvenster, hoofdvenster}) {
         voerUit({"swaymsg", "[title=\"" + venster + "\"] focus"});
         for (const char* toetsen : {"ctrl+f", "x", "ctrl+q", "alt+F4"}) {
             druk(toetsen);
         }
     }
-    EXPECT_LT(tel(doel_), lang - 1) << "de run moet nog bezig zijn";
+    EXPECT_LT(run.tel(), LangeRun::bestanden - 1) << "de run moet nog bezig zijn";
+    run.gaDoor();
     for (const std::string& kleuren : kiekjes) {
         EXPECT_GT(telKleuren(kleuren), 16U) << "letters op een achtergrond";
     }
     wachtTotWeg(bezigvenster);
     wachtOpVenster(hoofdvenster);
     EXPECT_FALSE(programma_->isAf());
-    EXPECT_EQ(lang - 1, tel(doel_));
+    EXPECT_EQ(LangeRun::bestanden - 1, run.tel());
     sluitAf();
-    EXPECT_EQ(lang - 1, tel(doel_));
+    EXPECT_EQ(LangeRun::bestanden - 1, run.tel());
     EXPECT_EQ(doel_, leesSleutel("Configuratie", "AangepastPad"));
 }
 

@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -169,8 +170,10 @@ Omgeving::~Omgeving() {
     unsetenv("TMPDIR");  // die directory verdwijnt nu
 }
 
-void wachtEven() {
-    poll(nullptr, 0, 10);
+void wachtEven(long blikMs) {
+    constexpr long minstensMs = 10;
+    constexpr long hoogstensMs = 50;
+    poll(nullptr, 0, static_cast<int>(std::clamp(blikMs, minstensMs, hoogstensMs)));
 }
 
 int drukte() {

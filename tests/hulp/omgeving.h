@@ -91,8 +91,10 @@ class Omgeving {
     std::vector<std::unique_ptr<Kindproces>> bedienden_;
 };
 
-/// Eén keer kort wachten tussen twee blikken op een voorwaarde van buiten dit proces.
-void wachtEven();
+/// Eén keer kort wachten tussen twee blikken op een voorwaarde van buiten dit proces. Na een blik die lang
+/// duurde langer: wie vaak kijkt, houdt op wat hij wil zien.
+/// @param blikMs  hoe lang de vorige blik duurde.
+void wachtEven(long blikMs);
 long klokMs();
 
 /// Hoeveel keer langer dan anders alles duurt: wat er wil draaien, gedeeld door de kernen.
@@ -101,11 +103,12 @@ int drukte();
 template <typename Voorwaarde>
 bool wachtTot(Voorwaarde&& voorwaarde, int hoogstensMs) {
     const long einde = klokMs() + hoogstensMs;
-    while (!voorwaarde()) {
-        if (klokMs() > einde) {
+    for (long begin = klokMs(); !voorwaarde(); begin = klokMs()) {
+        const long nu = klokMs();
+        if (nu > einde) {
             return false;
         }
-        wachtEven();
+        wachtEven(nu - begin);
     }
     return true;
 }
