@@ -69,31 +69,66 @@ auto isEersteVanTwee(const Byte& byte) {
     return byte >= static_cast<signed char>(0xC2) && byte < static_cast<signed char>(0xE0);
 }
 
+/// Bij welke bytes van een vak iets anders staat dan gewone ASCII of een deel van een teken van twee bytes.
+/// Wat er voor het vak staat zegt of het met een vervolg moet beginnen.
+template <CrLf crLf>
+auto zoekFouten(const char* vak) {
+    const Vak hier(vak, simd::element_aligned);
+    const Vak ervoor(vak - 1, simd::element_aligned);
+    const auto vervolg = hier < static_cast<signed char>(0xC0);
+    const auto einde = zoekEinden<Bytesoort::ascii, crLf>(vak);
+    return (einde && !vervolg && !isEersteVanTwee(hier)) || vervolg != isEersteVanTwee(ervoor);
+}
+
+/// Of een zoeker iets vindt in een paar vakken naast elkaar. Zonder sprong per vak: waar een accent staat is
+/// niet te voorspellen.
+template <std::size_t aantal, typename Zoek>
+bool staatIn(const char* vakken, const Zoek& zoek) {
+    auto gevonden = zoek(vakken);
+    for (std::size_t vak = 1; vak < aantal; ++vak) {
+        gevonden = gevonden || zoek(vakken + vak * Vak::size());
+    }
+    return simd::any_of(gevonden);
+}
+
 /// Aantal bytes vanaf een teken dat gewone ASCII is of hele tekens van twee bytes, per vak. Aan het begin van
-/// de bytes nul: wat er voor een vak staat zegt of het met een vervolg moet beginnen.
+/// de bytes nul: er moet iets voor een vak staan.
 template <CrLf crLf>
 std::size_t telTweetallen(std::string_view bytes, std::size_t begin) {
     if (begin == 0) {
         return 0;
     }
+    constexpr std::size_t vakken = 4;
     std::size_t plek = begin;
-    const auto isHalf = [bytes, begin, &plek] {
-        return plek > begin && isEersteVanTwee(static_cast<signed char>(bytes[plek - 1]));
+    const auto past = [bytes, &plek](std::size_t aantal) {
+        return plek + aantal * Vak::size() + vooruit<crLf> <= bytes.size();
     };
-    for (bool verder = true; verder && plek + Vak::size() + vooruit<crLf> <= bytes.size();) {
-        const auto gewoon = !zoekEinden<Bytesoort::ascii, crLf>(bytes.data() + plek);
-        if (simd::all_of(gewoon) && !isHalf()) {
-            plek += Vak::size();
-            continue;
+    // Waar een accent staat volgen er meer: dan is telkens vragen of het nog ASCII is te duur.
+    constexpr std::size_t grondigNaAccent = 16;
+    std::size_t grondig = grondigNaAccent;
+    for (; past(vakken); plek += vakken * Vak::size()) {
+        const char* hier = bytes.data() + plek;
+        if (grondig == 0) {
+            if (!staatIn<vakken>(hier, zoekEinden<Bytesoort::ascii, crLf>)) {
+                continue;
+            }
+            grondig = grondigNaAccent;
         }
-        const Vak vak(bytes.data() + plek, simd::element_aligned);
-        const Vak ervoor(bytes.data() + plek - 1, simd::element_aligned);
-        const auto vervolg = vak < static_cast<signed char>(0xC0);
-        const auto fout = !(gewoon || vervolg || isEersteVanTwee(vak)) || vervolg != isEersteVanTwee(ervoor);
-        verder = simd::none_of(fout);
-        plek += verder ? Vak::size() : static_cast<std::size_t>(simd::find_first_set(fout));
+        if (staatIn<vakken>(hier, zoekFouten<crLf>)) {
+            break;
+        }
+        grondig -= isEersteVanTwee(static_cast<signed char>(hier[vakken * Vak::size() - 1])) ? 0 : 1;
     }
-    return plek - begin - (isHalf() ? 1 : 0);
+    while (past(1)) {
+        const auto fout = zoekFouten<crLf>(bytes.data() + plek);
+        if (simd::any_of(fout)) {
+            plek += static_cast<std::size_t>(simd::find_first_set(fout));
+            break;
+        }
+        plek += Vak::size();
+    }
+    const bool isHalf = plek > begin && isEersteVanTwee(static_cast<signed char>(bytes[plek - 1]));
+    return plek - begin - (isHalf ? 1 : 0);
 }
 
 template <CrLf crLf>

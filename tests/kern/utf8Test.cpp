@@ -67,11 +67,11 @@ bool isSchoonEenvoudig(std::string_view bytes) {
     return true;
 }
 
-/// Een tekst zonder accenten, een met, en een met langere tekens; elk langer dan wat er in een stap bekeken
-/// wordt.
+/// Een tekst zonder accenten, een met, en een met langere tekens; elk langer dan wat er in twee stappen
+/// bekeken wordt.
 std::vector<std::string> geefVullingen() {
     std::vector<std::string> vullingen(3);
-    for (int i = 0; i < 25; ++i) {
+    for (int i = 0; i < 70; ++i) {
         vullingen[0] += "ab";
         vullingen[1] += i % 3 == 0 ? "a" : "\xC3\xA9";
         vullingen[2] += i % 4 == 0 ? "b" : i % 4 == 1 ? "\xE2\x82\xAC" : "\xF0\x9F\x98\x80";
@@ -286,21 +286,23 @@ TEST(Utf8, TeltKorteTekens) {
 }
 
 TEST(Utf8, TeltNietVerderDanEenHalfTekenWaarGewoneTekensOpVolgen) {
-    for (std::size_t plek = 0; plek < 40; ++plek) {
+    // Zo ver na een accent dat er weer gewone tekens verwacht worden.
+    for (std::size_t plek = 0; plek < 1500; ++plek) {
         const std::string begin = "a\xC3\xA9" + std::string(plek, 'a');
-        const std::string bytes = begin + "\xC3" + std::string(40, 'b');
-        EXPECT_EQ(begin.size(), kern::telKorteTekens(bytes));
-        EXPECT_EQ(begin.size(), kern::telKorteTekens(bytes, kern::CrLf::teltMee));
+        const std::string bytes = begin + "\xC3" + std::string(140, 'b');
+        ASSERT_EQ(begin.size(), kern::telKorteTekens(bytes));
+        ASSERT_EQ(begin.size(), kern::telKorteTekens(bytes, kern::CrLf::teltMee));
+        ASSERT_FALSE(kern::isSchoneUtf8(bytes));
     }
-    const std::string heel = "a\xC3\xA9" + std::string(200, 'a');
+    const std::string heel = "a\xC3\xA9" + std::string(2000, 'a') + "\xC3\xA9" + std::string(200, 'a');
     EXPECT_EQ(heel.size(), kern::telKorteTekens(heel));
     EXPECT_EQ(heel.size(), kern::telKorteTekens(heel, kern::CrLf::teltMee));
 }
 
 TEST(Utf8, TeltEenCrLfTussenKorteTekensAlleenMeeAlsDatGevraagdIs) {
-    for (std::size_t plek = 0; plek < 40; ++plek) {
+    for (std::size_t plek = 0; plek < 140; ++plek) {
         const std::string begin = std::string(plek, 'a') + "\xC3\xA9";
-        const std::string bytes = begin + "\r\n\xC3\xA9 en verder nog een heel vak\r";
+        const std::string bytes = begin + "\r\n\xC3\xA9 en verder nog " + std::string(140, 'b') + "\r";
         EXPECT_EQ(begin.size(), kern::telKorteTekens(bytes));
         EXPECT_EQ(bytes.size() - 1, kern::telKorteTekens(bytes, kern::CrLf::teltMee));
     }
