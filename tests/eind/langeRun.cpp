@@ -4,13 +4,14 @@
 
 #include <csignal>
 #include <string>
+#include <utility>
 
 #include "tests/eind/bediening.h"
 #include "tests/hulp/bestanden.h"
 
 namespace fs = std::filesystem;
 
-LangeRun::LangeRun(const fs::path& bron, const fs::path& doel) : doel_(doel) {
+LangeRun::LangeRun(const fs::path& bron, fs::path doel) : doel_(std::move(doel)) {
     for (long nummer = 0; nummer < bestanden; ++nummer) {
         hulp::schrijfBestand(bron / (std::to_string(nummer) + ".c"), origineel);
     }

@@ -11,7 +11,7 @@ class LangeRun {
   public:
     /// Maakt de bestanden om te knippen.
     /// @param doel  waar het programma ze geknipt neerzet.
-    LangeRun(const std::filesystem::path& bron, const std::filesystem::path& doel);
+    LangeRun(const std::filesystem::path& bron, std::filesystem::path doel);
 
     /// Wacht tot de run aan de gang is en zet het programma stil.
     /// @param programma  blijft van de aanroeper, en leeft langer.
