@@ -40,8 +40,13 @@ DesktopApp::DesktopApp(const wxString& naam)
     // Een "$" in een marker of vervangtekst is gewone tekst; de opslag zou hem anders bij het lezen als
     // omgevingsvariabele uitwerken.
     configuratie->SetExpandEnvVars(false);
-    // Het slot laat anderen alleen zien dat er een instantie loopt; een tweede mag gewoon starten.
-    instantieControle->Create(naam + wxString::Format("-%s", wxGetUserId()), geefSlotDirectory());
+    {
+        // Het slot laat anderen alleen zien dat er een instantie loopt; een tweede mag gewoon starten.
+        // Starten er twee tegelijk, of is er een gedood, dan zegt de toolkit daar iets over waar niemand iets
+        // aan heeft.
+        const wxLogNull stil;
+        instantieControle->Create(naam + wxString::Format("-%s", wxGetUserId()), geefSlotDirectory());
+    }
 
     const wxDateTime start = wxDateTime::Now();
     wxConfigBase::DontCreateOnDemand();

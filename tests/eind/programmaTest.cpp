@@ -1,5 +1,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
+#include <wx/utils.h>
 
 #include <algorithm>
 #include <csignal>
@@ -61,6 +62,8 @@ class Programma : public Bediening {
         EXPECT_EQ("", hulp::leesBestand(omgeving_.werk() / "uitvoer"));
     }
 };
+
+using Slot = Programma;
 
 }  // namespace
 
@@ -318,4 +321,22 @@ TEST_F(Programma, HoudtRegelnummersLeesbaarInEenDonkerThema) {
     EXPECT_TRUE(hulp::wachtTot(heeftContrast));
     druk("ctrl+q");
     verwachtRustigEinde();
+}
+
+// Het bestand van het slot is van elke run van deze gebruiker: deze test loopt alleen.
+TEST_F(Slot, ZwijgtOverEenSlotDatNetGemaaktWordt) {
+    const fs::path slot = "/tmp/Knipselaar-" + wxGetUserId().utf8_string();
+    const auto startEnSluit = [this] {
+        start();
+        EXPECT_TRUE(drukTot("ctrl+q", [this] { return programma_->isAf(); }));
+        verwachtRustigEinde();
+    };
+    startEnSluit();  // ruimt op wat een gedode run liet liggen
+    if (fs::exists(slot)) {
+        GTEST_SKIP() << "er loopt al een Knipselaar van deze gebruiker";
+    }
+    hulp::schrijfBestand(slot, "");
+    fs::permissions(slot, fs::perms::owner_read | fs::perms::owner_write);
+    startEnSluit();
+    fs::remove(slot);
 }
