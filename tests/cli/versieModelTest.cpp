@@ -113,7 +113,7 @@ class Bronmaker {
     Regels verwacht_;
 };
 
-kern::MarkerReeks maakMarkers() {
+kern::MarkerReeks maakModelMarkers() {
     std::vector<kern::Markerpaar> paren;
     for (std::size_t i = 0; i < aantalParen; ++i) {
         const std::string nummer = std::to_string(i);
@@ -130,7 +130,7 @@ std::string maakBreed(const std::string& tekst) {
 
 TEST(CliVersieModel, IsWatErBijHetMakenVaststond) {
     std::mt19937 toeval{11};  // NOLINT(cert-msc51-cpp): elke loop van de test maakt dezelfde bronnen
-    const kern::MarkerReeks markers = maakMarkers();
+    const kern::MarkerReeks markers = maakModelMarkers();
     const std::vector<std::string> geef{"//G"};
     for (int i = 0; i < 20'000; ++i) {
         const bool metGeef = i % 2 == 0;
