@@ -1,6 +1,6 @@
 #pragma once
 
-// Wat de tests van bestandKnipper delen: een bestand om te knippen, en wat de uitslag dan zegt.
+// Wat de tests van bestandKnipper delen: knippen van bestand naar bestand, en wat de uitslag dan zegt.
 
 #include <gtest/gtest.h>
 

@@ -5,6 +5,7 @@
 #include "Knipselaar/kern/batch.h"
 #include "tests/hulp/bestanden.h"
 #include "tests/hulp/bestandsboom.h"
+#include "tests/kern/voorbeeld.h"
 
 namespace fs = std::filesystem;
 
@@ -15,7 +16,7 @@ class Teller : public kern::BatchOpdracht {
   public:
     bool isGekozen(const wxFileName& /*bestand*/) override { return true; }
     kern::KnipUitslag knip(const wxFileName& bron, const wxFileName& bestemming) override {
-        return kern::knipBestand(bron, bestemming, kern::KnipTeksten{"BEGIN", "EIND", "WERK"});
+        return kern::knipBestand(bron, bestemming, proef::teksten);
     }
     void meldOvergeslagen(long /*nummer*/, const wxFileName& /*bestand*/, kern::Overslag reden) override {
         EXPECT_EQ(kern::Overslag::buitenBoom, reden);
@@ -32,7 +33,7 @@ class Teller : public kern::BatchOpdracht {
 
 TEST(Boomgrens, LigtNergensAlsDeBoomNietTeVindenIs) {
     const hulp::TijdelijkeMap map;
-    const hulp::Boom vooraf{{"a.c", "a\nBEGIN\nb\nEIND\nc\n"}};
+    const hulp::Boom vooraf{{"a.c", proef::origineel}};
     hulp::maakBoom(map.pad(), vooraf);
     Teller teller;
     kern::knipBoom(wxString::FromUTF8((map / "weg").string()), {wxString::FromUTF8((map / "a.c").string())},
