@@ -120,8 +120,8 @@ Inhoud leesInhoud(const std::string& pad) {
 }
 
 void schrijfAlles(int kanaal, const Stukken& stukken) {
-    std::array<char, kern::blokGrootte>
-        plaats;  // NOLINT(cppcoreguidelines-pro-type-member-init): wordt gevuld
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): wordt gevuld
+    std::array<char, kern::blokGrootte> plaats;
     kern::Bytes blok = kern::Bytes::leen(plaats);
     stukken([&](std::string_view stuk) {
         if (blok.geef().size() + stuk.size() > kern::blokGrootte) {

@@ -186,6 +186,7 @@ TEST_F(Batch, LaatZienHoeVerHijIs) {
         kiekjes.insert(kiekje(bezig));
         return kiekjes.size() == 3;
     })) << "de tekst van het begin, en twee keer een stand";
+    ASSERT_LT(run.tel(), LangeRun::bestanden) << "de run moet nog bezig zijn";
     for (const std::string& kleuren : kiekjes) {
         EXPECT_NE(std::string::npos, kleuren.find_first_not_of(kleuren.front())) << "leeg";
     }
