@@ -46,6 +46,14 @@ GrafiekVenster::GrafiekVenster(wxWindow* parent, int id, const wxPoint& pos, con
     tekeningDC.SetAxisOrientation(true, false);
     // Alleen zo roept de toolkit Layout aan bij elke nieuwe grootte, ook zonder sizer.
     SetAutoLayout(true);
+    // Onder Windows krijgt een venster zijn eerste grootte al tijdens het maken, en kwam het zonder sizer
+    // nooit aan Layout toe.
+    CallAfter([this] {
+        if (clientGrootte != GetClientSize()) {
+            Layout();
+            Refresh();
+        }
+    });
 }
 
 GrafiekVenster::~GrafiekVenster() {
@@ -68,7 +76,10 @@ wxPoint GrafiekVenster::transCoord(const wxPoint& punt) const {
 wxImage GrafiekVenster::exporteerBeeld() const {
     // ConvertToImage bewaart zijn uitkomst in de bitmap, en zolang tekening in tekeningDC zit vervalt die
     // nooit: elk later beeld zou gelijk zijn aan het eerste. Een kopie begint telkens bij wat er nu staat.
-    return tekening.GetSubBitmap(wxRect(grafiekGrootte)).ConvertToImage();
+    // Zij komt van tekeningDC zelf, want onder Windows kan niemand anders bij een bitmap die in een context
+    // zit.
+    const wxRect veld(grafiekGrootte);
+    return tekeningDC.GetAsBitmap(&veld).ConvertToImage();
 }
 
 void GrafiekVenster::zetOorsprong(const wxPoint& inOorsprong) {

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Beproeft met wine wat ./windows.sh maakte, naast hetzelfde op dit systeem.
 # Gebruik: keur-windows.sh WINDOWSBOUW LINUXBOUW CLITESTS PAKKETTEN
-#   de tests van de kern die onder Windows lopen
+#   de tests van de kern die onder Windows lopen, en die van het venster in zijn eigen hoofdlus
 #   het consoleprogramma: bestanden, uitvoer en afloop zijn die van Linux; zijn tests van buiten; onderbreken
 #   het installatieprogramma, stil: het programma komt er, en gaat er weer af zonder iets achter te laten
 #   het geïnstalleerde venster, met toetsen: één bestand, een directory en een boom, met de uitkomst van Linux
@@ -108,7 +108,7 @@ keur_hoofdletters() {
 # De tests van het consoleprogramma van buiten, op dat voor Windows. Zij starten een script, dat eerst de instellingen
 # van de test neerlegt waar Windows ze zoekt.
 keur_cli_tests() {
-    local opslag niet nogeens
+    local opslag nogeens
     opslag=$(echo "$WINEPREFIX"/drive_c/users/*/AppData/Roaming)/Knipselaar.ini
     cat >"$werk/knipselaar-cli" <<EOF
 #!/bin/sh
@@ -118,15 +118,39 @@ rm -f '$opslag'
 exec wine '$windowsbouw/KnipselaarCli/knipselaar-cli.exe' "\$@"
 EOF
     chmod +x "$werk/knipselaar-cli"
-    niet=$(sed '/^#/d; s/ .*//' "$hoofdmap/tests/windows/cli-niet.txt" | paste -s -d :)
     # Op een drukke machine verliest een programma soms zijn verbinding met wine zelf; dan gaat het nog eens.
-    if ! env KNIPSELAAR_CLI="$werk/knipselaar-cli" "$clitests" --gtest_brief=1 --gtest_filter="-$niet" >"$werk/cli" 2>&1; then
+    if ! env KNIPSELAAR_CLI="$werk/knipselaar-cli" "$clitests" --gtest_brief=1 --gtest_filter="$(zonder cli-niet.txt)" >"$werk/cli" 2>&1; then
         nogeens=$(sed -n 's/^\[  FAILED  \] \([^ ,]*\).*/\1/p' "$werk/cli" | paste -s -d :)
         [ -n "$nogeens" ] || stop "de tests van het consoleprogramma houden op: $(tail -3 "$werk/cli")"
         stil "een test van het consoleprogramma faalt onder wine" \
             env KNIPSELAAR_CLI="$werk/knipselaar-cli" "$clitests" --gtest_brief=1 --gtest_filter="$nogeens"
     fi
     rm -f "$opslag"
+}
+
+# De tests die een lijst als niet uit te voeren noemt, als filter voor GoogleTest.
+zonder() { echo "-$(sed '/^#/d; s/ .*//' "$hoofdmap/tests/windows/$1" | paste -s -d :)"; }
+
+# De tests van het venster, elk in een eigen proces: een test die blijft hangen houdt dan alleen zichzelf op.
+keur_venster_tests() {
+    local programma="$windowsbouw/tests/windows/venster_tests.exe" test nogeens=()
+    wine "$programma" --gtest_list_tests --gtest_filter="$(zonder venster-niet.txt)" |
+        tr -d '\r' | awk '/^ / { print soort $1; next } { soort = $1 }' >"$werk/venstertests"
+    [ -s "$werk/venstertests" ] || stop "er zijn geen tests van het venster"
+    while read -r test; do
+        venster_test "$test" >/dev/null 2>&1 || nogeens+=("$test")
+    done <"$werk/venstertests"
+    # Een test die de machine te druk vond, lukt daarna.
+    for test in "${nogeens[@]}"; do
+        stil "de test $test van het venster faalt onder wine" venster_test "$test"
+    done
+    vergeet_instellingen
+    echo "  $(wc -l <"$werk/venstertests") tests, ${#nogeens[@]} daarvan pas de tweede keer goed"
+}
+
+venster_test() {
+    vergeet_instellingen
+    timeout -k 5 180 wine "$programma" --gtest_brief=1 --gtest_filter="$1" </dev/null
 }
 
 # Wine maakt van SIGINT Ctrl+C. De uitkomst is STATUS_CONTROL_C_EXIT, waar hier de laatste byte van overblijft.
@@ -284,6 +308,8 @@ open_beeldscherm 1280x1024
 stil "wine start niet" wineboot -i
 echo "Keuren onder wine: tests van de kern"
 stil "een test faalt onder wine" wine "$windowsbouw/tests/windows/kern_tests.exe"
+echo "Keuren onder wine: tests van het venster, een paar minuten"
+keur_venster_tests
 echo "Keuren onder wine: het consoleprogramma"
 keur_console
 keur_hoofdletters

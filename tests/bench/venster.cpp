@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/hulp/omgeving.h"
+#include "tests/hulp/schermomgeving.h"
 #include "tests/venster/vensterTest.h"
 
 namespace {
@@ -94,7 +94,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     const std::vector<std::string> woorden(argv + 1, argv + argc);
-    const hulp::Omgeving omgeving(hulp::Beeldscherm::kaal);
+    const hulp::Schermomgeving omgeving(hulp::Beeldscherm::kaal);
     argc = 1;
     wxSetAssertHandler(nullptr);
     if (!wxEntryStart(argc, argv) || !wxGetApp().CallOnInit()) {

@@ -14,8 +14,9 @@
 #include <vector>
 
 #include "tests/eind/scherm.h"
-#include "tests/hulp/omgeving.h"
 #include "tests/hulp/opdracht.h"
+#include "tests/hulp/schermomgeving.h"
+#include "tests/hulp/wachten.h"
 
 using hulp::voerUit;
 
@@ -158,7 +159,7 @@ class Bediening : public testing::Test {
     /// De opdracht waarmee een schermlezer iets doet.
     std::vector<std::string> schermlezer(const std::vector<std::string>& vraag) const;
 
-    hulp::Omgeving omgeving_;
+    hulp::Schermomgeving omgeving_;
     std::unique_ptr<hulp::Kindproces> programma_;
 
   private:

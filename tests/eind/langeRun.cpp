@@ -8,6 +8,7 @@
 
 #include "tests/eind/bediening.h"
 #include "tests/hulp/bestanden.h"
+#include "tests/hulp/wachten.h"
 
 namespace fs = std::filesystem;
 

@@ -5,7 +5,7 @@
 
 #include <filesystem>
 
-#include "tests/hulp/omgeving.h"
+#include "tests/hulp/kindproces.h"
 
 class LangeRun {
   public:

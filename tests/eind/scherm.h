@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "tests/hulp/omgeving.h"
+#include "tests/hulp/schermomgeving.h"
 
 class Scherm {
   public:

@@ -12,7 +12,7 @@
 #include <string_view>
 #include <utility>
 
-#include "tests/hulp/omgeving.h"
+#include "tests/hulp/wachten.h"
 
 namespace {
 

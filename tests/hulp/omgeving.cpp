@@ -1,190 +1,30 @@
 #include "tests/hulp/omgeving.h"
 
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <algorithm>
-#include <chrono>
-#include <csignal>
-#include <cstdlib>
-#include <memory>
-#include <ostream>
-#include <stdexcept>
-#include <thread>
+#include "tests/hulp/variabelen.h"
 
 namespace hulp {
 
-namespace fs = std::filesystem;
-
 namespace {
 
-void leidOm(const fs::path& bestand, int kanaal) {
-    const int doel = open(bestand.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600);
-    dup2(doel, kanaal);
-    close(doel);
-}
+/// Wat de tijdelijke directory aanwijst: het eerste op POSIX, de andere onder Windows.
+constexpr auto tijdelijkeNamen = {"TMPDIR", "TMP", "TEMP"};
 
 }  // namespace
 
-Kindproces::Kindproces(const std::vector<std::string>& opdracht, const fs::path& uitvoer,
-                       const fs::path& fouten)
-    : nummer_(fork()) {
-    if (nummer_ != 0) {
-        return;
+Omgeving::Omgeving() {
+    for (const std::filesystem::path& map : {thuis(), tijdelijk(), werk()}) {
+        std::filesystem::create_directory(map);
     }
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-    leidOm(uitvoer, STDOUT_FILENO);
-    leidOm(fouten, STDERR_FILENO);
-    std::vector<char*> woorden;
-    for (const std::string& woord : opdracht) {
-        woorden.push_back(const_cast<char*>(woord.c_str()));
-    }
-    woorden.push_back(nullptr);
-    execvp(woorden[0], woorden.data());
-    _exit(127);
-}
-
-Kindproces::~Kindproces() {
-    if (!isAf()) {
-        stuur(SIGKILL);
-        waitpid(nummer_, &ruweStatus_, 0);
+    zetVariabele("HOME", thuis());
+    for (const char* naam : tijdelijkeNamen) {
+        zetVariabele(naam, tijdelijk());
     }
 }
 
-bool Kindproces::isAf() {
-    af_ = af_ || waitpid(nummer_, &ruweStatus_, WNOHANG) == nummer_;
-    return af_;
-}
-
-int Kindproces::status() const {
-    return WIFEXITED(ruweStatus_) ? WEXITSTATUS(ruweStatus_) : 128 + WTERMSIG(ruweStatus_);
-}
-
-void Kindproces::stuur(int signaal) const {
-    kill(nummer_, signaal);
-}
-
-void PrintTo(Beeldscherm beeldscherm, std::ostream* uit) {
-    *uit << (beeldscherm == Beeldscherm::wayland ? "Wayland" : "X");
-}
-
-Omgeving::Omgeving(Beeldscherm beeldscherm) {
-    for (const fs::path& map : {thuis(), werk(), map_ / "tmp", map_ / "xdg"}) {
-        fs::create_directory(map);
-    }
-    fs::permissions(map_ / "xdg", fs::perms::owner_all);
-    setenv("HOME", thuis().c_str(), 1);
-    setenv("TMPDIR", (map_ / "tmp").c_str(), 1);
-    setenv("XDG_RUNTIME_DIR", (map_ / "xdg").c_str(), 1);
-    for (const char* variabele :
-         {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS",
-          "AT_SPI_BUS_ADDRESS", "SESSION_MANAGER", "GTK_THEME", "LC_ALL", "DISPLAY"}) {
-        unsetenv(variabele);
-    }
-    setenv("LANG", "nl_NL.UTF-8", 1);
-    setenv("GSETTINGS_BACKEND", "memory", 1);  // geen instellingen van het bureaublad
-    setenv("NO_AT_BRIDGE", "1", 1);            // zolang er geen bus voor schermlezers is
-    if (beeldscherm != Beeldscherm::wayland) {
-        startX(beeldscherm == Beeldscherm::vensterbeheer);
-    }
-}
-
-void Omgeving::startX(bool metVensterbeheer) {
-    setenv("GDK_BACKEND", "x11", 1);
-    const std::string beeldscherm = startBediende(
-        {"Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"});
-    setenv("DISPLAY", (":" + beeldscherm).c_str(), 1);
-    if (metVensterbeheer) {
-        bedienden_.push_back(std::make_unique<Kindproces>(std::vector<std::string>{"openbox"},
-                                                          map_ / "openbox.log", map_ / "openbox.log"));
-        // Een venster dat er eerder is dan zijn beheerder, krijgt de toetsen niet.
-        wachtTot([] { return std::system("xdotool get_num_desktops >/dev/null 2>&1") == 0; });
-    }
-}
-
-void Omgeving::startWayland(const std::vector<std::string>& als) {
-    if (std::getenv("WAYLAND_DISPLAY") != nullptr) {
-        return;
-    }
-    // Op een bureaublad zweven vensters, en ze sluiten met deze toets.
-    const fs::path instelling = map_ / "sway.conf";
-    schrijfBestand(instelling,
-                   "xwayland disable\n"
-                   "output * resolution 1280x1024\n"
-                   "for_window [app_id=\".*\"] floating enable\n"
-                   "bindsym Mod1+F4 kill\n"
-                   "exec echo $WAYLAND_DISPLAY\n");
-    setenv("WLR_BACKENDS", "headless", 1);
-    setenv("WLR_RENDERER", "pixman", 1);
-    setenv("WLR_LIBINPUT_NO_DEVICES", "1", 1);
-    setenv("SWAYSOCK", (map_ / "xdg" / "sway").c_str(), 1);
-    std::vector<std::string> opdracht = als;
-    opdracht.insert(opdracht.end(), {"sway", "--config", instelling.string()});
-    const std::string beeldscherm = startBediende(opdracht);
-    setenv("WAYLAND_DISPLAY", beeldscherm.c_str(), 1);
-    setenv("GDK_BACKEND", "wayland", 1);
-}
-
-std::string Omgeving::startBediende(const std::vector<std::string>& opdracht) {
-    const std::string nummer = std::to_string(bedienden_.size());
-    const fs::path uitvoer = map_ / ("bediende" + nummer + ".uit");
-    const fs::path fouten = map_ / ("bediende" + nummer + ".log");
-    bedienden_.push_back(std::make_unique<Kindproces>(opdracht, uitvoer, fouten));
-    if (!wachtTot([&uitvoer] { return fs::exists(uitvoer) && leesBestand(uitvoer).ends_with('\n'); })) {
-        throw std::runtime_error(opdracht[0] + " start niet: " + leesBestand(fouten));
-    }
-    std::string regel = leesBestand(uitvoer);
-    regel.pop_back();
-    return regel;
-}
-
-void Omgeving::startSchermlezerbus(std::vector<std::string> als) {
-    if (std::getenv("DBUS_SESSION_BUS_ADDRESS") != nullptr) {
-        return;
-    }
-    // Alleen deze ene dienst: wat het bureaublad van de machine verder te bieden heeft, hoort hier niet te
-    // starten.
-    const fs::path diensten = map_ / "diensten";
-    fs::create_directory(diensten);
-    fs::copy("/usr/share/dbus-1/services/org.a11y.Bus.service", diensten);
-    const fs::path instelling = map_ / "bus.conf";
-    schrijfBestand(instelling, "<busconfig><type>session</type><listen>unix:path=" + (map_ / "bus").string() +
-                                   "</listen><servicedir>" + diensten.string() +
-                                   "</servicedir><policy context=\"default\"><allow send_destination=\"*\"/>"
-                                   "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>");
-    als.insert(als.end(),
-               {"dbus-daemon", "--config-file=" + instelling.string(), "--nofork", "--print-address"});
-    const std::string adres = startBediende(als);
-    setenv("DBUS_SESSION_BUS_ADDRESS", adres.c_str(), 1);
-    unsetenv("NO_AT_BRIDGE");
-}
-
-// Andersom dan ze gestart zijn: het beeldscherm gaat als laatste weg.
 Omgeving::~Omgeving() {
-    while (!bedienden_.empty()) {
-        bedienden_.pop_back();
+    for (const char* naam : tijdelijkeNamen) {
+        wisVariabele(naam);  // die directory verdwijnt nu
     }
-    unsetenv("TMPDIR");  // die directory verdwijnt nu
-}
-
-void wachtEven(long blikMs) {
-    constexpr long minstensMs = 10;
-    constexpr long hoogstensMs = 50;
-    poll(nullptr, 0, static_cast<int>(std::clamp(blikMs, minstensMs, hoogstensMs)));
-}
-
-int drukte() {
-    double wachtenden = 0;
-    getloadavg(&wachtenden, 1);
-    return 1 + static_cast<int>(wachtenden / std::thread::hardware_concurrency());
-}
-
-long klokMs() {
-    using namespace std::chrono;
-    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
 }
 
 }  // namespace hulp

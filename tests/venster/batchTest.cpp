@@ -1,11 +1,9 @@
 // De batches zoals de gebruiker ze uit het venster start: wat er gevraagd wordt, wat er in de editors komt te
 // staan en wat er op schijf gebeurt.
 
-#include <sys/stat.h>
 #include <wx/log.h>
 #include <wx/panel.h>
 
-#include <cstdlib>
 #include <utility>
 #include <vector>
 
@@ -55,7 +53,7 @@ TEST_F(VlakkeBatch, SchrijftHetHeleLogboek) {
     std::string doelLog = "Student dir : " + doelPad() + "\n";
     long nummer = 1;
     for (const std::string& naam : hulp::somOp(bron_)) {
-        const std::string extensie = fs::path(naam).extension();
+        const std::string extensie = fs::path(naam).extension().string();
         if (naam == "sub" || naam.starts_with('.')) {
             continue;
         }
@@ -64,7 +62,7 @@ TEST_F(VlakkeBatch, SchrijftHetHeleLogboek) {
             doelLog += "Student bestand " + std::to_string(nummer) + ":" + naam + "\n";
             ++nummer;
         } else {
-            bronLog += "Overgeslagen " + std::to_string(nummer) + ":" + bronPad() + "/" + naam + "\n";
+            bronLog += "Overgeslagen " + std::to_string(nummer) + ":" + naarTekst(bron_ / naam) + "\n";
         }
     }
     origineel()->SetText("weg hiermee");
@@ -98,7 +96,7 @@ TEST_F(VlakkeBatch, WerktDeLogboekenBijTerwijlDeRunNogLoopt) {
 TEST_F(VlakkeBatch, SlaatBijVhdlAllesOver) {
     hulp::maakBoom(bron_, {{"b.vhd", metBlok}});
     knipDirectory(1);
-    EXPECT_EQ("Originele dir : " + bronPad() + "\nOvergeslagen 1:" + bronPad() + "/b.vhd\n",
+    EXPECT_EQ("Originele dir : " + bronPad() + "\nOvergeslagen 1:" + naarTekst(bron_ / "b.vhd") + "\n",
               tekstVan(origineel()));
     EXPECT_EQ("Student dir : " + doelPad() + "\n", tekstVan(aangepast()));
     EXPECT_TRUE(fs::is_empty(doel_));
@@ -207,7 +205,7 @@ TEST_F(VlakkeBatch, LegtBijJaElkBestandLeeg) {
     hulp::maakBoom(bron_, {{"a.c", metBlok}, {"x.txt", metBlok}});
     doel_ = bron_;
     beantwoordMelding(wxID_YES, [this] { knipDirectory(); });
-    EXPECT_EQ((hulp::Boom{{"a.c", "\n"}, {"x.txt", metBlok}}), hulp::leesBoom(bron_));
+    EXPECT_EQ((hulp::Boom{{"a.c", hulp::zetInBestand("\n")}, {"x.txt", metBlok}}), hulp::leesBoom(bron_));
     const auto onder = [](wxStyledTextCtrl* log, const char* begin) {
         int regel = 0;
         while (!log->GetLine(regel).StartsWith(begin)) {
@@ -223,15 +221,9 @@ TEST_F(VlakkeBatch, LegtBijJaElkBestandLeeg) {
 
 TEST_F(VlakkeBatch, VraagtOokBijEenAndereSchrijfwijze) {
     hulp::maakBoom(bron_, {{"a.c", metBlok}});
-    fs::create_directory_symlink("bron", geefOmgeving().werk() / "via");
-    for (const fs::path& ander : {geefOmgeving().werk() / "via", fs::path(bronPad() + "/."),
-                                  geefOmgeving().werk() / "" / "" / "bron", bron_ / ".." / "bron"}) {
-        lid(&Inzage::aangepastPad) = naarWx(ander);
-        lid(&Inzage::origineelPad) = naarWx(bron_);
-        modus()->SetSelection(1);
-        const auto melding = beantwoordMelding(wxID_NO, [this] { geefOpdracht(wxID_REPLACE); });
-        EXPECT_EQ("Bevestig", melding.titel) << ander;
-        EXPECT_EQ(metBlok, hulp::leesBestand(bron_ / "a.c")) << ander;
+    for (const fs::path& ander :
+         {bron_ / ".", geefOmgeving().werk() / "" / "" / "bron", bron_ / ".." / "bron"}) {
+        verwachtVraag(ander);
     }
 }
 
@@ -243,7 +235,7 @@ TEST_F(RecursieveBatch, SchrijftHetHeleLogboek) {
     std::string doelLog;
     long nummer = 1;
     for (const std::string& naam : {"sub/" + namen[0], "sub/" + namen[1], std::string("b.vhd")}) {
-        const std::string pad = doelPad() + "/" + naam + "\n";
+        const std::string pad = naarTekst(doel_ / naam) + "\n";
         if (naam == "sub/x.txt") {
             bronLog += "Overgeslagen " + std::to_string(nummer) + ":" + pad;
         } else {
@@ -309,55 +301,27 @@ TEST_F(RecursieveBatch, SchrijftZonderBoomAlleenHetTotaal) {
     EXPECT_EQ((std::vector<hulp::Bewering>{{"recurDir.IsOpened()", ""}}), hulp::neemBeweringen());
 }
 
-TEST_F(RecursieveBatch, MeldtNietDatEenBestandNietLukt) {
-    ASSERT_EQ(0, mkfifo((doel_ / "pijp.c").c_str(), 0600));
-    zonderDialoog([this] {
-        knipBoom();
-        wxLog::FlushActive();
-    });
-    EXPECT_EQ("In totaal 1 bestanden en directories gevonden in " + doelPad() +
-                  "\nOrig bestand 1:" + doelPad() + "/pijp.c\n",
-              tekstVan(origineel()));
-    hulp::neemBeweringen();
-}
-
-TEST_F(RecursieveBatch, SchrijftEenLinkDieNergensHeenWijstAlsVerwerktOp) {
-    hulp::maakBoom(doel_, {{"sub/los.c", "-> nergens"}, {"a.c", metBlok}});
-    zonderDialoog([this] {
-        knipBoom();
-        wxLog::FlushActive();
-    });
-    EXPECT_EQ("In totaal 2 bestanden en directories gevonden in " + doelPad() +
-                  "\nOrig bestand 1:" + doelPad() + "/sub/los.c\nOrig bestand 2:" + doelPad() + "/a.c\n",
-              tekstVan(origineel()));
-    EXPECT_EQ("Student bestand 1:" + doelPad() + "/sub/los.c\nStudent bestand 2:" + doelPad() + "/a.c\n",
-              tekstVan(aangepast()));
-    EXPECT_EQ((hulp::Boom{{"sub", "/"}, {"sub/los.c", "-> nergens"}, {"a.c", zonderBlok}}),
-              hulp::leesBoom(doel_));
-    hulp::neemBeweringen();
-}
-
 TEST_F(RecursieveBatch, LaatGeenTijdelijkBestandAchter) {
     hulp::maakBoom(doel_, {{"a.c", metBlok}, {"sub/b.c", metBlok}});
     knipBoom();
-    EXPECT_TRUE(fs::is_empty(std::getenv("TMPDIR")));
+    EXPECT_TRUE(fs::is_empty(geefOmgeving().tijdelijk()));
     EXPECT_EQ(3U, hulp::leesBoom(doel_).size());
 }
 
 TEST_F(Kiezen, ZetVlagPadEnHuidigBestand) {
     kiesModus(1);
-    kiesBron(bronPad() + "/");
+    kiesBron(bron_ / "");
     EXPECT_TRUE(lid(&Inzage::bronGekozen));
     EXPECT_FALSE(lid(&Inzage::bestemmingGekozen));
     EXPECT_EQ(naarWx(bron_), lid(&Inzage::origineelPad)) << "zonder scheidingsteken achteraan";
-    EXPECT_EQ(naarWx(bron_) + "/", lid(&Inzage::huidigBestand).GetFullPath());
+    EXPECT_EQ(naarWx(bron_ / ""), lid(&Inzage::huidigBestand).GetFullPath());
     laatLopen();
     EXPECT_FALSE(lid(&Inzage::pasAanKnop)->IsEnabled());
     kiesDoel(doel_);
     EXPECT_TRUE(lid(&Inzage::bestemmingGekozen));
     EXPECT_EQ(naarWx(doel_), lid(&Inzage::aangepastPad));
     EXPECT_EQ(naarWx(bron_), lid(&Inzage::origineelPad));
-    EXPECT_EQ(naarWx(doel_) + "/", lid(&Inzage::huidigBestand).GetFullPath());
+    EXPECT_EQ(naarWx(doel_ / ""), lid(&Inzage::huidigBestand).GetFullPath());
     laatLopen();
     EXPECT_TRUE(lid(&Inzage::pasAanKnop)->IsEnabled());
 }
@@ -381,7 +345,7 @@ TEST_F(Kiezen, TeltAlleenEenDirectoryDieErIs) {
         typ(lid(&Inzage::bestemmingDirKiezer), tekst);
         EXPECT_FALSE(lid(&Inzage::bestemmingGekozen)) << tekst;
         EXPECT_EQ(stap, lid(&Inzage::aangepastPad)) << tekst;
-        EXPECT_EQ(stap + "/", lid(&Inzage::huidigBestand).GetFullPath()) << tekst;
+        EXPECT_EQ(naarWx(doel_ / ""), lid(&Inzage::huidigBestand).GetFullPath()) << tekst;
         kiesDoel(doel_);
         EXPECT_TRUE(lid(&Inzage::bestemmingGekozen)) << "terug na " << tekst;
     }

@@ -6,11 +6,12 @@
 #include <string>
 
 #include "tests/hulp/bestandsboom.h"
+#include "tests/venster/dialogen.h"
 #include "tests/venster/vensterTest.h"
 
 /// Een bestand met één blok, en wat een batch ervan maakt.
 inline const std::string metBlok = "a\nBEGIN\nb\nEIND\nc\n";
-inline const std::string zonderBlok = "a\nWERK\nc\n\n";
+inline const std::string zonderBlok = hulp::zetInBestand("a\nWERK\nc\n\n");
 
 class BatchTest : public VensterTest {
   protected:
@@ -47,8 +48,18 @@ class BatchTest : public VensterTest {
         geefOpdracht(wxID_REPLACE);
     }
 
-    std::string bronPad() const { return bron_.string(); }
-    std::string doelPad() const { return doel_.string(); }
+    /// De batch van bron_ naar deze directory vraagt of dat zo hoort, en doet dan niets.
+    void verwachtVraag(const std::filesystem::path& bestemming) {
+        lid(&Inzage::aangepastPad) = naarWx(bestemming);
+        lid(&Inzage::origineelPad) = naarWx(bron_);
+        modus()->SetSelection(1);
+        const auto melding = beantwoordMelding(wxID_NO, [this] { geefOpdracht(wxID_REPLACE); });
+        EXPECT_EQ("Bevestig", melding.titel) << bestemming;
+        EXPECT_EQ(metBlok, hulp::leesBestand(bron_ / "a.c")) << bestemming;
+    }
+
+    std::string bronPad() const { return naarTekst(bron_); }
+    std::string doelPad() const { return naarTekst(doel_); }
 
     std::filesystem::path bron_ = geefOmgeving().werk() / "bron";
     std::filesystem::path doel_ = geefOmgeving().werk() / "doel";

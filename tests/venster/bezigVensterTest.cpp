@@ -51,11 +51,13 @@ class Bezig : public BatchTest {
         return nullptr;
     }
 
-    /// Alle tekst in een venster.
+    /// Alle tekst die in een venster te lezen is. Een paneel heeft onder Windows zijn naam als opschrift; dat
+    /// is nergens te zien.
     static wxString geefTekst(const wxWindow& venster) {
         wxString tekst;
         for (const wxWindow* kind : venster.GetChildren()) {
-            tekst += kind->GetLabel() + geefTekst(*kind);
+            tekst +=
+                (dynamic_cast<const wxControl*>(kind) == nullptr ? "" : kind->GetLabel()) + geefTekst(*kind);
         }
         return tekst;
     }

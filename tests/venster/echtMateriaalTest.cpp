@@ -15,7 +15,7 @@ class EchtMateriaal : public BatchTest {
         std::size_t aantal = 0;
         for (const auto& deel : fs::recursive_directory_iterator(HEADERS)) {
             if (deel.is_regular_file() && deel.path().extension() == ".h") {
-                const std::string naam = fs::relative(deel.path(), HEADERS);
+                const std::string naam = fs::relative(deel.path(), HEADERS).generic_string();
                 hulp::maakBoom(boom_, {{naam, merk(hulp::leesBestand(deel.path()), toeval)}});
                 ++aantal;
             }
@@ -62,7 +62,7 @@ TEST_F(EchtMateriaal, KniptDeDirectoryElkBestandGoed) {
     hulp::Boom verwacht;
     for (const auto& deel : fs::directory_iterator(bron_)) {
         if (deel.is_regular_file()) {
-            verwacht[deel.path().filename()] = orakelVan(deel.path());
+            verwacht[deel.path().filename().string()] = orakelVan(deel.path());
         }
     }
     knipDirectory();

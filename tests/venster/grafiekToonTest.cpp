@@ -3,8 +3,8 @@
 #include <wx/dcscreen.h>
 #include <wx/log.h>
 
-#include "tests/hulp/opdracht.h"
 #include "tests/venster/grafiekTest.h"
+#include "tests/venster/schermbeeld.h"
 #include "tests/venster/vensterTest.h"
 
 namespace {
@@ -67,20 +67,8 @@ class GrafiekToonTest : public GrafiekTest {
         return paneelGetekend_ > paneelVooraf;
     }
 
-    /// Wat de gebruiker op de plaats van het paneel ziet, van de X-server zelf. De schermcontext van de
-    /// toolkit geeft na de eerste keer steeds hetzelfde beeld.
-    [[nodiscard]] Beeld scherm() const {
-        const wxRect plaats = paneel_->GetScreenRect();
-        const std::string uitsnede =
-            wxString::Format("%dx%d+%d+%d", plaats.width, plaats.height, plaats.x, plaats.y).utf8_string();
-        const std::string punten =
-            hulp::voerUit({"import", "-window", "root", "-crop", uitsnede, "-depth", "8", "rgb:-"});
-        wxImage beeld(plaats.GetSize());
-        const auto nodig = 3U * static_cast<std::size_t>(plaats.width * plaats.height);
-        EXPECT_EQ(nodig, punten.size()) << uitsnede;
-        punten.copy(reinterpret_cast<char*>(beeld.GetData()), nodig);
-        return Beeld(beeld);
-    }
+    /// Wat de gebruiker op de plaats van het paneel ziet.
+    [[nodiscard]] Beeld scherm() const { return Beeld(neemSchermbeeld(paneel_->GetScreenRect())); }
 
     /// Zet een rode staande band op veld-x 150 tot 210 en een rode liggende op veld-y 40 tot 120.
     void tekenBanden() {
@@ -199,6 +187,7 @@ TEST_F(GrafiekToonTest, ToontDeGrootteVanLayout) {
 }
 
 TEST_F(GrafiekToonTest, OverleeftVerversenZonderGrootte) {
+    paneel_->zetPen(wxPen(*wxBLACK, 4));  // dik genoeg om op halve grootte over te blijven
     paneel_->tekenVerticaleLijn(300);
     lid(&GrafiekInzage::clientGrootte) = wxSize(0, 0);
     const Logvanger log;

@@ -26,7 +26,11 @@ bool laatLopenTot(const std::function<bool()>& voorwaarde, int hoogstensMs) {
         if (hulp::klokMs() > einde) {
             return false;
         }
-        wxEventLoopBase::GetActive()->DispatchTimeout(5);
+        constexpr int nietsGekomen = -1;
+        if (wxEventLoopBase::GetActive()->DispatchTimeout(5) == nietsGekomen) {
+            // Onder GTK hoort dat bij de lus, onder Windows bij wie haar laat lopen.
+            wxTheApp->ProcessIdle();
+        }
     }
 }
 
@@ -36,8 +40,12 @@ void laatLopen() {
     wxYield();
 }
 
-wxString naarWx(const std::filesystem::path& pad) {
-    return {pad.c_str(), wxConvFile};
+wxString naarWx(std::filesystem::path pad) {
+    return {pad.make_preferred().c_str(), wxConvFile};
+}
+
+std::string naarTekst(const std::filesystem::path& pad) {
+    return naarWx(pad).utf8_string();
 }
 
 VensterTest::VensterTest() : venster_(dynamic_cast<ParserVenster*>(wxTheApp->GetTopWindow())) {
@@ -59,7 +67,7 @@ void VensterTest::kiesModus(int keuze) const {
 }
 
 void VensterTest::metOnmogelijkeKeuze(const std::function<void()>& handeling) {
-    OnmogelijkeKeuze onmogelijk;
+    OnmogelijkeKeuze onmogelijk(*lid(&Inzage::paneel));
     wxRadioBox* echt = std::exchange(lid(&Inzage::parserModeKeuze), &onmogelijk);
     handeling();
     lid(&Inzage::parserModeKeuze) = echt;

@@ -9,6 +9,7 @@
 #include <wx/evtloop.h>
 #include <wx/filepicker.h>
 #include <wx/menu.h>
+#include <wx/panel.h>
 #include <wx/radiobox.h>
 #include <wx/stattext.h>
 #include <wx/stc/stc.h>
@@ -23,6 +24,7 @@
 #include "tests/hulp/bestanden.h"
 #include "tests/hulp/beweringen.h"
 #include "tests/hulp/omgeving.h"
+#include "tests/hulp/wachten.h"
 
 void zetOmgeving(const hulp::Omgeving& omgeving);
 const hulp::Omgeving& geefOmgeving();
@@ -33,7 +35,9 @@ bool laatLopenTot(const std::function<bool()>& voorwaarde, int hoogstensMs = 300
 /// Laat de hoofdlus alles afhandelen wat er ligt, ook het bijwerken van de bediening.
 void laatLopen();
 
-wxString naarWx(const std::filesystem::path& pad);
+/// Een pad zoals het programma het toont: met de scheidingstekens van dit systeem.
+wxString naarWx(std::filesystem::path pad);
+std::string naarTekst(const std::filesystem::path& pad);
 
 /// Geeft de tests toegang tot de leden van elk ParserVenster: via &Inzage::lid.
 class Inzage : public ParserVenster {
@@ -78,7 +82,14 @@ class Inzage : public ParserVenster {
 /// Een keuzerondje waarvan de selectie niet bestaat.
 class OnmogelijkeKeuze : public wxRadioBox {
   public:
+    explicit OnmogelijkeKeuze(wxWindow& ouder)
+        : wxRadioBox(&ouder, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxArrayString(1, &keuze_)) {
+        Hide();
+    }
     int GetSelection() const override { return 7; }
+
+  private:
+    inline static const wxString keuze_ = "enige";
 };
 
 class VensterTest : public testing::Test {
