@@ -21,8 +21,8 @@ PREPROCESSOR = re.compile(r"#\s*(?:if|ifdef|ifndef|elif)\b.*"
 
 
 def is_van_een_systeem(pad):
-    """Of een bestand in een directory voor één systeem ligt: die ligt zelf in een directory met de naam systeem."""
-    return "systeem" in pad.parts[:-2]
+    """Of een bestand in een directory voor één systeem of processor ligt: die ligt zelf in een directory die zo heet."""
+    return not {"systeem", "processor"}.isdisjoint(pad.parts[:-2])
 
 
 def bekijk(pad):

@@ -5,6 +5,8 @@
 #include <cstring>
 #include <experimental/simd>
 
+#include "Knipselaar/kern/processor/verbreding.h"
+
 namespace kern {
 
 namespace {
@@ -209,31 +211,6 @@ std::size_t neemMet(Bytes& uit, std::size_t hoogstens, const Neem& neem) {
     return genomen;
 }
 
-/// Elke byte van ISO 8859-1 in UTF-8; die van ASCII hebben genoeg aan de eerste van de twee.
-constexpr std::array<std::array<char, 2>, 256> maakLatijn1Tekens() {
-    std::array<std::array<char, 2>, 256> tekens{};
-    for (std::size_t byte = 0; byte < tekens.size(); ++byte) {
-        tekens.at(byte) = byte < 0x80 ? std::array{static_cast<char>(byte), '\0'}
-                                      : std::array{static_cast<char>(0xC0U | (byte >> 6U)),
-                                                   static_cast<char>(0x80U | (byte & 0x3FU))};
-    }
-    return tekens;
-}
-
-constexpr auto latijn1Tekens = maakLatijn1Tekens();
-
-/// Zet bytes in ISO 8859-1 om, zonder sprong: waar een accent staat is niet te voorspellen.
-/// @param doel  waar twee bytes passen voor elke byte.
-/// @return waar het volgende teken komt.
-char* verbreed(std::string_view bytes, char* doel) {
-    for (const char teken : bytes) {
-        const auto byte = static_cast<unsigned char>(teken);
-        std::memcpy(doel, latijn1Tekens[byte].data(), 2);
-        doel += 1 + (byte >> 7U);
-    }
-    return doel;
-}
-
 }  // namespace
 
 Utf8Teken leesUtf8(std::string_view bytes) {
@@ -320,15 +297,19 @@ std::size_t neemGewoneAscii(std::string_view bytes, Bytes& uit) {
 }
 
 std::size_t neemLatijn1(std::string_view bytes, Bytes& uit) {
-    return neemMet(uit, 2 * bytes.size(), [bytes](char*& doel) {
-        std::size_t plek = neemAscii(bytes, doel);
-        // Waar een accent staat, volgen er vaak meer.
-        while (const std::size_t lengte = telZonderEinden(bytes.substr(plek, Vak::size()))) {
+    static const Verbreder snel = zoekSnelleVerbreder();
+    const Verbreder verbreed = snel != nullptr ? snel : verbreedPerByte;
+    return neemMet(uit, 2 * bytes.size(), [bytes, verbreed](char*& doel) {
+        std::size_t plek = 0;
+        for (;;) {
+            const std::size_t lengte = telZonderEinden(bytes.substr(plek));
             doel = verbreed(bytes.substr(plek, lengte), doel);
             plek += lengte;
-            plek += neemAscii(bytes.substr(plek), doel);
+            if (!bytes.substr(plek).starts_with("\r\n")) {
+                return plek;
+            }
+            ++plek;
         }
-        return plek;
     });
 }
 
