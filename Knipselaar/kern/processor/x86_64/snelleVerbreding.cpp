@@ -1,6 +1,7 @@
 // Met SSSE3, dat bijna elke processor van deze soort heeft en de vertaler niet mag veronderstellen: acht
 // bytes tegelijk, zonder sprong.
 
+#include <cpuid.h>
 #include <tmmintrin.h>
 
 #include <array>
@@ -71,8 +72,16 @@ __attribute__((target("ssse3,popcnt"))) char* verbreedPerVak(std::string_view by
 }  // namespace
 
 Verbreder zoekSnelleVerbreder() {
-    return __builtin_cpu_supports("ssse3") != 0 && __builtin_cpu_supports("popcnt") != 0 ? verbreedPerVak
-                                                                                         : nullptr;
+    // Zelf gevraagd, en pas nu: __builtin_cpu_supports laat elk programma bij zijn start alles van de
+    // processor uitzoeken, en dat duurt onder een hypervisor lang.
+    constexpr unsigned soortEnMogelijkheden = 1;
+    unsigned eax = 0;
+    unsigned ebx = 0;
+    unsigned ecx = 0;
+    unsigned edx = 0;
+    constexpr unsigned nodig = bit_SSSE3 | bit_POPCNT;
+    const bool weetHet = __get_cpuid(soortEnMogelijkheden, &eax, &ebx, &ecx, &edx) != 0;
+    return weetHet && (ecx & nodig) == nodig ? verbreedPerVak : nullptr;
 }
 
 }  // namespace kern
