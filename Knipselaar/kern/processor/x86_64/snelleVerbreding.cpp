@@ -37,12 +37,12 @@ constexpr std::array<Keuze, 256> maakKeuzes() {
     return keuzes;
 }
 
-constexpr auto keuzes = maakKeuzes();
+constexpr auto alleKeuzes = maakKeuzes();
 
 /// Laat van acht paren bytes achter wat er blijft.
 /// @param breed  welke tekens geen ASCII zijn.
 __attribute__((target("ssse3,popcnt"))) char* schrijfAcht(__m128i paren, unsigned breed, char* doel) {
-    const __m128i keuze = _mm_loadu_si128(reinterpret_cast<const __m128i*>(keuzes[breed].data()));
+    const __m128i keuze = _mm_loadu_si128(reinterpret_cast<const __m128i*>(alleKeuzes[breed].data()));
     _mm_storeu_si128(reinterpret_cast<__m128i*>(doel), _mm_shuffle_epi8(paren, keuze));
     return doel + 8 + __builtin_popcount(breed);
 }
