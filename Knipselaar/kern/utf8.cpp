@@ -302,9 +302,7 @@ std::size_t neemLatijn1(std::string_view bytes, Bytes& uit) {
     return neemMet(uit, 2 * bytes.size(), [bytes, verbreed](char*& doel) {
         std::size_t plek = 0;
         for (;;) {
-            const std::size_t lengte = telZonderEinden(bytes.substr(plek));
-            doel = verbreed(bytes.substr(plek, lengte), doel);
-            plek += lengte;
+            plek += verbreed(bytes.substr(plek), doel);
             if (!bytes.substr(plek).starts_with("\r\n")) {
                 return plek;
             }

@@ -23,14 +23,17 @@ constexpr auto latijn1Tekens = maakLatijn1Tekens();
 
 }  // namespace
 
-// Zonder sprong: waar een accent staat is niet te voorspellen.
-char* verbreedPerByte(std::string_view bytes, char* doel) {
-    for (const char teken : bytes) {
-        const auto byte = static_cast<unsigned char>(teken);
-        std::memcpy(doel, latijn1Tekens[byte].data(), 2);
-        doel += 1 + (byte >> 7U);
+// Zonder sprong om een accent: waar dat staat is niet te voorspellen.
+std::size_t verbreedPerByte(std::string_view bytes, char*& doel) {
+    char* hier = doel;
+    std::size_t plek = 0;
+    for (; plek < bytes.size() && bytes[plek] != '\r' && bytes[plek] != '\0'; ++plek) {
+        const auto byte = static_cast<unsigned char>(bytes[plek]);
+        std::memcpy(hier, latijn1Tekens[byte].data(), 2);
+        hier += 1 + (byte >> 7U);
     }
-    return doel;
+    doel = hier;
+    return plek;
 }
 
 }  // namespace kern

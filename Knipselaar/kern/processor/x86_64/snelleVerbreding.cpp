@@ -47,9 +47,15 @@ __attribute__((target("ssse3,popcnt"))) char* schrijfAcht(__m128i paren, unsigne
     return doel + 8 + __builtin_popcount(breed);
 }
 
+/// Of er een CR of een NUL in een vak staat.
+__attribute__((target("ssse3,popcnt"))) bool heeftEinde(__m128i bytes) {
+    const __m128i nul = _mm_cmpeq_epi8(bytes, _mm_setzero_si128());
+    const __m128i cr = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\r'));
+    return _mm_movemask_epi8(_mm_or_si128(nul, cr)) != 0;
+}
+
 /// Zet een heel vak om.
-__attribute__((target("ssse3,popcnt"))) char* schrijfVak(const char* vak, char* doel) {
-    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(vak));
+__attribute__((target("ssse3,popcnt"))) char* schrijfVak(__m128i bytes, char* doel) {
     const __m128i isBreed = _mm_cmplt_epi8(bytes, _mm_setzero_si128());
     // De eerste byte van een breed teken is C2, en vanaf 0xC0 C3. De tweede is de byte zelf zonder bit 6.
     const __m128i hoog = _mm_and_si128(_mm_srli_epi16(bytes, 6), _mm_set1_epi8(1));
@@ -61,12 +67,19 @@ __attribute__((target("ssse3,popcnt"))) char* schrijfVak(const char* vak, char* 
     return schrijfAcht(_mm_unpackhi_epi8(eerste, tweede), breed >> 8U, doel);
 }
 
-__attribute__((target("ssse3,popcnt"))) char* verbreedPerVak(std::string_view bytes, char* doel) {
+__attribute__((target("ssse3,popcnt"))) std::size_t verbreedPerVak(std::string_view bytes, char*& doel) {
+    char* hier = doel;
+    std::size_t plek = 0;
     // Een heel vak schrijft hoogstens waar de uitkomst ervan had kunnen staan.
-    for (; bytes.size() >= vakgrootte; bytes.remove_prefix(vakgrootte)) {
-        doel = schrijfVak(bytes.data(), doel);
+    for (; plek + vakgrootte <= bytes.size(); plek += vakgrootte) {
+        const __m128i vak = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes.data() + plek));
+        if (heeftEinde(vak)) {
+            break;
+        }
+        hier = schrijfVak(vak, hier);
     }
-    return verbreedPerByte(bytes, doel);
+    doel = hier;
+    return plek + verbreedPerByte(bytes.substr(plek), doel);
 }
 
 }  // namespace
